@@ -1,0 +1,40 @@
+#pragma once
+#include "platform/box.h"
+#include "platform/progress.h"
+#include "platform/store/connection.h"
+
+#include <QDate>
+#include <QList>
+
+// The rules of the end of day: the queue becomes stock valuation, then every queued item is costed. The
+// working set is the lists as loaded, not the tables.
+struct QueuedDocument {
+    QString bookId;
+    QString reference;
+    QDate date;
+    QString contactName;
+};
+struct QueuedItem {
+    QString itemCode;
+    QString description;
+};
+
+QList<QueuedDocument> LoadPostingQueue(Connection& store, Progress& progress);
+QList<QueuedItem> LoadPostingItems(Connection& store, Progress& progress);
+
+// What the screen does at each step: its own bar and status text, the row selected.
+class EndOfDayView {
+  public:
+    virtual ~EndOfDayView() = default;
+    virtual void status(const QString& /*text*/) {}
+    virtual void start(qint64 /*maximum*/) {}
+    virtual void documentPosted(qsizetype /*index*/) {}
+    virtual void itemCosted(qsizetype /*index*/) {}
+};
+
+// Each document and each item is one unit. False for an empty list, and after a failure, whose box is added;
+// the work done stays done, and a second run completes it.
+bool PostStockValuation(Connection& store, const QList<QueuedDocument>& documents, EndOfDayView& view,
+                        Boxes& boxes);
+bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,
+                              Boxes& boxes);

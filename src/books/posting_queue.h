@@ -1,0 +1,12 @@
+#pragma once
+#include "platform/store/connection.h"
+
+#include <QDate>
+
+// The documents ("S" sales, "P" purchase) and items that wait for the end of day. One row for a document, one
+// for an item. Errors are thrown to the enclosing save.
+void QueueBookForPosting(Connection& store, const QString& bookId, const QString& reference,
+                         const QString& contact, const QDate& date);
+void QueueItemForPosting(Connection& store, const QString& itemCode);
+void RemoveForPosting(Connection& store, const QString& bookId, const QString& reference);
+bool HasPendingPosting(Connection& store);  // errors are passed over: false

@@ -1,0 +1,38 @@
+#pragma once
+#include "platform/box.h"
+#include "platform/currency.h"
+#include "platform/progress.h"
+#include "platform/store/connection.h"
+
+#include <QDate>
+
+// The ledger of stock movements and its costing, first in first out. The order of the ledger is ItemCode,
+// TransDate, BookID ("P" before "S"), ZevRef; where only the date orders rows, ties fall to BookID, ZevRef.
+
+void AddStockValuation(Connection& store, const QString& bookId, const QString& reference,
+                       const QString& contact, const QString& itemCode, const QDate& date, Currency quantity,
+                       Currency price);
+void RemoveStockValuation(Connection& store, const QString& bookId, const QString& reference);
+
+// One item: the running Balance of its rows; the SalesCost of its "S" rows; both in one scan. Only rows that
+// change are written. When layers run out the rest of a sale costs nothing. Throw StoreError, and
+// OverflowError for figures beyond the range.
+void ComputeStockBalances(Connection& store, const QString& itemCode, Progress& progress = Progress::none());
+void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& progress = Progress::none());
+
+// The value of the stock on hand: the newest layers of the period, as far as the Balance of its last row
+// goes.
+Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode);
+Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode);
+// The value of all stock on hand over its quantity, into CostPrice; 0 with no stock. A missing item adds a
+// box.
+void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes);
+
+// Every item: the figures of ComputeStockBalances and ComputeSalesCost in one ordered scan of the ledger,
+// writing only rows that change, in units of at most a quarter of a second. An item whose figures overflow
+// keeps what it has and stops no other.
+void RecomputeStockValuation(Connection& store, Progress& progress);
+
+// Keeps the master price in step with documents. Unchanged or unknown item: nothing is written.
+enum class PriceKind { Cost, Sell, Whole };
+void UpdateItemPrice(Connection& store, const QString& itemCode, PriceKind kind, Currency price);

@@ -1,0 +1,3 @@
+#include "documents/register.h"
+
+void registerDocumentScreens() {}

@@ -1,0 +1,3 @@
+#include "foundation/register.h"
+
+void registerFoundationScreens() {}

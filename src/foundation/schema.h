@@ -1,0 +1,20 @@
+#pragma once
+#include <QString>
+#include <vector>
+
+class Connection;
+
+// Registers the schema steps of this program with the store layer. Call once, before a store is opened.
+void registerSchema();
+
+// Writes the delivered store: schema, indexes, the profile row with the company name "Zevrin", the catalogue
+// of rights, a few units, the user ADMIN and the row for the master login. Throws StoreError; the file must
+// not exist.
+void makeDeliveredStore(const QString& path);
+
+// One entry of the catalogue of menu rights: its code and its name, from the menu captions.
+struct MenuRight {
+    int code;
+    const char* name;
+};
+const std::vector<MenuRight>& menuRights();

@@ -1,0 +1,10 @@
+#pragma once
+#include <QString>
+
+// The one-line setting files beside the program. Each reader sets its session value and returns it; a missing
+// file leaves the value as it was. A blank or missing "Check.ini" reads as "P".
+QString ReadPrinterIni();
+QString ReadCheckPrinterIni();
+QString ReadReceiptPrinterIni();
+QString ReadReceiptIni();
+void ReadCheckIni();

@@ -1,0 +1,3 @@
+#include "masters/register.h"
+
+void registerMasterScreens() {}

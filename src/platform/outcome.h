@@ -1,0 +1,27 @@
+#pragma once
+#include "platform/box.h"
+
+#include <variant>
+
+// What a module without a window answers to a request of a screen.
+
+// Refused: show the box, then put the focus on the control of this name (empty: leave it).
+struct Fault {
+    Box box;
+    QString focus;
+};
+
+// Undecided: show the box and call again with the answer under this key.
+struct Question {
+    QString key;
+    Box box;
+};
+
+// Done: show the collected boxes, in order.
+struct Done {
+    Boxes boxes;
+};
+
+using Outcome = std::variant<Done, Fault, Question>;
+
+inline bool isDone(const Outcome& outcome) { return std::holds_alternative<Done>(outcome); }

@@ -1,0 +1,6 @@
+#include "platform/progress.h"
+
+Progress& Progress::none() {
+    static Progress nothing;
+    return nothing;
+}

@@ -1,0 +1,64 @@
+#pragma once
+#include "platform/store/recordset.h"
+#include "platform/store/sql.h"
+#include "platform/store/store_error.h"
+
+#include <functional>
+
+struct sqlite3;
+
+// One connection to the store. Every failure is a StoreError. Values never enter SQL text: they are bound.
+//
+// The dialect that statements may use: the words True and False mean the stored -1 and 0; "SET tbl.Col ="
+// loses its table; RIGHT JOIN, parenthesised joins and "1<>1" work; text compares without regard to (ASCII)
+// case, LIKE folds all letters. Prepared statements are kept and used again.
+//
+// When another workstation holds the store, a statement is tried again for at most five seconds, calling the
+// idle hook in between, and then fails with StoreError::busy.
+class Connection {
+  public:
+    Connection();
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    // Opens an existing store with its password and brings it to this program's schema version: throws for a
+    // missing, empty, garbage, read-only file, a file of another program, a newer schema, a wrong password.
+    // Nothing is written then.
+    void open(const QString& path, const QString& password);
+    // Makes a new store file with this password and no tables. Throws when the file exists.
+    void create(const QString& path, const QString& password);
+    void close();
+    bool isOpen() const;
+    QString path() const;
+
+    // Rows of a SELECT, read to the end.
+    Recordset execute(const Sql& statement);
+    // An updatable set over one table: the rows that the clause selects ("WHERE RefNo = ?", in its order), or
+    // none for an empty clause, to add to.
+    Recordset openTable(const QString& table, const Sql& where = {});
+    // Any other statement; returns the number of rows it changed.
+    qint64 run(const Sql& statement);
+    // The same statement for many rows of values, prepared once.
+    void runMany(const QString& statement, const std::vector<QVariantList>& rows);
+
+    bool inTransaction() const { return depth_ > 0; }
+
+    // The declared types of a table's columns, upper-cased, by lower-cased column name. Read once.
+    const QHash<QString, QString>& columnTypes(const QString& table);
+
+    // Called while waiting for another workstation; null: sleep only.
+    static void setIdleHook(std::function<void()> hook);
+    // Test door: called before each statement that writes, with its text; may throw, or end the process.
+    static void setStatementHook(std::function<void(const QString&)> hook);
+
+    // The engine's own handle, for the bulk reader of this folder.
+    sqlite3* handle() const;
+
+  private:
+    friend class Transaction;
+    friend class Recordset;
+    struct Private;
+    std::unique_ptr<Private> d_;
+    int depth_ = 0;
+};

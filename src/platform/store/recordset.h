@@ -1,0 +1,60 @@
+#pragma once
+#include "platform/currency.h"
+
+#include <QDateTime>
+#include <QHash>
+#include <QString>
+#include <QVariant>
+#include <memory>
+#include <vector>
+
+class Connection;
+
+// Rows of a query, read to their end when it is opened, walked by column name (no regard to case).
+// A set opened with Connection::openTable can also add and change rows.
+//
+// Reads of a column that is not there throw StoreError; a null reads as empty text, 0, false or a null date
+// (ask isNull where it matters). Reads past the end throw StoreError noCurrentRow.
+class Recordset {
+  public:
+    bool eof() const { return position_ >= rowCount(); }
+    void moveNext() { ++position_; }
+    void moveFirst() { position_ = 0; }
+    void moveLast() { position_ = rowCount() - 1; }
+    void movePrevious() { --position_; }
+    bool bof() const { return position_ < 0; }
+    qsizetype rowCount() const { return static_cast<qsizetype>(rows_.size()); }
+
+    bool isNull(const QString& column) const;
+    QVariant value(const QString& column) const;
+    QString text(const QString& column) const;       // as stored, untrimmed
+    QString trimmed(const QString& column) const;    // without blanks at both ends
+    Currency currency(const QString& column) const;  // of a currency column
+    qint64 integer(const QString& column) const;
+    bool flag(const QString& column) const;  // any value but 0 is true
+    QDate date(const QString& column) const;
+    QDateTime dateTime(const QString& column) const;
+
+    // Only on a set of Connection::openTable. Values: QString, Currency, bool, QDate, QDateTime, qint64/int.
+    // addNew starts a row; set gives a column of it, or of the current row; update writes what was set.
+    // update throws StoreError: refused for a broken key, noCurrentRow when the row has gone.
+    void addNew();
+    void set(const QString& column, const QVariant& value);
+    void set(const QString& column, Currency value) { set(column, QVariant::fromValue(value)); }
+    void set(const QString& column, const char* value) { set(column, QString::fromUtf8(value)); }
+    void update();
+
+  private:
+    friend class Connection;
+    using Columns = QHash<QString, int>;
+    const QVariantList& current() const;
+    int columnIndex(const QString& column) const;
+
+    Connection* connection_ = nullptr;
+    QString table_;  // empty: read only
+    std::shared_ptr<const Columns> columns_;
+    std::vector<QVariantList> rows_;
+    qsizetype position_ = 0;
+    bool adding_ = false;
+    QList<std::pair<QString, QVariant>> changes_;
+};

@@ -1,0 +1,17 @@
+#pragma once
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+class Connection;
+
+// The schema as a list of numbered steps: step n takes a store of version n-1 to version n, whole or not at
+// all. The list is registered once, before a store is opened (foundation/schema.h does).
+struct SchemaStep {
+    QString reason;  // one sentence: why
+    QStringList statements;
+};
+
+void setSchemaSteps(std::vector<SchemaStep> steps);
+int schemaVersion();                       // the version this program writes: the number of steps
+void applySchemaSteps(Connection& store);  // brings an older store up; throws on a newer one

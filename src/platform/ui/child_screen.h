@@ -1,0 +1,82 @@
+#pragma once
+#include <QWidget>
+
+class QBoxLayout;
+class QFormLayout;
+class QLabel;
+
+// What a screen is opened with.
+struct ScreenArguments {
+    QString kind;     // "PO", "R", ...
+    QString key;      // of the record to show; empty: a new one, or none
+    QString caption;  // empty: the screen's own
+    bool operator==(const ScreenArguments&) const = default;
+};
+
+// A working screen: a child of the main window, a single instance, with late-bound commands: slots or
+// Q_INVOKABLEs named as the frame calls them (NewRecord, EditRecord, SaveRecord, ...). Enter moves to the
+// next field, Esc unloads.
+//
+// What a screen changes in the frame are properties that the frame reads while the screen is active:
+// deleteAllowed (Delete of the Record menu) and hidesReportMenu.
+class ChildScreen : public QWidget {
+    Q_OBJECT
+    Q_PROPERTY(bool deleteAllowed READ deleteAllowed)
+    Q_PROPERTY(bool hidesReportMenu READ hidesReportMenu)
+  public:
+    // Where the frame puts it: in the middle, or at its top left and as large as it leaves room for.
+    enum Placement { Centred, FillsFrame };
+    // How it is held: a child window of the frame, or a popup of its own window over the frame.
+    enum Kind { Child, Popup };
+
+    ChildScreen(const QString& name, const QString& caption, Placement placement = Centred,
+                Kind kind = Child);
+
+    Placement placement() const { return placement_; }
+    Kind kind() const { return kind_; }
+    virtual bool deleteAllowed() const { return true; }
+    virtual bool hidesReportMenu() const { return false; }
+
+    // Takes what it is opened with. Called before it is shown, and again when an open one is asked for;
+    // false refuses the new one (the closing question was answered with Cancel) and leaves it as it was.
+    virtual bool receive(const ScreenArguments& arguments);
+    // Closes the screen through its closing question. False when it stays.
+    bool unload();
+    // The told Form_QueryUnload: false keeps the screen open. Asked once for each attempt to close.
+    virtual bool queryUnload() { return true; }
+    // The told Form_Activate and Form_Deactivate. Deactivated means another part of this program came to the
+    // front, not a box, a picker, or another program.
+    virtual void activated() {}
+    virtual void deactivated() {}
+
+  public slots:
+    void CloseRecord() { unload(); }
+
+  signals:
+    void unloaded(ChildScreen* screen);
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    // The told Form_Unload: once, when it really closes.
+    virtual void unloading() {}
+
+  private:
+    Placement placement_;
+    Kind kind_;
+    bool closing_ = false;
+};
+
+// A screen that keeps records: with the two flags that the frame's status bar reads by name.
+class RecordScreen : public ChildScreen {
+    Q_OBJECT
+    Q_PROPERTY(bool mblnAddmode MEMBER mblnAddmode)
+    Q_PROPERTY(bool mblnUpdated MEMBER mblnUpdated)
+  public:
+    using ChildScreen::ChildScreen;
+    bool mblnAddmode = false;
+    bool mblnUpdated = false;
+};
+
+// The next field, as Enter gives it (the told "{TAB}").
+void focusNextField(QWidget* screen);

@@ -1,0 +1,56 @@
+#pragma once
+#include "platform/store/connection.h"
+
+#include <QTableView>
+
+// One column of a data grid: a heading over a column of the query, shown through a mask.
+struct GridColumn {
+    QString heading;
+    QString column;
+    enum Kind { Text, Amount, Price, Count, Date, DateTime, Flag } kind = Text;
+    int characters = 14;  // usable width, in average characters of the font
+};
+
+class GridModel;
+
+// The told data grid with its data control: a snapshot of a query that fetches as it scrolls. The first
+// screenful is one query with a limit; scrolling leaves out and repeats no row. Rows are one-lined, read
+// only, selected whole.
+class DataGrid : public QTableView {
+    Q_OBJECT
+  public:
+    DataGrid(const QString& name, const QString& dataControlName, const QList<GridColumn>& columns,
+             QWidget* parent = nullptr);
+
+    // Runs "select from where order" and shows it from the top. keyTable is the table whose rows the query
+    // lists, one row of the query for each of its rows. Throws StoreError, keeping what it showed.
+    struct Source {
+        QString columns;   // "tblSalesMaster.*, tblContactMaster.ContactName"
+        QString from;      // "tblContactMaster INNER JOIN tblSalesMaster ON ..."
+        QString keyTable;  // "tblSalesMaster"
+        Sql where;         // " WHERE RefNo = ?", or empty
+        QString order;     // " ORDER BY RefNo ASC", or empty: the store's order
+    };
+    void setSource(Connection& store, const Source& source);
+    void clearRows();
+
+    bool isEmpty() const;
+    qint64 recordCount() const;  // of the whole query, counted when asked
+    // The told "current row" of the data control: the selected one, the first one until a person moves.
+    bool hasCurrent() const;
+    QString currentText(
+        const QString& column) const;  // of any column of the query, trimmed; empty with no row
+    void selectKey(const QString& column, const QString& value);  // among the fetched rows
+    void fetchAll();                                              // for tests and exports
+
+  signals:
+    void picked();  // double click or Enter on a row
+    void headerClicked(int column);
+    void deletePressed();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    GridModel* model_;
+};

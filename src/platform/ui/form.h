@@ -1,0 +1,21 @@
+#pragma once
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+// Small builders, so that every screen labels and names its controls alike.
+namespace form {
+// A label with plain text; its buddy's accessible name is the label without the colon and mnemonic.
+QLabel* label(const QString& text, QWidget* buddy = nullptr);
+// A label and its control in a row of a grid; the control takes the columns that follow.
+void row(QGridLayout* grid, int row, int column, const QString& text, QWidget* control, int span = 1);
+QPushButton* button(const QString& name, const QString& caption, const QString& icon = {});
+// A button with a picture only: the text is its tool tip and accessible name (the told img... controls).
+QToolButton* imageButton(const QString& name, const QString& icon, const QString& text);
+QGroupBox* frame(const QString& name, const QString& caption);
+void setAccessibleFromTexts(QWidget* screen);  // gives every unnamed control the name of its buddy or text
+// Width for this many average characters of the widget's font.
+int charactersWide(const QWidget* widget, int characters);
+}  // namespace form

@@ -1,0 +1,36 @@
+#pragma once
+#include "platform/ui/child_screen.h"
+#include "platform/ui/data_grid.h"
+
+// The base of the pickers: a popup with the grid dbgSearch. Enter anywhere or a double click picks the
+// current row, hands it to the opener's function and unloads; Esc and the loss of the focus unload without a
+// pick. It unloads once, however often the fill moves the focus.
+class GridPicker : public ChildScreen {
+    Q_OBJECT
+  public:
+    // Reads a column of the picked row.
+    using Row = std::function<QString(const QString& column)>;
+    using Pick = std::function<void(const Row& row)>;
+
+    GridPicker(const QString& name, const QString& caption, const QList<GridColumn>& columns,
+               const QStringList& headerOrders, Pick pick);
+
+    // Lists the source; a click on a header lists it again in headerOrders[column].
+    void list(Connection& store, const DataGrid::Source& source);
+    DataGrid* grid() const { return grid_; }
+
+  protected:
+    void deactivated() override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void pickCurrent();
+    void reorder(int column);
+
+    DataGrid* grid_;
+    QStringList headerOrders_;
+    Pick pick_;
+    Connection* store_ = nullptr;
+    DataGrid::Source source_;
+    bool done_ = false;
+};

@@ -1,0 +1,55 @@
+#pragma once
+#include <QTreeView>
+
+// A list of rows of texts: the told list control. The texts are the data; a row is its texts in column order.
+// Amount columns stand right. Sorting by a header compares amounts as numbers and dates as dates.
+struct ListColumn {
+    QString heading;
+    int characters = 12;  // usable width, in average characters of the font
+    enum Kind { Text, Number, Date } kind = Text;
+};
+
+class TextListModel;
+
+class ListView : public QTreeView {
+    Q_OBJECT
+  public:
+    ListView(const QString& name, const QList<ListColumn>& columns, QWidget* parent = nullptr);
+
+    int rowCount() const;
+    QStringList row(int row) const;
+    QString text(int row, int column) const;
+    void setText(int row, int column, const QString& text);
+    int addRow(const QStringList& texts);          // returns its number
+    void setRows(const QList<QStringList>& rows);  // all at once; for long lists
+    QList<QStringList> rows() const;
+    void removeRow(int row);
+    void clear();
+    int currentRow() const;                              // -1: none selected
+    void setCurrentRow(int row);                         // selects it and scrolls it into view
+    int findRow(int column, const QString& text) const;  // without regard to case; -1: none
+
+    // Sorts once by a column and remembers it: the same column again turns the order over.
+    void toggleSort(int column);
+    Qt::SortOrder sortOrder() const;
+    int sortedColumn() const;
+    void setSortsByHeader(bool sorts);  // a click on a header calls toggleSort and then headerClicked
+
+  signals:
+    void rowDoubleClicked(int row);
+    void entered(int row);  // Enter on the list; -1 with no row
+    void insertPressed();
+    void deletePressed();
+    void editPressed();  // F2
+    void headerClicked(int column);
+    void currentRowChanged(int row);
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    TextListModel* model_;
+    int sortedColumn_ = -1;
+    Qt::SortOrder order_ = Qt::AscendingOrder;
+    bool sortsByHeader_ = false;
+};

@@ -1,0 +1,3 @@
+#include "purchases/register.h"
+
+void registerPurchaseScreens() {}

@@ -1,0 +1,3 @@
+#include "sales/register.h"
+
+void registerSalesScreens() {}

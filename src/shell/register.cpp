@@ -1,0 +1,3 @@
+#include "shell/register.h"
+
+void registerShellScreens() {}

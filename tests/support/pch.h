@@ -1,0 +1,14 @@
+#pragma once
+#include <QtCore/QtCore>
+#include <QtGui/QtGui>
+#include <QtSql/QtSql>
+#include <QtTest/QtTest>
+#include <QtWidgets/QtWidgets>
+#include <algorithm>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
