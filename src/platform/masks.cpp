@@ -1,0 +1,143 @@
+#include "platform/masks.h"
+
+#include <QLocale>
+
+namespace {
+// One section of a number mask, read once: "(#,##0.00)" is "(", grouped, at least one digit, 2 decimals, ")".
+struct NumberMask {
+    QString prefix;
+    QString suffix;
+    bool grouped = false;
+    int leastDigits = 0;
+    int decimals = 0;
+    int leastDecimals = 0;
+};
+
+bool isDigitMark(QChar mark) { return mark == u'0' || mark == u'#' || mark == u',' || mark == u'.'; }
+
+void readMark(NumberMask& mask, QChar mark, bool& afterPoint) {
+    if (mark == u'.') afterPoint = true;
+    if (mark == u',') mask.grouped = true;
+    if (mark == u'0') (afterPoint ? mask.leastDecimals : mask.leastDigits) += 1;
+    if (afterPoint && mark != u'.') mask.decimals += 1;
+}
+
+NumberMask readMask(const QString& section) {
+    NumberMask mask;
+    bool afterPoint = false;
+    bool started = false;
+    for (const QChar mark : section) {
+        if (!isDigitMark(mark)) {
+            (started ? mask.suffix : mask.prefix) += mark;
+            continue;
+        }
+        started = true;
+        readMark(mask, mark, afterPoint);
+    }
+    return mask;
+}
+
+quint64 powerOfTen(int exponent) {
+    quint64 power = 1;
+    while (exponent-- > 0) power *= 10;
+    return power;
+}
+
+quint64 magnitude(qint64 count) {
+    return count < 0 ? 0 - static_cast<quint64>(count) : static_cast<quint64>(count);
+}
+
+// The ten-thousandths as a count of the mask's last decimal, halves away from zero.
+quint64 roundedTo(quint64 tenThousandths, int decimals) {
+    if (decimals >= 4) return tenThousandths * powerOfTen(decimals - 4);
+    const quint64 unit = powerOfTen(4 - decimals);
+    return tenThousandths / unit + (tenThousandths % unit >= unit / 2 ? 1 : 0);
+}
+
+QString grouped(QString digits) {
+    for (qsizetype at = digits.size() - 3; at > 0; at -= 3) digits.insert(at, u',');
+    return digits;
+}
+
+QString wholePart(quint64 whole, const NumberMask& mask) {
+    QString digits = whole == 0 ? QString() : QString::number(whole);
+    digits = digits.rightJustified(mask.leastDigits, u'0');
+    return mask.grouped ? grouped(digits) : digits;
+}
+
+QString decimalPart(quint64 fraction, const NumberMask& mask) {
+    QString digits = QString::number(fraction).rightJustified(mask.decimals, u'0');
+    while (digits.size() > mask.leastDecimals && digits.endsWith(u'0')) digits.chop(1);
+    return mask.decimals == 0 || digits.isEmpty() ? QString() : u'.' + digits;
+}
+
+QString applied(quint64 rounded, const NumberMask& mask) {
+    const quint64 unit = powerOfTen(mask.decimals);
+    return mask.prefix + wholePart(rounded / unit, mask) + decimalPart(rounded % unit, mask) + mask.suffix;
+}
+
+// The length of the run of one letter that starts here.
+qsizetype runLength(const QString& mask, qsizetype at) {
+    qsizetype end = at;
+    while (end < mask.size() && mask[end] == mask[at]) ++end;
+    return end - at;
+}
+
+QString twoDigits(int number) { return QString::number(number).rightJustified(2, u'0'); }
+
+QString dateField(const QDateTime& moment, QChar letter, qsizetype length, bool afterHours) {
+    const QDate date = moment.date();
+    switch (letter.unicode()) {
+        case u'm':
+            if (afterHours) return twoDigits(moment.time().minute());
+            if (length == 4) return QLocale::c().monthName(date.month());
+            return twoDigits(date.month());
+        case u'd':
+            return twoDigits(date.day());
+        case u'y':
+            return QString::number(date.year()).rightJustified(4, u'0');
+        case u'h':
+            return twoDigits(moment.time().hour());
+        case u's':
+            return twoDigits(moment.time().second());
+        default:
+            return QString(length, letter);
+    }
+}
+}  // namespace
+
+QString formatNumber(Currency value, const char* numberMask) {
+    const QStringList sections = QString::fromLatin1(numberMask).split(u';');
+    const NumberMask positive = readMask(sections.first());
+    const quint64 count = magnitude(value.tenThousandths());
+    // What rounds to nothing has no sign.
+    const bool negative = value.isNegative() && roundedTo(count, positive.decimals) != 0;
+    if (negative && sections.size() > 1) {
+        const NumberMask mask = readMask(sections[1]);
+        return applied(roundedTo(count, mask.decimals), mask);
+    }
+    const QString text = applied(roundedTo(count, positive.decimals), positive);
+    return negative ? u'-' + text : text;
+}
+
+QString formatCount(qint64 value) {
+    const QString digits = grouped(QString::number(magnitude(value)));
+    return value < 0 ? u'-' + digits : digits;
+}
+
+QString formatDate(const QDate& date, const char* dateMask) {
+    return date.isValid() ? formatDateTime(QDateTime(date, QTime(0, 0), Qt::UTC), dateMask) : QString();
+}
+
+QString formatDateTime(const QDateTime& moment, const char* dateMask) {
+    if (!moment.isValid()) return {};
+    const QString mask = QString::fromLatin1(dateMask);
+    QString text;
+    bool afterHours = false;
+    for (qsizetype at = 0, length = 0; at < mask.size(); at += length) {
+        length = runLength(mask, at);
+        text += dateField(moment, mask[at], length, afterHours);
+        if (mask[at].isLetter()) afterHours = mask[at] == u'h';
+    }
+    return text;
+}
