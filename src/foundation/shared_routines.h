@@ -24,7 +24,7 @@ void DeleteWhereValue(Connection& store, const QString& value, const QString& ta
 
 // Mode 'D' reads the display column by the primary column, 'P' the primary by the display column. No row:
 // empty.
-enum class LookupMode { Display, Primary };
+enum class LookupMode { DisplayText, PrimaryKey };
 QString LookupField(Connection& store, const QString& primary, const QString& table, const QString& display,
                     const QString& value, LookupMode mode);
 
