@@ -1,11 +1,13 @@
 #pragma once
 #include "platform/box.h"
 
+#include <QHash>
 #include <variant>
 
 // What a module without a window answers to a request of a screen.
 
-// Refused: show the box, then put the focus on the control of this name (empty: leave it).
+// Refused: show the box (one without a text: nothing), then put the focus on the control of this name (empty:
+// leave it).
 struct Fault {
     Box box;
     QString focus;
@@ -16,6 +18,7 @@ struct Question {
     QString key;
     Box box;
 };
+using Answers = QHash<QString, BoxAnswer>;
 
 // Done: show the collected boxes, in order.
 struct Done {
