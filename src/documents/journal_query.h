@@ -1,0 +1,52 @@
+#pragma once
+#include "platform/box.h"
+#include "platform/store/sql.h"
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+// One entry of the search criteria: the column it looks in, and how what was typed is read.
+struct JournalCategory {
+    const char* name;
+    const char* column;
+    enum Kind { Text, Date, Amount } kind = Text;
+};
+
+// The rows that a journal lists: its master table, joined to the contact of each document.
+struct JournalTables {
+    const char* table;
+    const char* contactColumn;
+    const char* searchOrder;  // of a search that finds neither a sort nor a filter set
+    QList<JournalCategory> categories;
+};
+
+// The statement of a journal as the person's clicks have put it together: one search clause, and one tail
+// that holds either a sort or the printed filter, so that each replaces the other.
+class JournalQuery {
+  public:
+    explicit JournalQuery(const JournalTables& tables);
+
+    QString columns() const;
+    QString from() const;
+    // The search clause with the printed filter behind it; either may be empty. A filter that was set without
+    // a search begins with WHERE: behind a former search clause the store refuses the two.
+    Sql where() const;
+    QString order() const;  // " ORDER BY ...", or empty: the store's order
+
+    void setOrder(const QString& order) { tail_ = order; }
+    // searching: a search text stands in the screen, so that the filter follows its clause.
+    void setPrintedFilter(bool printed, bool searching);
+
+    // Replaces the search clause; an empty text keeps the former one. A category that is not there, or a text
+    // that its column cannot take, gives the box to show and changes nothing.
+    std::optional<Box> search(const QString& category, const QString& text, bool exact);
+
+  private:
+    bool sorts() const { return tail_.startsWith(" ORDER BY"); }
+    void fitTailToSearch();
+
+    JournalTables tables_;
+    Sql search_;
+    QString tail_;
+};
