@@ -1,0 +1,28 @@
+#pragma once
+#include "platform/outcome.h"
+#include "platform/progress.h"
+#include "platform/store/connection.h"
+
+#include <QString>
+
+// What the deletion of a document of one book touches.
+struct DocumentBook {
+    const char* bookId;  // "S" sales, "P" purchase: of the posting queue and the stock valuation
+    const char* masterTable;
+    const char* masterKey;
+    const char* detailsTable;
+    const char* detailsKey;
+    // A row of the payments with this document's number forbids its deletion.
+    const char* paymentTable;
+    const char* paymentColumn;
+    const char* paidMessage;
+    void (*recomputeMoney)(Connection& store, Progress& progress);
+};
+
+// Deletes a document, its lines, its valuation rows and its place in the posting queue, as one unit. A paid
+// document, whatever the amount, is a Fault. The items stay queued. Throws StoreError; nothing is deleted
+// then.
+Outcome deleteDocument(Connection& store, const DocumentBook& book, const QString& key);
+
+// The balances after a deletion: of the book's documents, then of the inventory.
+void recomputeAfterDeletion(Connection& store, const DocumentBook& book, Progress& progress);
