@@ -1,0 +1,293 @@
+#include "documents/journal.h"
+
+#include "foundation/comes_later.h"
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "platform/parsing.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/combo_box.h"
+#include "platform/ui/form.h"
+#include "platform/ui/frmStatus.h"
+#include "platform/ui/screen_registry.h"
+#include "platform/ui/text_box.h"
+
+#include <QButtonGroup>
+#include <QKeyEvent>
+#include <QRadioButton>
+
+namespace {
+QList<GridColumn> gridColumns(const QList<JournalColumn>& columns) {
+    QList<GridColumn> grid;
+    for (const JournalColumn& column : columns) grid += column.grid;
+    return grid;
+}
+
+Box locked() {
+    return critical("Record Lock!",
+                    "Record is Being Locked! You Cannot Edit This Record! Please Ask Administrator to Unlock "
+                    "Record!");
+}
+
+Box nothingToEdit() {
+    return exclamation("Error!", "Please select proper record to EDIT! There's nothing to EDIT!");
+}
+
+Box nothingToDelete() {
+    return exclamation("Nothing to Delete!", "Can't You See There is Nothing to Delete!");
+}
+
+Box accessDenied(const char* what) {
+    return critical("Access Denied!", QString("You don't have Permission to %1 Record!").arg(QString(what)));
+}
+
+Box confirmDeletion() {
+    return question("Confirm Delete", "Confirm Deletion of this Record. Delete Record Now?", BoxAnswer::No);
+}
+
+void bringForward(ChildScreen* screen) {
+    if (ScreenHost* host = ScreenRegistry::instance().host()) return host->bringForward(screen);
+    screen->raise();
+    screen->activateWindow();
+}
+}  // namespace
+
+Journal::Journal(const JournalBook& book)
+    : ChildScreen(book.screen, book.caption, Centred),
+      book_(book),
+      query_(book.tables),
+      canPrint_(UserHasAccess(StoreConnection(), book.printRight)),
+      canDelete_(UserHasAccess(StoreConnection(), book.deleteRight)) {
+    auto* top = new QHBoxLayout;
+    top->addWidget(searchFrame(), 1);
+    top->addWidget(sortFrame());
+    dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", gridColumns(book.columns), this);
+    dbgMyGrid->setAccessibleName("Documents");
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(top);
+    layout->addWidget(dbgMyGrid, 1);
+    layout->addLayout(commandRow());
+    form::setAccessibleFromTexts(this);
+    connectControls();
+    fitKeyFilter();
+    RefreshRecord();
+}
+
+QSize Journal::sizeHint() const { return {form::charactersWide(this, 130), fontMetrics().height() * 34}; }
+
+QRadioButton* Journal::addOption(QButtonGroup* group, QLayout* row, const QString& name,
+                                 const QString& caption) {
+    auto* option = new QRadioButton(caption);
+    option->setObjectName(name);
+    group->addButton(option);
+    row->addWidget(option);
+    return option;
+}
+
+QWidget* Journal::searchFrame() {
+    cboSearch = new ComboBox("cboSearch", ComboBox::Open, this);
+    cboSearch->setKeyFilter(keys::freeText());
+    for (const JournalCategory& category : book_.tables.categories) cboSearch->addItem(category.name);
+    cboSearch->setText(book_.initialCategory);
+    txtSearch = new TextBox("txtSearch", this);
+    txtSearch->setAccessibleName("Search text");
+    txtSearch->installEventFilter(this);
+    cmdSearch = form::button("cmdSearch", "&Search", "search");
+
+    auto* type = form::frame("fraSearchType", "Search Type:");
+    auto* options = new QHBoxLayout(type);
+    auto* group = new QButtonGroup(this);
+    optAny = addOption(group, options, "optAny", "Any");
+    optExact = addOption(group, options, "optExact", "Exact");
+    optAny->setChecked(true);
+
+    auto* frame = new QWidget;
+    auto* grid = new QGridLayout(frame);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->addWidget(form::label("Search Criteria:", cboSearch), 0, 0);
+    grid->addWidget(cboSearch, 1, 0);
+    grid->addWidget(txtSearch, 1, 1);
+    grid->addWidget(cmdSearch, 1, 2);
+    grid->addWidget(type, 0, 3, 2, 1);
+    grid->setColumnStretch(1, 1);
+    return frame;
+}
+
+QWidget* Journal::sortFrame() {
+    auto* frame = form::frame("fraSort", "Sort By:");
+    auto* row = new QHBoxLayout(frame);
+    sortOptions_ = new QButtonGroup(this);
+    for (const JournalSort& sort : book_.sorts)
+        sorts_ += addOption(sortOptions_, row, sort.name, sort.caption);
+    optPrinted = addOption(sortOptions_, row, "optPrinted", "Printed");
+    optUnPrinted = addOption(sortOptions_, row, "optUnPrinted", "UnPrinted");
+    optUnPrinted->setChecked(true);
+    return frame;
+}
+
+QLayout* Journal::commandRow() {
+    auto* row = new QHBoxLayout;
+    const auto add = [row](const char* name, const char* caption, const char* icon) {
+        QPushButton* button = form::button(name, caption, icon);
+        row->addWidget(button);
+        return button;
+    };
+    cmdNew = add("cmdNew", "&New", "new");
+    cmdEdit = add("cmdEdit", "&Edit", "edit");
+    cmdDelete = add("cmdDelete", "&Delete", "delete");
+    cmdPrint = add("cmdPrint", "&Print", "print");
+    cmdRefresh = add("cmdRefresh", "&Refresh", "refresh");
+    row->addStretch(1);
+    cmdExit = add("cmdExit", "E&xit", "exit");
+    cmdDelete->setEnabled(canDelete_);
+    cmdPrint->setEnabled(canPrint_);
+    return row;
+}
+
+void Journal::connectControls() {
+    connect(cboSearch, &QComboBox::currentTextChanged, this, &Journal::fitKeyFilter);
+    connect(txtSearch, &TextBox::entered, cmdSearch, &QPushButton::click);
+    connect(cmdSearch, &QPushButton::clicked, this, &Journal::searchJournal);
+    connect(sortOptions_, &QButtonGroup::buttonClicked, this, &Journal::RefreshRecord);
+    connect(dbgMyGrid, &DataGrid::headerClicked, this, &Journal::sortByHeader);
+    connect(dbgMyGrid, &DataGrid::picked, this, &Journal::EditRecord);
+    connect(cmdNew, &QPushButton::clicked, this, &Journal::NewRecord);
+    connect(cmdEdit, &QPushButton::clicked, this, &Journal::EditRecord);
+    connect(cmdDelete, &QPushButton::clicked, this, &Journal::DeleteRecord);
+    connect(cmdPrint, &QPushButton::clicked, this, &Journal::PrintRecord);
+    connect(cmdRefresh, &QPushButton::clicked, this, &Journal::RefreshRecord);
+    connect(cmdExit, &QPushButton::clicked, this, &Journal::CloseRecord);
+}
+
+bool Journal::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Down)
+        return ChildScreen::eventFilter(watched, event);
+    dbgMyGrid->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+void Journal::fitKeyFilter() {
+    const QString chosen = trim(cboSearch->text());
+    KeyFilter filter = keys::freeText();
+    for (const JournalCategory& category : book_.tables.categories) {
+        if (chosen != category.name) continue;
+        if (category.kind == JournalCategory::Date) filter = keys::date();
+        if (category.kind == JournalCategory::Amount) filter = keys::amount();
+    }
+    txtSearch->setKeyFilter(filter);
+}
+
+void Journal::refreshGrid() {
+    guarded([this] {
+        dbgMyGrid->setSource(StoreConnection(), {query_.columns(), query_.from(), book_.tables.table,
+                                                 query_.where(), query_.order()});
+    });
+}
+
+bool Journal::searching() const { return !trim(txtSearch->text()).isEmpty(); }
+
+void Journal::searchJournal() {
+    if (const auto fault = query_.search(cboSearch->text(), txtSearch->text(), optExact->isChecked())) {
+        showBox(*fault);
+        return;
+    }
+    refreshGrid();
+}
+
+void Journal::searchOrRefresh() {
+    if (searching())
+        searchJournal();
+    else
+        refreshGrid();
+}
+
+void Journal::applyOption() {
+    for (qsizetype i = 0; i < sorts_.size(); ++i)
+        if (sorts_[i]->isChecked()) return query_.setOrder(book_.sorts[i].order);
+    query_.setPrintedFilter(optPrinted->isChecked(), searching());
+}
+
+void Journal::RefreshRecord() {
+    applyOption();
+    searchOrRefresh();
+}
+
+void Journal::sortByHeader(int column) {
+    query_.setOrder(book_.columns[column].order);
+    searchOrRefresh();
+}
+
+void Journal::NewRecord() {
+    guarded([this] { ScreenRegistry::instance().open(book_.entryScreen); });
+}
+
+void Journal::EditRecord() {
+    guarded([this] { edit(); });
+}
+
+void Journal::edit() {
+    const QString key = dbgMyGrid->currentText(book_.lock.key);
+    if (ChildScreen* entry = entryShowing(key)) return bringForward(entry);
+    switch (key.isEmpty() ? LockResult::Gone : takeRecordLock(StoreConnection(), book_.lock, key)) {
+        case LockResult::Locked:
+            showBox(locked());
+            break;
+        case LockResult::Gone:
+            showBox(nothingToEdit());
+            break;
+        case LockResult::Taken:
+            editLocked(key);
+            break;
+    }
+}
+
+// The entry screen holds the lock from here on; where it stays with another document, nobody does.
+void Journal::editLocked(const QString& key) {
+    ChildScreen* entry = nullptr;
+    guarded([&] { entry = ScreenRegistry::instance().open(book_.entryScreen, {{}, key, {}}); });
+    if (!entry) setRecordLock(StoreConnection(), book_.lock, key, false);
+}
+
+// The document that is open for editing in this very program is locked by it, not against it.
+ChildScreen* Journal::entryShowing(const QString& key) const {
+    ChildScreen* entry = ScreenRegistry::instance().opened(book_.entryScreen);
+    const bool shows = entry && !key.isEmpty() && !entry->property("mblnAddmode").toBool() &&
+                       entry->property("mstrPrimary").toString().compare(key, Qt::CaseInsensitive) == 0;
+    return shows ? entry : nullptr;
+}
+
+void Journal::DeleteRecord() {
+    if (!canDelete_) {
+        showBox(accessDenied("Delete"));
+        return;
+    }
+    if (!askYes(confirmDeletion())) return;
+    guarded([this] {
+        try {
+            deleteCurrent();
+        } catch (const StoreError& error) {
+            if (error.number() != StoreError::noCurrentRow) throw;
+            showBox(nothingToDelete());
+        }
+    });
+}
+
+void Journal::deleteCurrent() {
+    if (!dbgMyGrid->hasCurrent()) throw StoreError(StoreError::noCurrentRow, "No current record.");
+    const Outcome outcome =
+        deleteDocument(StoreConnection(), book_.document, dbgMyGrid->currentText(book_.lock.key));
+    if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
+    guarded([this] {
+        frmStatus status;
+        recomputeAfterDeletion(StoreConnection(), book_.document, status);
+    });
+    refreshGrid();
+}
+
+void Journal::PrintRecord() {
+    if (!canPrint_)
+        showBox(accessDenied("Print"));
+    else if (!dbgMyGrid->hasCurrent())
+        showBox(exclamation("Nothing to Print!", "No Records to Print..."));
+    else
+        showBox(printingComesLater());
+}
