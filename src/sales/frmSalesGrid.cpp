@@ -1,0 +1,49 @@
+#include "sales/frmSalesGrid.h"
+
+#include "books/balances.h"
+
+const JournalBook& salesJournal() {
+    using Category = JournalCategory;
+    static const JournalBook book{
+        .screen = "frmSalesGrid",
+        .caption = "Sales Journal Data Grid . . .",
+        .entryScreen = "frmSalesEntry",
+        .lock = salesBook,
+        .tables = {.table = "tblSalesMaster",
+                   .contactColumn = "ContactNo",
+                   .searchOrder = " ORDER BY RefDate DESC",
+                   .categories = {{"Delivery No.", "RefNo"},
+                                  {"Delivery Date", "RefDate", Category::Date},
+                                  {"Customer Name", "ContactName"},
+                                  {"Total Amount", "TotalAmount", Category::Amount},
+                                  {"Remarks", "tblSalesMaster.Remarks"},
+                                  {"Who Updated", "tblSalesMaster.UpdatedBy"}}},
+        .document = {.bookId = "S",
+                     .masterTable = "tblSalesMaster",
+                     .masterKey = "RefNo",
+                     .detailsTable = "tblSalesDetails",
+                     .detailsKey = "Reference",
+                     .paymentTable = "tblReceiptDetails",
+                     .paymentColumn = "Reference",
+                     .paidMessage = "You Cannot Delete This Sales Order, You have Tag Payment with This "
+                                    "Order! Remove Payment First!",
+                     .recomputeMoney = RecomputeReceivableBalances},
+        .printRight = "PrintDRAccess",
+        .deleteRight = "DeleteDRAccess",
+        .initialCategory = "Customer Name",
+        .sorts = {{"optPackNo", "D.R. No.", " ORDER BY RefNo ASC"},
+                  {"optCustomer", "Customer", " ORDER BY ContactName ASC"},
+                  {"optPackDate", "D.R. Date", " ORDER BY RefDate ASC"},
+                  {"optTotalAmount", "Total Amount", " ORDER BY TotalAmount ASC"}},
+        .columns = {
+            {{"D.R. No.", "RefNo", GridColumn::Text, 14}, " ORDER BY RefNo ASC"},
+            {{"D.R. Date", "RefDate", GridColumn::Date, 11}, " ORDER BY RefDate ASC"},
+            {{"Customer", "ContactName", GridColumn::Text, 30}, " ORDER BY ContactName ASC"},
+            {{"Total Amount", "TotalAmount", GridColumn::Amount, 15}, " ORDER BY TotalAmount ASC"},
+            {{"Locked", "RecordLock", GridColumn::Flag, 8}, " ORDER BY RecordLock ASC"},
+            {{"Printed", "Printed", GridColumn::Flag, 8}, " ORDER BY Printed ASC"},
+            {{"Updated By", "UpdatedBy", GridColumn::Text, 12}, " ORDER BY tblSalesMaster.UpdatedBy ASC"},
+            {{"Last Update", "DateUpdate", GridColumn::DateTime, 19},
+             " ORDER BY tblSalesMaster.DateUpdate ASC"}}};
+    return book;
+}
