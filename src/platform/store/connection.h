@@ -43,6 +43,9 @@ class Connection {
     void runMany(const QString& statement, const std::vector<QVariantList>& rows);
 
     bool inTransaction() const { return depth_ > 0; }
+    // Throws when the engine has undone the unit of work by itself, as it does on a full disk. Every
+    // statement asks.
+    void requireUnit() const;
 
     // The declared types of a table's columns, upper-cased, by lower-cased column name. Read once.
     const QHash<QString, QString>& columnTypes(const QString& table);
@@ -59,6 +62,8 @@ class Connection {
     friend class Transaction;
     friend class Recordset;
     struct Private;
+    qint64 lastRow() const;  // the number of the row last added
+    std::shared_ptr<const QHash<QString, int>> tableColumns(const QString& table);
     std::unique_ptr<Private> d_;
     int depth_ = 0;
 };

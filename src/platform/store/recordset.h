@@ -9,6 +9,7 @@
 #include <vector>
 
 class Connection;
+struct Sql;
 
 // Rows of a query, read to their end when it is opened, walked by column name (no regard to case).
 // A set opened with Connection::openTable can also add and change rows.
@@ -49,10 +50,16 @@ class Recordset {
     using Columns = QHash<QString, int>;
     const QVariantList& current() const;
     int columnIndex(const QString& column) const;
+    Sql insertStatement() const;
+    Sql updateStatement() const;
+    void insertRow();
+    void updateRow();
+    void keepChanges(QVariantList& row) const;
 
     Connection* connection_ = nullptr;
     QString table_;  // empty: read only
     std::shared_ptr<const Columns> columns_;
+    int columnCount_ = 0;
     std::vector<QVariantList> rows_;
     qsizetype position_ = 0;
     bool adding_ = false;

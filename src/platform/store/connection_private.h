@@ -1,0 +1,47 @@
+#pragma once
+#include "platform/store/busy_wait.h"
+#include "platform/store/connection.h"
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+// A statement that the engine has read once, and the columns it gives.
+struct PreparedStatement {
+    QSqlQuery query;
+    std::shared_ptr<const QHash<QString, int>> columns;
+    int columnCount = 0;
+    int valueCount = 0;
+    bool writes = false;
+};
+
+struct Connection::Private {
+    QString name;
+    QString path;
+    QSqlDatabase database;
+    QHash<QString, std::shared_ptr<PreparedStatement>> prepared;
+    QHash<QString, QHash<QString, QString>> types;  // of columns, by table
+    QHash<QString, std::shared_ptr<const QHash<QString, int>>> positions;
+
+    ~Private() { shut(); }
+    // Opens the engine on a file. mode: "rw" an existing one, "rwc" a new one.
+    void openFile(const QString& file, const char* mode);
+    void shut();
+    sqlite3* engine() const;
+
+    // The statement started with its values, waiting for other workstations.
+    std::shared_ptr<PreparedStatement> start(const Sql& statement);
+    std::shared_ptr<PreparedStatement> prepare(const QString& text);
+    // BEGIN, COMMIT and their kin, waiting for other workstations.
+    void control(const QByteArray& statement);
+    [[noreturn]] void fail(PreparedStatement& statement) const;
+    bool tryStart(PreparedStatement& statement, const Sql& sql);
+};
+
+// The engine's last failure.
+StoreError engineError(sqlite3* engine);
+// After a failure: waits for another try when it was another workstation's lock, else throws it.
+void waitOrThrow(sqlite3* engine, BusyWait& wait);
+// The test door of Connection::setStatementHook.
+void tellStatement(const QString& text);
+// The names of columns, exact and lower-cased, with their positions; the first of equal names counts.
+std::shared_ptr<const QHash<QString, int>> columnPositions(const QStringList& names);

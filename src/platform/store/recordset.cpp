@@ -1,0 +1,182 @@
+#include "platform/store/recordset.h"
+
+#include "platform/parsing.h"
+#include "platform/store/connection.h"
+
+namespace {
+[[noreturn]] void mismatch(const QString& column) {
+    throw StoreError(StoreError::typeMismatch, "Data type mismatch in column " + column + u'.');
+}
+
+bool isText(const QVariant& value) { return value.metaType() == QMetaType::fromType<QString>(); }
+bool isCurrency(const QVariant& value) { return value.metaType() == QMetaType::fromType<Currency>(); }
+bool isMoment(const QVariant& value) {
+    return value.metaType() == QMetaType::fromType<QDate>() ||
+           value.metaType() == QMetaType::fromType<QDateTime>();
+}
+
+Currency typedNumber(const QString& column, const QVariant& value) {
+    const auto number = parseNumber(value.toString());
+    if (!number) mismatch(column);
+    return *number;
+}
+
+QVariant asCurrency(const QString& column, const QVariant& value) {
+    if (isCurrency(value)) return value;
+    if (isText(value)) return QVariant::fromValue(typedNumber(column, value));
+    if (value.metaType() == QMetaType::fromType<double>())
+        return QVariant::fromValue(Currency::fromDouble(value.toDouble()));
+    if (!value.canConvert<qint64>()) mismatch(column);
+    return QVariant::fromValue(Currency::fromInteger(value.toLongLong()));
+}
+
+QVariant asInteger(const QString& column, const QVariant& value) {
+    if (!isCurrency(value) && !isText(value)) return value;
+    const Currency number = isText(value) ? typedNumber(column, value) : value.value<Currency>();
+    if (number.tenThousandths() % 10000 != 0) mismatch(column);
+    return number.tenThousandths() / 10000;
+}
+
+QVariant asDate(const QString& column, const QVariant& value) {
+    if (isMoment(value)) return value;
+    const auto date = parseDate(value.toString());
+    if (!date) mismatch(column);
+    return *date;
+}
+
+QVariant asText(const QVariant& value) {
+    return isCurrency(value) ? QVariant(value.value<Currency>().toPlainText()) : value;
+}
+
+// A value in the form that the column keeps.
+QVariant normalised(const QString& column, const QString& type, const QVariant& value) {
+    if (!value.isValid()) return value;
+    if (type.contains(u"BOOL")) return value.toBool();
+    if (type.contains(u"CURRENCY")) return asCurrency(column, value);
+    if (type.contains(u"DATE")) return asDate(column, value);
+    if (type.contains(u"INT")) return asInteger(column, value);
+    return asText(value);
+}
+
+QDate dateOf(const QString& stored) { return QDate::fromString(stored.left(10), Qt::ISODate); }
+
+[[noreturn]] void noRow() { throw StoreError(StoreError::noCurrentRow, "There is no current row."); }
+}  // namespace
+
+int Recordset::columnIndex(const QString& column) const {
+    if (!columns_) noRow();
+    auto found = columns_->constFind(column);
+    if (found == columns_->constEnd()) found = columns_->constFind(column.toLower());
+    if (found == columns_->constEnd())
+        throw StoreError(StoreError::general, "There is no column " + column + u'.');
+    return *found;
+}
+
+const QVariantList& Recordset::current() const {
+    if (eof() || bof()) noRow();
+    return rows_[static_cast<size_t>(position_)];
+}
+
+QVariant Recordset::value(const QString& column) const {
+    const int index = columnIndex(column);
+    for (const auto& [name, pending] : changes_)
+        if (columnIndex(name) == index) return pending;
+    return adding_ ? QVariant() : current()[index];
+}
+
+bool Recordset::isNull(const QString& column) const { return value(column).isNull(); }
+
+QString Recordset::text(const QString& column) const { return value(column).toString(); }
+
+QString Recordset::trimmed(const QString& column) const { return trim(text(column)); }
+
+Currency Recordset::currency(const QString& column) const {
+    return Currency::fromTenThousandths(integer(column));
+}
+
+qint64 Recordset::integer(const QString& column) const { return value(column).toLongLong(); }
+
+bool Recordset::flag(const QString& column) const { return integer(column) != 0; }
+
+QDate Recordset::date(const QString& column) const { return dateOf(text(column)); }
+
+QDateTime Recordset::dateTime(const QString& column) const {
+    const QString stored = text(column);
+    const QDate date = dateOf(stored);
+    if (!date.isValid()) return {};
+    const QTime time = QTime::fromString(stored.mid(11), Qt::ISODate);
+    return {date, time.isValid() ? time : QTime(0, 0)};
+}
+
+void Recordset::addNew() {
+    if (table_.isEmpty()) throw StoreError(StoreError::general, "The rows are read only.");
+    adding_ = true;
+    changes_.clear();
+}
+
+void Recordset::set(const QString& column, const QVariant& value) {
+    if (table_.isEmpty()) throw StoreError(StoreError::general, "The rows are read only.");
+    if (!adding_) current();
+    columnIndex(column);
+    const QString type = connection_->columnTypes(table_).value(column.toLower());
+    const QVariant stored = storedValue(normalised(column, type, value));
+    for (auto& [name, pending] : changes_)
+        if (name.compare(column, Qt::CaseInsensitive) == 0) {
+            pending = stored;
+            return;
+        }
+    changes_.append({column, stored});
+}
+
+Sql Recordset::insertStatement() const {
+    if (changes_.isEmpty()) return "INSERT INTO " + table_ + " DEFAULT VALUES";
+    QStringList names;
+    QStringList marks;
+    QVariantList values;
+    for (const auto& [name, value] : changes_) {
+        names += name;
+        marks += "?";
+        values += value;
+    }
+    return {QString("INSERT INTO %1 (%2) VALUES (%3)").arg(table_, names.join(", "), marks.join(", ")),
+            values};
+}
+
+Sql Recordset::updateStatement() const {
+    QStringList names;
+    QVariantList values;
+    for (const auto& [name, value] : changes_) {
+        names += name + " = ?";
+        values += value;
+    }
+    values += current()[0];
+    return {QString("UPDATE %1 SET %2 WHERE rowid = ?").arg(table_, names.join(", ")), values};
+}
+
+void Recordset::update() {
+    if (adding_)
+        insertRow();
+    else if (!changes_.isEmpty())
+        updateRow();
+    adding_ = false;
+    changes_.clear();
+}
+
+void Recordset::insertRow() {
+    connection_->run(insertStatement());
+    QVariantList row(columnCount_);
+    row[0] = connection_->lastRow();
+    keepChanges(row);
+    rows_.push_back(row);
+    moveLast();
+}
+
+void Recordset::updateRow() {
+    if (connection_->run(updateStatement()) == 0)
+        throw StoreError(StoreError::noCurrentRow, "The row has been deleted by another user.");
+    keepChanges(rows_[static_cast<size_t>(position_)]);
+}
+
+void Recordset::keepChanges(QVariantList& row) const {
+    for (const auto& [name, value] : changes_) row[columnIndex(name)] = value;
+}

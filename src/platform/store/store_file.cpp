@@ -1,0 +1,86 @@
+#include "platform/store/store_file.h"
+
+#include "platform/store/connection.h"
+#include "platform/store/schema_steps.h"
+#include "platform/store/transaction.h"
+
+#include <QFileInfo>
+#include <QPasswordDigestor>
+#include <QRandomGenerator>
+
+#include <sqlite3.h>
+
+namespace {
+constexpr qint64 applicationId = 0x5A767221;
+constexpr int iterations = 20000;
+constexpr int keyLength = 32;
+
+[[noreturn]] void refuse(const QString& path, const char* reason) {
+    throw StoreError(StoreError::general, QString("The store \"%1\" cannot be opened: %2").arg(path, reason));
+}
+
+qint64 pragma(Connection& store, const char* name) {
+    const Recordset answer = store.execute(QString("SELECT * FROM pragma_%1").arg(name));
+    return answer.integer(name);
+}
+
+QByteArray verifier(const QString& password, const QByteArray& salt, int rounds) {
+    return QPasswordDigestor::deriveKeyPbkdf2(QCryptographicHash::Sha256, password.toUtf8(), salt, rounds,
+                                              keyLength);
+}
+
+QByteArray randomSalt() {
+    QByteArray salt(16, Qt::Uninitialized);
+    for (char& byte : salt) byte = static_cast<char>(QRandomGenerator::system()->generate());
+    return salt;
+}
+}  // namespace
+
+void requireWritableFile(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.exists()) refuse(path, "the file is not there.");
+    if (!file.isFile()) refuse(path, "it is not a file.");
+    if (file.size() == 0) refuse(path, "the file is empty.");
+    if (!file.isWritable()) refuse(path, "the file is read-only.");
+    if (!QFileInfo(file.absolutePath()).isWritable()) refuse(path, "its folder is read-only.");
+}
+
+void requireOwnStore(Connection& store) {
+    qint64 mark = 0;
+    try {
+        mark = pragma(store, "application_id");
+    } catch (const StoreError& error) {
+        if (error.number() == StoreError::busy) throw;
+        refuse(store.path(), "the file is damaged or is not a store.");
+    }
+    if (mark != applicationId) refuse(store.path(), "the file is not a store of this program.");
+    if (sqlite3_db_readonly(store.handle(), "main") != 0) refuse(store.path(), "the file is read-only.");
+    if (pragma(store, "user_version") > schemaVersion())
+        refuse(store.path(), "it was written by a newer version of this program.");
+}
+
+void requirePassword(Connection& store, const QString& password) {
+    const Recordset row = store.execute("SELECT Salt, Rounds, Verifier FROM StorePassword");
+    if (row.eof()) refuse(store.path(), "the file is damaged or is not a store.");
+    const QByteArray given =
+        verifier(password, row.value("Salt").toByteArray(), static_cast<int>(row.integer("Rounds")));
+    if (given != row.value("Verifier").toByteArray()) refuse(store.path(), "not a valid password.");
+}
+
+void markOwnStore(Connection& store, const QString& password) {
+    const QByteArray salt = randomSalt();
+    Transaction unit(store);
+    store.run(QString("PRAGMA application_id = %1").arg(applicationId));
+    store.run(
+        "CREATE TABLE StorePassword (Salt BLOB NOT NULL, Rounds INTEGER NOT NULL, Verifier BLOB NOT NULL)");
+    store.run({"INSERT INTO StorePassword VALUES (?, ?, ?)",
+               {salt, iterations, verifier(password, salt, iterations)}});
+    unit.commit();
+}
+
+void setWorkingMode(Connection& store) {
+    store.execute("PRAGMA journal_mode = DELETE");
+    store.run("PRAGMA synchronous = FULL");
+    store.run("PRAGMA temp_store = MEMORY");
+    store.run("PRAGMA cache_size = -32000");
+}

@@ -1,0 +1,487 @@
+#include "platform/store/bulk.h"
+#include "platform/store/connection.h"
+#include "platform/store/dialect.h"
+#include "platform/store/schema_steps.h"
+#include "platform/store/transaction.h"
+
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace {
+constexpr const char* word = "open sesame";
+
+const std::vector<SchemaStep> goodsSchema{
+    {"goods",
+     {"CREATE TABLE tblGood (Code TEXT COLLATE NOCASE PRIMARY KEY NOT NULL, Name TEXT COLLATE NOCASE, "
+      "Price CURRENCY_INTEGER NOT NULL DEFAULT 0, Sold BOOLEAN NOT NULL DEFAULT 0, Since DATE, Pieces "
+      "INTEGER)"}},
+    {"a second table", {"CREATE TABLE tblLine (Good TEXT COLLATE NOCASE, Served CURRENCY_INTEGER)"}}};
+
+// A folder with a store of two small tables.
+class StoreTest : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        setSchemaSteps(goodsSchema);
+        Connection store;
+        store.create(path(), word);
+        applySchemaSteps(store);
+    }
+    void TearDown() override {
+        Connection::setIdleHook({});
+        Connection::setStatementHook({});
+    }
+
+    QString path(const QString& name = "goods.mdb") const { return folder_.filePath(name); }
+    void add(Connection& store, const QString& code, const QVariant& name = {}) {
+        store.run({"INSERT INTO tblGood (Code, Name) VALUES (?, ?)", {code, name}});
+    }
+    static qint64 count(Connection& store, const Sql& where = "") {
+        return store.execute(Sql("SELECT COUNT(*) AS Ihap FROM tblGood ") + where).integer("Ihap");
+    }
+
+    QTemporaryDir folder_;
+};
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
+}
+
+void write(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(file.write(bytes), bytes.size());
+}
+
+int numberThrown(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const StoreError& error) {
+        EXPECT_FALSE(error.text().isEmpty());
+        return error.number();
+    }
+    return 0;
+}
+
+// A person whom the file system can refuse: the administrator's rights are put aside meanwhile.
+class OrdinaryUser {
+  public:
+    OrdinaryUser() { EXPECT_TRUE(!administrator_ || setresuid(65534, 65534, 0) == 0); }
+    ~OrdinaryUser() { EXPECT_TRUE(!administrator_ || setresuid(0, 0, 0) == 0); }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+  private:
+    bool administrator_ = geteuid() == 0;
+};
+
+QString refusalOf(const QString& path, const char* password = word) {
+    Connection store;
+    try {
+        store.open(path, password);
+    } catch (const StoreError& error) {
+        EXPECT_FALSE(store.isOpen());
+        return error.text();
+    }
+    return "opened";
+}
+
+using Permissions = QFile::Permissions;
+constexpr Permissions readOnly = QFile::ReadOwner | QFile::ReadUser | QFile::ReadGroup | QFile::ReadOther;
+constexpr Permissions enter = QFile::ExeOwner | QFile::ExeUser | QFile::ExeGroup | QFile::ExeOther;
+constexpr Permissions everything =
+    readOnly | enter | QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+}  // namespace
+
+TEST_F(StoreTest, WhatIsNoSoundStoreIsRefusedAndLeftAsItIs) {
+    QByteArray otherProgram = bytesOf(path());
+    otherProgram[68] = 'X';  // the mark in the header
+    QByteArray newer = bytesOf(path());
+    newer[63] = 9;  // the version in the header
+    const struct {
+        const char* name;
+        QByteArray bytes;
+        const char* password;
+        const char* reason;
+    } faults[] = {{"empty", "", word, "empty"},
+                  {"garbage", QByteArray(5000, 'z'), word, "damaged"},
+                  {"short garbage", "zz", word, "damaged"},
+                  {"truncated", bytesOf(path()).left(4096), word, "damaged"},
+                  {"other program", otherProgram, word, "not a store of this program"},
+                  {"newer", newer, word, "newer version"},
+                  {"wrong password", bytesOf(path()), "open Sesame", "not a valid password"},
+                  {"no password", bytesOf(path()), "", "not a valid password"}};
+    for (const auto& fault : faults) {
+        SCOPED_TRACE(fault.name);
+        const QString file = path("fault.mdb");
+        write(file, fault.bytes);
+        const QString refusal = refusalOf(file, fault.password);
+        EXPECT_TRUE(refusal.contains(fault.reason)) << qPrintable(refusal);
+        EXPECT_EQ(bytesOf(file), fault.bytes);
+    }
+    EXPECT_TRUE(refusalOf(path("none.mdb")).contains("not there"));
+    EXPECT_FALSE(QFileInfo::exists(path("none.mdb")));
+    EXPECT_EQ(refusalOf(path()), "opened");
+}
+
+TEST_F(StoreTest, AReadOnlyFileOrFolderIsRefused) {
+    QFile::setPermissions(path(), readOnly);
+    QFile::setPermissions(folder_.path(), everything);
+    const QByteArray before = bytesOf(path());
+    {
+        const OrdinaryUser user;
+        EXPECT_TRUE(refusalOf(path()).contains("file is read-only"));
+    }
+    QFile::setPermissions(path(), everything);
+    QFile::setPermissions(folder_.path(), readOnly | enter);
+    {
+        const OrdinaryUser user;
+        EXPECT_TRUE(refusalOf(path()).contains("folder is read-only"));
+    }
+    QFile::setPermissions(folder_.path(), everything);
+    EXPECT_EQ(bytesOf(path()), before);
+    EXPECT_EQ(refusalOf(path()), "opened");
+}
+
+TEST_F(StoreTest, OddFolderNamesOpen) {
+    for (const char* name : {"50% off?", "a#b&mode=ro", "Ñ ' \" x"}) {
+        QDir(folder_.path()).mkdir(name);
+        const QString file = path(QString(name) + "/goods.mdb");
+        ASSERT_TRUE(QFile::copy(path(), file));
+        EXPECT_EQ(refusalOf(file), "opened") << name;
+    }
+    EXPECT_EQ(numberThrown([&] { Connection().create(path(), word); }), StoreError::general);
+    EXPECT_EQ(refusalOf(path()), "opened") << "a store in the way of a new one stays whole";
+}
+
+TEST_F(StoreTest, AnOlderStoreTakesTheNewStepsWholeOrNotAtAll) {
+    auto steps = goodsSchema;
+    steps.push_back({"breaks", {"CREATE TABLE tblNew (A)", "CREATE TABLE tblGood (A)"}});
+    setSchemaSteps(steps);
+    EXPECT_TRUE(refusalOf(path()).contains("already exists"));
+    steps.back() = {"sound", {"CREATE TABLE tblNew (A)"}};
+    setSchemaSteps(steps);
+    Connection store;
+    store.open(path(), word);
+    EXPECT_EQ(store.columnTypes("tblNew").size(), 1);
+    EXPECT_EQ(store.execute("PRAGMA user_version").integer("user_version"), 3);
+}
+
+TEST_F(StoreTest, EveryCommitIsOnTheDisk) {
+    Connection store;
+    store.open(path(), word);
+    EXPECT_EQ(store.execute("PRAGMA synchronous").integer("synchronous"), 2);
+    EXPECT_EQ(store.execute("PRAGMA journal_mode").text("journal_mode"), "delete");
+}
+
+TEST_F(StoreTest, AUnitIsKeptWholeOrUndone) {
+    Connection store;
+    store.open(path(), word);
+    {
+        Transaction unit(store);
+        add(store, "undone");
+    }
+    {
+        Transaction unit(store);
+        add(store, "kept");
+        {
+            Transaction step(store);
+            add(store, "passed over");
+        }
+        {
+            Transaction step(store);
+            add(store, "inner");
+            step.commit();
+        }
+        EXPECT_EQ(numberThrown([&] { add(store, "KEPT"); }), StoreError::refused);
+        unit.commit();
+    }
+    EXPECT_FALSE(store.inTransaction());
+    Connection other;
+    other.open(path(), word);
+    EXPECT_EQ(count(other), 2);
+    EXPECT_EQ(count(other, {"WHERE Code = ? OR Code = ?", {"Kept", "INNER"}}), 2);
+}
+
+TEST_F(StoreTest, AFullDiskUndoesTheUnitAndSaysSo) {
+    Connection store;
+    store.open(path(), word);
+    store.run("PRAGMA max_page_count = 20");
+    const QString big(60000, u'x');
+    const auto save = [&] {
+        Transaction unit(store);
+        add(store, "first");
+        EXPECT_EQ(numberThrown([&] {
+                      add(store, "big", big);
+                      add(store, "bigger", big);
+                  }),
+                  StoreError::general);
+        add(store, "after");  // must not slip in on its own
+        unit.commit();
+    };
+    EXPECT_EQ(numberThrown(save), StoreError::general);
+    EXPECT_EQ(count(store), 0);
+    store.run("PRAGMA max_page_count = 1000000");
+    add(store, "big", big);
+    EXPECT_EQ(count(store), 1);
+}
+
+TEST_F(StoreTest, AnotherWorkstationIsWaitedForWithTheWindowAlive) {
+    Connection mine;
+    Connection theirs;
+    mine.open(path(), word);
+    theirs.open(path(), word);
+    auto unit = std::make_unique<Transaction>(theirs);
+    add(theirs, "theirs");
+    EXPECT_EQ(count(mine), 0) << "reads go on beside a writer";
+
+    int calls = 0;
+    Connection::setIdleHook([&] {
+        if (++calls == 3) {
+            unit->commit();
+            unit.reset();
+        }
+    });
+    add(mine, "mine");
+    EXPECT_EQ(calls, 3);
+    EXPECT_EQ(count(theirs), 2);
+    EXPECT_EQ(numberThrown([&] { add(mine, "THEIRS"); }), StoreError::refused);
+}
+
+TEST_F(StoreTest, TheWaitEndsAfterFiveSeconds) {
+    Connection mine;
+    Connection theirs;
+    mine.open(path(), word);
+    theirs.open(path(), word);
+    Transaction unit(theirs);
+    int calls = 0;
+    Connection::setIdleHook([&] { ++calls; });
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(numberThrown([&] { Transaction refused(mine); }), StoreError::busy);
+    EXPECT_GE(timer.elapsed(), 4500);
+    EXPECT_LE(timer.elapsed(), 6000);
+    EXPECT_GT(calls, 100);
+    EXPECT_FALSE(mine.inTransaction());
+}
+
+TEST_F(StoreTest, ACommitThatAReaderHoldsUpIsUndone) {
+    Connection mine;
+    Connection theirs;
+    mine.open(path(), word);
+    theirs.open(path(), word);
+    add(theirs, "a");
+    add(theirs, "b");
+    BulkReader reader(theirs, "SELECT Code FROM tblGood");
+    ASSERT_TRUE(reader.next());
+    EXPECT_EQ(numberThrown([&] {
+                  Transaction unit(mine);
+                  add(mine, "c");
+                  unit.commit();
+              }),
+              StoreError::busy);
+    EXPECT_FALSE(mine.inTransaction());
+    while (reader.next()) continue;
+    EXPECT_EQ(count(mine), 2);
+    add(mine, "d");
+}
+
+TEST(Dialect, StatementsReadAsTheEngineNeedsThem) {
+    const struct {
+        const char* house;
+        const char* engine;
+    } table[] = {{"SELECT * FROM t WHERE a = True AND b=FALSE", "SELECT * FROM t WHERE a = -1 AND b=0"},
+                 {"SELECT 'True' AS True_, \"false\", [True], TrueName FROM t",
+                  "SELECT 'True' AS True_, \"false\", [True], TrueName FROM t"},
+                 {"SELECT 'it''s True', t.True, True", "SELECT 'it''s True', t.True, -1"},
+                 {"UPDATE t SET t.a = ?, t.b = t.c + 1 WHERE t.a = 2",
+                  "UPDATE t SET a = ?, b = t.c + 1 WHERE t.a = 2"},
+                 {"update t set [t].a = f(t.b, t.c), t.d=True where t.e",
+                  "update t set a = f(t.b, t.c), d=-1 where t.e"},
+                 {"SELECT 1 -- True\n, /* False */ False", "SELECT 1 -- True\n, /* False */ 0"},
+                 {"SELECT 'unclosed True", "SELECT 'unclosed True"}};
+    for (const auto& row : table) EXPECT_EQ(engineStatement(row.house), QString(row.engine));
+}
+
+TEST_F(StoreTest, JoinsOfTheHouseWork) {
+    Connection store;
+    store.open(path(), word);
+    add(store, "lamp");
+    store.run({"INSERT INTO tblLine VALUES (?, ?)", {"LAMP", bound(Currency::fromInteger(2))}});
+    store.run({"INSERT INTO tblLine VALUES (?, ?)", {"gone", bound(Currency::fromInteger(3))}});
+    const char* right = "SELECT Good FROM tblGood RIGHT JOIN tblLine ON tblGood.Code = tblLine.Good";
+    EXPECT_EQ(store.execute(right).rowCount(), 2);
+    const char* nested =
+        "SELECT * FROM (tblGood INNER JOIN tblLine ON tblGood.Code = tblLine.Good) INNER JOIN tblLine AS l "
+        "ON l.Good = tblGood.Code WHERE tblGood.Sold = False";
+    EXPECT_EQ(store.execute(nested).rowCount(), 1);
+    EXPECT_EQ(store.execute("SELECT * FROM tblGood WHERE 1<>1").rowCount(), 0);
+    store.run("UPDATE tblGood SET tblGood.Sold = True WHERE tblGood.Code = 'Lamp'");
+    EXPECT_EQ(store.execute("SELECT Sold FROM tblGood").integer("sold"), -1);
+}
+
+TEST_F(StoreTest, LikeFoldsLettersOfEveryScript) {
+    Connection store;
+    store.open(path(), word);
+    const struct {
+        const char* text;
+        const char* pattern;
+        bool fits;
+    } table[] = {{"PIÑA COLADA", "%piña%", true},
+                 {"PINA", "%piña%", false},
+                 {"Éclair", "éCLAIR", true},
+                 {"ЖУК", "%жук", true},
+                 {"100% off", "100\\%", false},
+                 {"abc", "a_c", true},
+                 {"abc", "a_", false},
+                 {"", "%", true},
+                 {"aXbXc", "a%b%c", true},
+                 {"aab", "%ab", true},
+                 {"😀x", "_x", true},
+                 {"abc", "", false}};
+    for (const auto& row : table) {
+        const Recordset answer = store.execute({"SELECT ? LIKE ? AS Fits", {row.text, row.pattern}});
+        EXPECT_EQ(answer.flag("Fits"), row.fits) << row.text << " LIKE " << row.pattern;
+    }
+    EXPECT_TRUE(store.execute({"SELECT ? LIKE 'x' AS Fits", {QVariant()}}).isNull("Fits"));
+    EXPECT_TRUE(store.execute("SELECT '5%' LIKE '5!%' ESCAPE '!' AS Fits").flag("Fits"));
+    add(store, "x", "Anything");
+    EXPECT_EQ(count(store, {"WHERE Name LIKE ?", {anywhere(QString())}}), 1) << "an empty search finds all";
+}
+
+TEST_F(StoreTest, HostileTextsAreStoredExactly) {
+    Connection store;
+    store.open(path(), word);
+    QStringList texts{"O'Brien",
+                      "'; DROP TABLE tblGood; --",
+                      "100%_\\",
+                      "a\"b",
+                      "<b>&amp;</b>",
+                      "tab\tline\n",
+                      "😀 emoji",
+                      "שלום عالم",
+                      "  blanks  ",
+                      "True",
+                      "?",
+                      ":name",
+                      "1.50",
+                      ""};
+    texts += QString(100000, u'ñ');
+    for (qsizetype i = 0; i < texts.size(); ++i) add(store, QString::number(i), texts[i]);
+    Recordset rows = store.execute("SELECT Name FROM tblGood ORDER BY rowid");
+    for (const QString& text : texts) {
+        EXPECT_EQ(rows.text("Name"), text);
+        EXPECT_EQ(count(store, {"WHERE Name = ?", {text}}), 1);
+        rows.moveNext();
+    }
+}
+
+TEST_F(StoreTest, ValuesAreKeptInTheFormOfTheirColumn) {
+    Connection store;
+    store.open(path(), word);
+    Recordset set = store.openTable("tblGood");
+    set.addNew();
+    set.set("Code", QString("Lamp"));
+    set.set("Price", Currency::fromTenThousandths(123456));
+    set.set("Sold", 1);
+    set.set("Since", QDate(2024, 2, 29));
+    set.set("Pieces", Currency::fromInteger(7));
+    set.set("Name", QString());
+    set.update();
+    set.set("Price", 30);
+    set.update();
+    const Recordset row = store.execute(
+        "SELECT *, typeof(Price) AS PriceType, typeof(Pieces) AS PiecesType FROM tblGood WHERE Sold = True");
+    EXPECT_EQ(row.currency("PRICE"), Currency::fromInteger(30));
+    EXPECT_EQ(row.text("PriceType") + row.text("PiecesType"), "integerinteger");
+    EXPECT_EQ(row.integer("Pieces"), 7);
+    EXPECT_EQ(row.integer("Sold"), -1);
+    EXPECT_EQ(row.date("Since"), QDate(2024, 2, 29));
+    EXPECT_EQ(row.dateTime("Since"), QDateTime(QDate(2024, 2, 29), QTime(0, 0)));
+    EXPECT_FALSE(row.isNull("Name"));
+    EXPECT_EQ(numberThrown([&] { set.set("Price", "ten"); }), StoreError::typeMismatch);
+    EXPECT_EQ(numberThrown([&] { set.set("Since", "31.02.24"); }), StoreError::typeMismatch);
+    EXPECT_EQ(numberThrown([&] { set.set("Colour", 1); }), StoreError::general);
+    EXPECT_EQ(numberThrown([&] { row.text("Colour"); }), StoreError::general);
+}
+
+TEST_F(StoreTest, AnUpdateWritesOnlyWhatWasSetAndTellsOfARowThatHasGone) {
+    Connection store;
+    Connection other;
+    store.open(path(), word);
+    other.open(path(), word);
+    add(store, "Lamp", "old");
+    Recordset set = store.openTable("tblGood", {"WHERE Code = ?", {"LAMP"}});
+    other.run({"UPDATE tblGood SET Price = ?", {bound(Currency::fromInteger(5))}});
+    set.set("Name", QString("new"));
+    EXPECT_EQ(set.text("Name"), "new");
+    set.update();
+    const Recordset row = store.execute("SELECT * FROM tblGood");
+    EXPECT_EQ(row.currency("Price"), Currency::fromInteger(5));
+    EXPECT_EQ(row.text("Name"), "new");
+
+    other.run("DELETE FROM tblGood");
+    set.set("Name", QString("newer"));
+    EXPECT_EQ(numberThrown([&] { set.update(); }), StoreError::noCurrentRow);
+    Recordset none = store.openTable("tblGood", {"WHERE Code = ?", {"LAMP"}});
+    EXPECT_TRUE(none.eof());
+    EXPECT_EQ(numberThrown([&] { none.set("Name", QString("x")); }), StoreError::noCurrentRow);
+    EXPECT_EQ(numberThrown([&] { none.text("Name"); }), StoreError::noCurrentRow);
+}
+
+TEST_F(StoreTest, StatementsWithTooFewOrWrongValuesFail) {
+    Connection store;
+    store.open(path(), word);
+    const Sql two{"SELECT ? AS A, ? AS B", {1, 2}};
+    EXPECT_EQ(store.execute(two).integer("B"), 2);
+    EXPECT_EQ(numberThrown([&] { store.execute({two.text, {1}}); }), StoreError::general);
+    EXPECT_EQ(numberThrown([&] { store.execute("SELECT nonsense"); }), StoreError::general);
+    const qint64 most = std::numeric_limits<qint64>::max();
+    const Sql sum{"SELECT SUM(n) AS S FROM (SELECT ? AS n UNION ALL SELECT 1)", {most}};
+    EXPECT_EQ(numberThrown([&] { store.execute(sum); }), StoreError::general) << "an overflow never wraps";
+}
+
+TEST_F(StoreTest, TheStatementHookSeesEveryWriteOnceAndMayStopIt) {
+    Connection store;
+    store.open(path(), word);
+    QStringList seen;
+    Connection::setStatementHook([&](const QString& text) {
+        seen += text.section(u' ', 0, 0);
+        if (text == "COMMIT" && seen.size() > 6) throw std::runtime_error("killed");
+    });
+    const auto save = [&](const QString& code) {
+        Transaction unit(store);
+        add(store, code);
+        BulkWriter writer(store, "INSERT INTO tblLine VALUES (?, ?)");
+        writer.bind(1, code);
+        writer.bind(2, Currency::fromInteger(1));
+        writer.step();
+        count(store);
+        unit.commit();
+    };
+    save("one");
+    EXPECT_EQ(seen, QStringList({"INSERT", "INSERT", "COMMIT"}));
+    store.runMany("UPDATE tblGood SET Pieces = ? WHERE Code = ?", {{1, "one"}, {2, "two"}});
+    EXPECT_EQ(seen.size(), 6);
+    EXPECT_THROW(save("two"), std::runtime_error);
+    EXPECT_EQ(count(store), 1);
+}
+
+TEST_F(StoreTest, TheBulkReaderReadsWhatWasWritten) {
+    Connection store;
+    store.open(path(), word);
+    store.run({"INSERT INTO tblLine VALUES (?, ?)", {"Piña", bound(Currency::fromInteger(2))}});
+    store.run({"INSERT INTO tblLine VALUES (?, ?)", {"b", QVariant()}});
+    BulkReader rows(store, {"SELECT Good, Served FROM tblLine WHERE Good <> ? ORDER BY rowid", {"c"}});
+    ASSERT_TRUE(rows.next());
+    EXPECT_EQ(rows.text(0), "Piña");
+    EXPECT_EQ(rows.currency(1), Currency::fromInteger(2));
+    ASSERT_TRUE(rows.next());
+    EXPECT_TRUE(rows.isNull(1));
+    EXPECT_FALSE(rows.next());
+}
