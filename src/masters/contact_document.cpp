@@ -1,0 +1,120 @@
+#include "masters/contact_document.h"
+
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "platform/clock.h"
+#include "platform/parsing.h"
+#include "platform/store/transaction.h"
+
+namespace {
+using Check = std::optional<Fault>;
+
+Check fault(const QString& text, const QString& focus) { return Fault{exclamation("Error!", text), focus}; }
+
+Check entryFault(const ContactEntry& entry) {
+    if (!isNumeric(entry.Terms)) return fault("Invalid Term Entered!", "txtTerm");
+    if (!isNumeric(entry.CreditLimit)) return fault("Invalid Credit Limit Amount!", "txtCreditLimit");
+    const auto discount = parseNumber(entry.Discount);
+    if (!discount) return fault("Invalid Discount Percentage!", "txtDiscount");
+    // A discount of exactly 100 is refused, too.
+    if (*discount >= Currency::fromInteger(100))
+        return Fault{Box{{}, "Discount Should Not Be Greater Than 100 Percent!", BoxIcon::None},
+                     "txtDiscount"};
+    if (!entry.IsCustomer && !entry.IsSupplier)
+        return fault("Please Select At Least One Contact Category!", "chkCustomer");
+    return {};
+}
+
+void setColumns(Recordset& row, const ContactEntry& entry, const QString& contactId) {
+    row.set("ContactID", contactId);
+    row.set("ContactName", trim(entry.ContactName));
+    row.set("Address", trim(entry.Address));
+    row.set("TelNo", trim(entry.TelNo));
+    row.set("Terms", *parseNumber(entry.Terms));
+    row.set("Remarks", trim(entry.Remarks));
+    row.set("eMail", trim(entry.eMail));
+    row.set("CreditLimit", *parseNumber(entry.CreditLimit));
+    row.set("Discount", *parseNumber(entry.Discount));
+    row.set("IsCustomer", entry.IsCustomer);
+    row.set("IsSupplier", entry.IsSupplier);
+    row.set("UpdatedBy", trim(session().CurrentUserCode));
+    row.set("DateUpdate", Clock::today());
+}
+
+void writeRow(Connection& store, const ContactEntry& entry, bool addMode, const QString& contactId) {
+    Recordset row =
+        store.openTable("tblContactMaster", addMode ? Sql{} : Sql{"WHERE ContactID = ?", {contactId}});
+    if (addMode) row.addNew();
+    setColumns(row, entry, contactId);
+    row.update();
+}
+
+// The id is drawn inside the unit of the write: no other workstation draws it, too.
+Outcome writeContact(Connection& store, const ContactEntry& entry, bool addMode, QString& contactId) {
+    Transaction save(store);
+    if (addMode) {
+        contactId = NextContactID(store);
+        if (RecordFound(store, "tblContactMaster", "ContactName", trim(entry.ContactName)))
+            return *fault("Contact Name Already Exist!", "txtName");
+    }
+    writeRow(store, entry, addMode, trim(contactId));
+    save.commit();
+    return Done{};
+}
+}  // namespace
+
+Outcome SaveContact(Connection& store, const ContactEntry& entry, bool addMode, QString& contactId) {
+    if (const Check found = entryFault(entry)) return *found;
+    if (!addMode && trim(contactId).isEmpty()) return Done{};
+    try {
+        return writeContact(store, entry, addMode, contactId);
+    } catch (const StoreError& error) {
+        return Fault{saveErrorBox(error), {}};
+    }
+}
+
+Outcome DeleteContact(Connection& store, const QString& contactId) {
+    static const QList<DeleteGuard> guards{
+        {"tblChecks", "ContactNo", "You Cannot Delete This Contact, You have Issued a Check to this Payee!"},
+        {"tblSalesMaster", "ContactNo",
+         "You Cannot Delete This Contact, You have Sales Order for this Customer!"},
+        {"tblReceiptMaster", "CustomerNo",
+         "You Cannot Delete This Contact, You have Received Payment from this Customer!"},
+        {"tblPurchaseMaster", "ContactNo",
+         "You Cannot Delete This Contact, You have Purchase Order for this Supplier!"},
+        {"tblDisbursementMaster", "ContactNo",
+         "You Cannot Delete This Contact, You have Issued Payment Voucher to this Payee!"},
+        {"tblItemMaster", "SupplierCode",
+         "You Cannot Delete This Contact, it is a Default Supplier in one of the Products!"},
+    };
+    return deleteRecord(store, contactMaster, guards, contactId,
+                        "You cannot delete this customer because this is used in the packing list!");
+}
+
+QString NextContactID(Connection& store) {
+    const QString last = lastRecord(store, contactMaster);
+    if (last.isEmpty()) return "1000000001";
+    const auto number = parseNumber(last);
+    if (!number)
+        throw StoreError(StoreError::typeMismatch, "The last contact code \"" + last + "\" is not a number.");
+    return (*number + Currency::fromInteger(1)).toPlainText();
+}
+
+const QList<SearchCategory>& contactSearchCategories() {
+    static const QList<SearchCategory> categories{
+        {"Name", "ContactName"},
+        {"Address", "Address"},
+        {"Tel. No.", "TelNo"},
+        {"Terms", "Terms", SearchCategory::Number},
+        {"Type", "", SearchCategory::Type},
+        {"Remarks", "Remarks"},
+        {"Who Updated", "UpdatedBy", SearchCategory::Exact},
+    };
+    return categories;
+}
+
+SearchCondition contactTypeCondition(const QString& type) {
+    if (type == "Customer") return Sql(" WHERE IsCustomer = True");
+    if (type == "Supplier") return Sql(" WHERE IsSupplier = True");
+    return exclamation("Error!", "Please Select Proper Contact Type!");
+}

@@ -1,0 +1,166 @@
+#include "masters/item_document.h"
+
+#include "books/balances.h"
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "platform/clock.h"
+#include "platform/parsing.h"
+#include "platform/store/transaction.h"
+
+namespace {
+using Check = std::optional<Fault>;
+
+Check fault(const QString& text, const QString& focus) { return Fault{exclamation("Error!", text), focus}; }
+
+bool blank(const QString& text) { return trim(text).isEmpty(); }
+
+Check codesFault(const ItemEntry& entry) {
+    if (blank(entry.ItemCode)) return fault("Please Enter Item Code!", "txtItemCode");
+    if (blank(entry.SupplierName)) return fault("Please Enter Supplier Code!", "txtSupplierCode");
+    return {};
+}
+
+// The wholesale price is no part of this test.
+Check numbersFault(const ItemEntry& entry) {
+    const bool cost = isNumeric(entry.CostPrice);
+    if (!cost || !isNumeric(entry.SellingPrice))
+        return Fault{information("Invalid Price!", "Please Enter Numeric Value for Prices!"),
+                     cost ? "txtSellingPrice" : "txtCostPrice"};
+    if (!isNumeric(entry.InventoryBalance))
+        return fault("Please Enter Numeric Value for Inventory Balance!", "txtInventoryBalance");
+    if (!isNumeric(entry.OrderLevel))
+        return fault("Please Enter Numeric Value for Re-Order Level!", "txtReorder");
+    if (blank(entry.Unit)) return fault("Please Enter Unit!", "txtUnit");
+    return {};
+}
+
+// Cost <= wholesale <= selling.
+Check pricesFault(const ItemEntry& entry) {
+    const Currency cost = *parseNumber(entry.CostPrice), selling = *parseNumber(entry.SellingPrice);
+    if (cost > selling) return fault("Cost Price is Greater Than Selling Price!", "txtCostPrice");
+    const auto wholesale = parseNumber(entry.WholesalePrice);
+    if (!wholesale)
+        return Fault{exclamation("Error...", '"' + entry.WholesalePrice + "\" is not a number."),
+                     "txtWholesale"};
+    if (cost > *wholesale) return fault("Cost Price is Greater Than Wholesale Price!", "txtCostPrice");
+    if (*wholesale > selling) return fault("Wholesale Price is Greater Than Selling Price!", "txtWholesale");
+    return {};
+}
+
+Check duplicateFault(Connection& store, const ItemEntry& entry) {
+    if (RecordFound(store, "tblItemMaster", "ItemCode", trim(entry.ItemCode)))
+        return fault("Duplicate Item Code! Please Assign Another Number!", "txtItemCode");
+    if (RecordFound(store, "tblItemMaster", "Description", trim(entry.Description)))
+        return fault("Item Description Already Exist! System Cannot Allow Same Item Description!",
+                     "txtDescription");
+    return {};
+}
+
+Check entryFault(Connection& store, const ItemEntry& entry) {
+    if (const Check found = codesFault(entry)) return found;
+    if (const Check found = numbersFault(entry)) return found;
+    if (!RecordFound(store, "tblContactMaster", "ContactName", trim(entry.SupplierName)))
+        return fault("Supplier Does Not Exist!", "txtSupplierCode");
+    if (const Check found = pricesFault(entry)) return found;
+    if (!isDate(entry.DateAquired)) return fault("Invalid Aquisition Date!", "txtDateAquired");
+    if (!RecordFound(store, "tblUnitMaster", "UnitCode", trim(entry.Unit)))
+        return fault("Unit Code Does Not Exist!", "txtUnit");
+    return {};
+}
+
+void setTexts(Connection& store, Recordset& row, const ItemEntry& entry) {
+    row.set("ItemCode", trim(entry.ItemCode));
+    row.set("Description", trim(entry.Description).toUpper());
+    row.set("Unit", trim(entry.Unit));
+    row.set("Locator", trim(entry.Locator).toUpper());
+    row.set("Remarks", trim(entry.Remarks).toUpper());
+    row.set("SupplierCode", LookupField(store, "ContactID", "tblContactMaster", "ContactName",
+                                        trim(entry.SupplierName), LookupMode::PrimaryKey));
+}
+
+void setFigures(Recordset& row, const ItemEntry& entry) {
+    row.set("CostPrice", *parseNumber(entry.CostPrice));
+    row.set("SellingPrice", *parseNumber(entry.SellingPrice));
+    row.set("WholesalePrice", *parseNumber(entry.WholesalePrice));
+    row.set("DateAquired", *parseDate(entry.DateAquired));
+    row.set("OrderLevel", *parseNumber(entry.OrderLevel));
+    row.set("Balance", *parseNumber(entry.InventoryBalance));
+    row.set("UpdatedBy", trim(session().CurrentUserCode));
+    row.set("DateUpdate", Clock::today());
+}
+
+void writeRow(Connection& store, const ItemEntry& entry, bool addMode) {
+    const Sql where{"WHERE ItemCode = ?", {trim(entry.ItemCode)}};
+    Recordset row = store.openTable("tblItemMaster", addMode ? Sql{} : where);
+    if (addMode) row.addNew();
+    setTexts(store, row, entry);
+    setFigures(row, entry);
+    row.update();
+}
+
+// The duplicate tests and the write are one unit: no other workstation comes between.
+Outcome writeItem(Connection& store, const ItemEntry& entry, bool addMode) {
+    Transaction save(store);
+    if (addMode)
+        if (const Check found = duplicateFault(store, entry)) return *found;
+    writeRow(store, entry, addMode);
+    const QString code = trim(entry.ItemCode);
+    Done done;
+    StoreItemBalance(store, code, done.boxes);
+    if (addMode) StoreLastItemCode(store, code);
+    save.commit();
+    return done;
+}
+}  // namespace
+
+Outcome SaveItem(Connection& store, const ItemEntry& entry, bool addMode, const QString& currentCode) {
+    try {
+        if (const Check found = entryFault(store, entry)) return *found;
+        if (!addMode && blank(currentCode)) return Done{};
+        return writeItem(store, entry, addMode);
+    } catch (const StoreError& error) {
+        return Fault{saveErrorBox(error), {}};
+    }
+}
+
+Outcome DeleteItem(Connection& store, const QString& itemCode) {
+    static const QList<DeleteGuard> guards{
+        {"tblSalesDetails", "ItemID", "You Cannot Delete This Item, You have Sales Order for this Item!"},
+        {"tblPurchaseDetails", "ItemID",
+         "You Cannot Delete This Item, You have Purchase Order for this Item!"},
+    };
+    return deleteRecord(store, itemMaster, guards, itemCode,
+                        "You cannot delete this item because this is used in the packing list!");
+}
+
+QString NextItemCode(Connection& store) {
+    const Recordset row = store.execute("SELECT Server FROM tblServer");
+    if (row.eof()) return "1000000001";
+    const auto last = parseNumber(row.text("Server"));
+    if (!last) return row.text("Server");
+    return (*last + Currency::fromInteger(1)).toPlainText();
+}
+
+void StoreLastItemCode(Connection& store, const QString& itemCode) {
+    store.run("DELETE FROM tblServer");
+    Recordset row = store.openTable("tblServer");
+    row.addNew();
+    row.set("Server", itemCode);
+    row.update();
+}
+
+const QList<SearchCategory>& itemSearchCategories() {
+    static const QList<SearchCategory> categories{
+        {"Item Code", "ItemCode"},
+        {"Description", "Description", SearchCategory::TwoWords},
+        {"Unit", "Unit"},
+        {"Locator", "Locator"},
+        {"Remarks", "Remarks"},
+        {"Supplier Code", "SupplierCode"},
+        {"Cost Price", "CostPrice", SearchCategory::Number},
+        {"Selling Price", "SellingPrice", SearchCategory::Number},
+        {"Inventory Balance", "Balance", SearchCategory::Number},
+        {"Who Updated", "UpdatedBy", SearchCategory::Exact},
+    };
+    return categories;
+}

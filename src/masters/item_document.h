@@ -1,0 +1,28 @@
+#pragma once
+#include "masters/master_records.h"
+
+// The rules of the item master. Without a window; failures are StoreError unless told.
+
+inline constexpr MasterTable itemMaster{"tblItemMaster", "ItemCode"};
+
+// An item as typed. The supplier goes by his name.
+struct ItemEntry {
+    QString ItemCode, Description, Unit, Locator, Remarks, SupplierName;
+    QString CostPrice, SellingPrice, WholesalePrice;
+    QString DateAquired, OrderLevel, InventoryBalance;
+};
+
+// Checks, in the system's order, and writes: a new item, or the one of the entry's code. All or nothing. The
+// balance is recomputed from the books, whatever was typed; the code of a new item is the base of the next.
+// An edit with an empty currentCode passes the checks and writes nothing. A failing store is a Fault.
+Outcome SaveItem(Connection& store, const ItemEntry& entry, bool addMode, const QString& currentCode);
+
+// Fault when a sales or a purchase line holds the item.
+Outcome DeleteItem(Connection& store, const QString& itemCode);
+
+// The code proposed for a new item: the last one plus 1, "1000000001" when there is none, and the last one
+// again when it is no number.
+QString NextItemCode(Connection& store);
+void StoreLastItemCode(Connection& store, const QString& itemCode);
+
+const QList<SearchCategory>& itemSearchCategories();

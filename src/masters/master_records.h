@@ -1,0 +1,49 @@
+#pragma once
+#include "platform/outcome.h"
+#include "platform/store/connection.h"
+
+#include <QList>
+#include <optional>
+#include <variant>
+
+// What the item and the contact master do alike with their tables. Without a window; failures are StoreError.
+
+struct MasterTable {
+    const char* table;
+    const char* key;
+};
+
+// The walk through the whole table in the order of its keys. First and last: empty for an empty table. Next
+// and previous: none at the end; StoreError noCurrentRow when the key is not there.
+QString firstRecord(Connection& store, const MasterTable& master);
+QString lastRecord(Connection& store, const MasterTable& master);
+std::optional<QString> nextRecord(Connection& store, const MasterTable& master, const QString& key);
+std::optional<QString> previousRecord(Connection& store, const MasterTable& master, const QString& key);
+
+// A table that may refer to the record, and what is said when it does.
+struct DeleteGuard {
+    const char* table;
+    const char* column;
+    const char* message;
+};
+
+// Deletes the record unless a guard, in their order, finds it in use. An empty key is StoreError
+// noCurrentRow; a refusal of the store's own (said with refusedText) and any other failure is a Fault.
+Outcome deleteRecord(Connection& store, const MasterTable& master, const QList<DeleteGuard>& guards,
+                     const QString& key, const char* refusedText);
+
+// A category of the search box.
+struct SearchCategory {
+    const char* caption;
+    const char* column;
+    // Type: searched by its own combo, not by what is typed.
+    enum Match { Like, TwoWords, Number, Exact, Type } match = Like;
+};
+
+const SearchCategory* findCategory(const QList<SearchCategory>& categories, const QString& caption);
+
+// The condition for what was typed, or the box that refuses it. Empty values list all, but two words must
+// have one. A number that does not convert is StoreError typeMismatch.
+using SearchCondition = std::variant<Sql, Box>;
+SearchCondition searchCondition(const QList<SearchCategory>& categories, const QString& caption,
+                                const QString& value, const QString& secondValue = {});

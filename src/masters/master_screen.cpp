@@ -1,0 +1,320 @@
+#include "masters/master_screen.h"
+
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "masters/field_widths.h"
+#include "platform/masks.h"
+#include "platform/parsing.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/combo_box.h"
+#include "platform/ui/form.h"
+#include "platform/ui/text_box.h"
+
+namespace {
+// The hourglass while a list is read.
+struct Hourglass {
+    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~Hourglass() { QApplication::restoreOverrideCursor(); }
+    Q_DISABLE_COPY_MOVE(Hourglass)
+};
+
+Box errorBox(const QString& title, const StoreError& error) { return exclamation(title, error.text()); }
+
+bool hasCategory(const QList<SearchCategory>& categories, SearchCategory::Match match) {
+    return std::any_of(categories.begin(), categories.end(),
+                       [match](const SearchCategory& category) { return category.match == match; });
+}
+
+QStringList captionsOf(const QList<SearchCategory>& categories) {
+    QStringList captions;
+    for (const SearchCategory& category : categories) captions << category.caption;
+    return captions;
+}
+
+TextBox* searchBox(const QString& name, const QString& accessibleName) {
+    auto* box = new TextBox(name);
+    box->setCapacity(width::search);
+    box->setKeyFilter(keys::freeText());
+    box->setAccessibleName(accessibleName);
+    return box;
+}
+}  // namespace
+
+MasterScreen::MasterScreen(const MasterDescriptor& descriptor)
+    : RecordScreen(descriptor.name, descriptor.caption), descriptor_(descriptor) {
+    buildLayout();
+    connectControls();
+    cboSearchBy->setText(descriptor_.defaultCategory);
+    categoryChosen();
+    guarded([this] { UpdateRecordCount(); });
+}
+
+QSize MasterScreen::sizeHint() const {
+    return {form::charactersWide(this, 120), qMax(fontMetrics().height() * 34, minimumSizeHint().height())};
+}
+
+// ---- the record on show
+
+void MasterScreen::DisplayRecord(const QString& key) {
+    mblnAddmode = false;
+    mblnUpdated = false;
+    ClearRecord();
+    currentKey_ = trim(key);
+    if (currentKey_.isEmpty()) return;
+    try {
+        const MasterTable& master = descriptor_.master;
+        const Recordset row = StoreConnection().execute(
+            {QString("SELECT * FROM %1 WHERE %2 = ?").arg(master.table, master.key), {currentKey_}});
+        if (row.eof()) return;
+        fields_->show(StoreConnection(), row);
+        if (descriptor_.locksOnShow) LockFields();
+    } catch (const StoreError& error) {
+        showBox(exclamation("Error Loading", "Error loading record.  " + error.text()));
+    }
+}
+
+void MasterScreen::ClearRecord() { fields_->clear(); }
+
+void MasterScreen::UnlockFields() { fields_->unlock(mblnAddmode); }
+
+void MasterScreen::NewRecord() { compose(false); }
+
+void MasterScreen::duplicateRecord() { compose(true); }
+
+void MasterScreen::compose(bool duplicate) {
+    guarded([&] {
+        mblnAddmode = true;
+        mblnUpdated = false;
+        UnlockFields();
+        if (!duplicate) fields_->blankForNew();
+        fields_->setText("txtLastUpdate", {});
+        fields_->setText("txtUpdatedBy", {});
+        findChild<QWidget*>(descriptor_.firstField)->setFocus();
+        currentKey_ = drawKey(duplicate);
+    });
+}
+
+// It is the grid's row that is edited, not the record on show.
+void MasterScreen::EditRecord() {
+    DisplayRecord(gridKey());
+    mblnUpdated = !descriptor_.editShowsLast;
+    UnlockFields();
+    findChild<QWidget*>(descriptor_.firstField)->setFocus();
+}
+
+void MasterScreen::SaveRecord() {
+    guarded([this] {
+        fields_->leave(focusWidget());
+        mblnUpdated = true;
+        QString key = currentKey_;
+        const Outcome outcome = save(key);
+        if (mblnAddmode) currentKey_ = key;
+        if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
+        showBoxes(std::get<Done>(outcome).boxes);
+        if (!key.isEmpty()) finishSave(key);
+    });
+}
+
+// Shows what was stored: the figures typed are not always the ones that stay.
+void MasterScreen::finishSave(const QString& key) {
+    DisplayRecord(key);
+    if (descriptor_.listsAfterSave) listAll();
+    LockFields();
+    UpdateRecordCount();
+}
+
+void MasterScreen::DeleteRecord() {
+    if (!askYes(question("Confirm Delete", "Confirm Deletion of this Record.  Delete Record Now?",
+                         BoxAnswer::No)))
+        return;
+    guarded([this] {
+        try {
+            const Outcome outcome = remove(gridKey());
+            if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
+            ClearRecord();
+            RefreshRecord();
+        } catch (const StoreError& error) {
+            if (error.number() != StoreError::noCurrentRow) throw;
+            ClearRecord();
+        }
+    });
+}
+
+void MasterScreen::RefreshRecord() {
+    guarded([this] {
+        listAll();
+        DisplayRecord(gridKey());
+    });
+}
+
+// ---- moving through the table
+
+template <typename Step>
+void MasterScreen::move(Step step, const Box& atTheEnd) {
+    try {
+        const auto key = step(StoreConnection(), descriptor_.master, currentKey_);
+        if (key)
+            DisplayRecord(*key);
+        else
+            showBox(atTheEnd);
+    } catch (const StoreError& error) {
+        const bool lost = error.number() == StoreError::noCurrentRow && !descriptor_.notLoaded.isEmpty();
+        showBox(lost ? exclamation("Error!", descriptor_.notLoaded) : errorBox("Error...", error));
+    }
+}
+
+void MasterScreen::NextRecord() { move(nextRecord, information("EOF", "End of File Encountered...")); }
+
+void MasterScreen::PrevRecord() {
+    move(previousRecord, information("BOF", "Beginning of File Encountered..."));
+}
+
+void MasterScreen::showFromEnd(QString (*end)(Connection&, const MasterTable&)) {
+    guarded([&] {
+        const QString key = end(StoreConnection(), descriptor_.master);
+        if (!key.isEmpty()) DisplayRecord(key);
+    });
+}
+
+void MasterScreen::FirstRecord() { showFromEnd(firstRecord); }
+
+void MasterScreen::LastRecord() { showFromEnd(lastRecord); }
+
+// ---- the grid
+
+QString MasterScreen::gridKey() const {
+    return dbgMyGrid->hasCurrent() ? dbgMyGrid->currentText(descriptor_.master.key) : QString();
+}
+
+void MasterScreen::pickFromGrid() {
+    if (!mblnUpdated && dbgMyGrid->hasCurrent()) DisplayRecord(gridKey());
+}
+
+void MasterScreen::LoadGrid(const Sql& where, const QString& order) {
+    const Hourglass hourglass;
+    const QString table = descriptor_.master.table;
+    dbgMyGrid->setSource(StoreConnection(),
+                         {"*", table, table, where, order.isEmpty() ? descriptor_.defaultOrder : order});
+    setCount(dbgMyGrid->recordCount(), descriptor_.listedNone, descriptor_.listed);
+}
+
+void MasterScreen::listAll(const QString& order) { LoadGrid({}, order); }
+
+void MasterScreen::UpdateRecordCount() {
+    setCount(CountRecords(StoreConnection(), descriptor_.master.table), descriptor_.countedNone,
+             descriptor_.counted);
+}
+
+void MasterScreen::setCount(qint64 count, const QString& none, const QString& some) {
+    fraCount->setTitle(count == 0 ? none : some.arg(formatCount(count)));
+}
+
+// ---- the search
+
+SearchCondition MasterScreen::typeCondition(const QString& /*type*/) { return Sql(); }
+
+// The category decides which boxes stand there and which keys they take.
+void MasterScreen::categoryChosen() {
+    const SearchCategory* category = findCategory(descriptor_.categories, cboSearchBy->text());
+    const auto match = category ? category->match : SearchCategory::Like;
+    txtSearch->setKeyFilter(match == SearchCategory::Number ? keys::amount() : keys::freeText());
+    txtSearch->setVisible(match != SearchCategory::Type);
+    if (cboType) cboType->setVisible(match == SearchCategory::Type);
+    if (lblDash) lblDash->setVisible(match == SearchCategory::TwoWords);
+    if (txtSecondSearch) txtSecondSearch->setVisible(match == SearchCategory::TwoWords);
+    if (match == SearchCategory::Type && cboType && isVisible()) cboType->setFocus();
+}
+
+void MasterScreen::search() {
+    ClearRecord();
+    guarded([this] {
+        listCondition(searchCondition(descriptor_.categories, cboSearchBy->text(), txtSearch->text(),
+                                      txtSecondSearch ? txtSecondSearch->text() : QString()));
+    });
+}
+
+void MasterScreen::searchType() {
+    ClearRecord();
+    guarded([this] { listCondition(typeCondition(cboType->text())); });
+}
+
+void MasterScreen::listCondition(const SearchCondition& condition) {
+    if (const Box* refusal = std::get_if<Box>(&condition)) {
+        showBox(*refusal);
+        return;
+    }
+    mblnUpdated = false;
+    LoadGrid(std::get<Sql>(condition), {});
+}
+
+// ---- building
+
+void MasterScreen::buildLayout() {
+    auto* halves = new QVBoxLayout(this);
+    halves->addWidget(recordHalf());
+    halves->addWidget(searchLine());
+    halves->addWidget(gridHalf(), 1);
+    form::setAccessibleFromTexts(this);
+}
+
+QWidget* MasterScreen::recordHalf() {
+    auto* record = form::frame("fraRecord", {});
+    auto* grid = new QGridLayout(record);
+    fields_ = new MasterFields(descriptor_.fields, grid, this);
+    return record;
+}
+
+QWidget* MasterScreen::searchLine() {
+    auto* line = new QWidget;
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins({});
+    cboSearchBy = new ComboBox("cboSearchBy", ComboBox::Closed);
+    cboSearchBy->addItems(captionsOf(descriptor_.categories));
+    row->addWidget(form::label("Search &By :", cboSearchBy));
+    row->addWidget(cboSearchBy);
+    txtSearch = searchBox("txtSearch", "Search value");
+    row->addWidget(form::label("Te&xt :", txtSearch));
+    row->addWidget(txtSearch, 1);
+    if (hasCategory(descriptor_.categories, SearchCategory::TwoWords)) {
+        lblDash = form::label("-");
+        lblDash->setObjectName("lblDash");
+        txtSecondSearch = searchBox("txtSecondSearch", "Second search value");
+        row->addWidget(lblDash);
+        row->addWidget(txtSecondSearch, 1);
+    }
+    if (!descriptor_.types.isEmpty()) {
+        cboType = new ComboBox("cboType", ComboBox::Closed);
+        cboType->addItems(descriptor_.types);
+        cboType->setCurrentIndex(-1);
+        cboType->setAccessibleName("Contact type");
+        row->addWidget(cboType, 1);
+    }
+    row->addWidget(form::button("cmdSearch", "Searc&h", "search"));
+    row->addWidget(form::button("cmdAll", descriptor_.allCaption, "refresh"));
+    row->addWidget(form::button("cmdNewDuplicate", "Add New &Duplicate", "new"));
+    return line;
+}
+
+QGroupBox* MasterScreen::gridHalf() {
+    fraCount = form::frame("fraCount", {});
+    auto* box = new QVBoxLayout(fraCount);
+    dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", descriptor_.columns);
+    box->addWidget(dbgMyGrid);
+    return fraCount;
+}
+
+void MasterScreen::connectControls() {
+    const auto click = [this](const char* name, auto slot) {
+        connect(findChild<QAbstractButton*>(name), &QAbstractButton::clicked, this, slot);
+    };
+    click("cmdSearch", [this] { search(); });
+    click("cmdAll", [this] { guarded([this] { listAll(); }); });
+    click("cmdNewDuplicate", [this] { duplicateRecord(); });
+    connect(txtSearch, &TextBox::entered, this, [this] { search(); });
+    if (txtSecondSearch) connect(txtSecondSearch, &TextBox::entered, this, [this] { search(); });
+    if (cboType) connect(cboType, &ComboBox::picked, this, [this] { searchType(); });
+    connect(cboSearchBy, &QComboBox::currentTextChanged, this, [this] { categoryChosen(); });
+    connect(dbgMyGrid, &DataGrid::picked, this, [this] { pickFromGrid(); });
+    connect(dbgMyGrid, &DataGrid::headerClicked, this,
+            [this](int column) { guarded([&] { listAll(descriptor_.headerOrders.value(column)); }); });
+}

@@ -1,0 +1,110 @@
+#pragma once
+#include "masters/master_fields.h"
+#include "masters/master_records.h"
+#include "platform/ui/child_screen.h"
+#include "platform/ui/data_grid.h"
+
+class ComboBox;
+class QGroupBox;
+class QLabel;
+
+// What differs between the master screens.
+struct MasterDescriptor {
+    QString name = {};
+    QString caption = {};
+    MasterTable master = {};
+    QList<MasterField> fields = {};
+    QString firstField = {};  // the focus of a record under change
+
+    QList<GridColumn> columns = {};
+    QStringList headerOrders = {};  // by column; a column beyond them orders as the default
+    QString defaultOrder = {};
+    QString listedNone = {};   // the count after a list: none,
+    QString listed = {};       // and "%1" of them
+    QString countedNone = {};  // the same for the count of the whole table
+    QString counted = {};
+    QString allCaption = {};  // of cmdAll
+
+    QList<SearchCategory> categories = {};
+    QString defaultCategory = {};
+    QStringList types = {};  // of the Type category
+
+    QString notLoaded = {};      // what a move from no record says; empty: the store's own words
+    bool locksOnShow = true;     // showing a record locks the fields
+    bool editShowsLast = false;  // an edit shows its record after raising the flags, and so clears them
+    bool listsAfterSave = false;
+};
+
+// The pattern of the item and the contact master: the record on show in the top half, its fields locked until
+// a command opens them; in the bottom half the grid that a search narrows and a pick shows from.
+class MasterScreen : public RecordScreen {
+    Q_OBJECT
+  public:
+    explicit MasterScreen(const MasterDescriptor& descriptor);
+    QSize sizeHint() const override;
+
+  public slots:
+    void NextRecord();
+    void PrevRecord();
+    void FirstRecord();
+    void LastRecord();
+    void NewRecord();
+    void EditRecord();
+    void SaveRecord();
+    void DeleteRecord();
+    void ClearRecord();
+    void RefreshRecord();
+
+  protected:
+    const MasterFields& fields() const { return *fields_; }
+    MasterFields& fields() { return *fields_; }
+    QString currentKey() const { return currentKey_; }
+
+    // The key of a new record, also written to the screen where it shows there; may be empty until the save.
+    virtual QString drawKey(bool duplicate) = 0;
+    // Checks and writes what is on the screen; key is the record's, and the new one after a save.
+    virtual Outcome save(QString& key) = 0;
+    virtual Outcome remove(const QString& key) = 0;
+    virtual SearchCondition typeCondition(const QString& type);
+
+  private:
+    void buildLayout();
+    QWidget* recordHalf();
+    QWidget* searchLine();
+    QGroupBox* gridHalf();
+    void connectControls();
+
+    void DisplayRecord(const QString& key);
+    void LoadGrid(const Sql& where, const QString& order);
+    void UpdateRecordCount();
+    void LockFields() { fields_->lock(); }
+    void UnlockFields();
+    void duplicateRecord();
+    void compose(bool duplicate);
+    void finishSave(const QString& key);
+    void pickFromGrid();
+    QString gridKey() const;
+    void setCount(qint64 count, const QString& none, const QString& some);
+
+    template <typename Step>
+    void move(Step step, const Box& atTheEnd);
+    void showFromEnd(QString (*end)(Connection&, const MasterTable&));
+
+    void categoryChosen();
+    void search();
+    void searchType();
+    void listCondition(const SearchCondition& condition);
+    void listAll(const QString& order = {});
+
+    const MasterDescriptor descriptor_;
+    MasterFields* fields_ = nullptr;
+    QString currentKey_;  // CurrentCode, CurrentID
+
+    DataGrid* dbgMyGrid;
+    QGroupBox* fraCount;
+    ComboBox* cboSearchBy;
+    ComboBox* cboType = nullptr;
+    TextBox* txtSearch;
+    TextBox* txtSecondSearch = nullptr;
+    QLabel* lblDash = nullptr;
+};
