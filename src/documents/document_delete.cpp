@@ -12,19 +12,20 @@ void deleteRows(Connection& store, const char* table, const char* column, const 
 }
 }  // namespace
 
-Outcome deleteDocument(Connection& store, const DocumentBook& book, const QString& key) {
+Outcome deleteDocument(Connection& store, const DeletionRules& rules, const QString& key) {
+    const OrderBook& book = rules.orders;
     Transaction unit(store);
-    if (RecordFound(store, book.paymentTable, book.paymentColumn, key))
-        return Fault{exclamation("Error!", book.paidMessage), {}};
+    if (RecordFound(store, rules.paymentTable, rules.paymentColumn, key))
+        return Fault{exclamation("Error!", rules.paidMessage), {}};
     RemoveStockValuation(store, book.bookId, key);
     RemoveForPosting(store, book.bookId, key);
-    deleteRows(store, book.detailsTable, book.detailsKey, key);
-    deleteRows(store, book.masterTable, book.masterKey, key);
+    deleteRows(store, book.detailTable, "Reference", key);
+    deleteRows(store, book.master.table, book.master.key, key);
     unit.commit();
     return Done{};
 }
 
-void recomputeAfterDeletion(Connection& store, const DocumentBook& book, Progress& progress) {
-    book.recomputeMoney(store, progress);
+void recomputeAfterDeletion(Connection& store, const DeletionRules& rules, Progress& progress) {
+    rules.recomputeMoney(store, progress);
     RecomputeInventoryBalances(store, progress);
 }

@@ -274,11 +274,11 @@ void Journal::DeleteRecord() {
 void Journal::deleteCurrent() {
     if (!dbgMyGrid->hasCurrent()) throw StoreError(StoreError::noCurrentRow, "No current record.");
     const Outcome outcome =
-        deleteDocument(StoreConnection(), book_.document, dbgMyGrid->currentText(book_.lock.key));
+        deleteDocument(StoreConnection(), book_.deletion, dbgMyGrid->currentText(book_.lock.key));
     if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
     guarded([this] {
         frmStatus status;
-        recomputeAfterDeletion(StoreConnection(), book_.document, status);
+        recomputeAfterDeletion(StoreConnection(), book_.deletion, status);
     });
     refreshGrid();
 }

@@ -24,7 +24,7 @@ struct JournalBook {
     const char* entryScreen;
     LockableBook lock;
     JournalTables tables;
-    DocumentBook document;
+    DeletionRules deletion;
     const char* printRight;
     const char* deleteRight;
     const char* initialCategory;

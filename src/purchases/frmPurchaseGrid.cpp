@@ -1,6 +1,7 @@
 #include "purchases/frmPurchaseGrid.h"
 
 #include "books/balances.h"
+#include "purchases/purchase_document.h"
 
 const JournalBook& purchaseJournal() {
     using Category = JournalCategory;
@@ -18,11 +19,7 @@ const JournalBook& purchaseJournal() {
                                   {"Total Amount", "PurchaseAmount", Category::Amount},
                                   {"Remarks", "tblPurchaseMaster.Remarks"},
                                   {"Who Updated", "tblPurchaseMaster.UpdatedBy"}}},
-        .document = {.bookId = "P",
-                     .masterTable = "tblPurchaseMaster",
-                     .masterKey = "PurchaseNo",
-                     .detailsTable = "tblPurchaseDetails",
-                     .detailsKey = "Reference",
+        .deletion = {.orders = purchaseOrders,
                      .paymentTable = "tblDisbursementDetails",
                      .paymentColumn = "PuchaseID",
                      .paidMessage = "You Cannot Delete This Purchase Order, You have Tag Payment with This "

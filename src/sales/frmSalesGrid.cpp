@@ -1,6 +1,7 @@
 #include "sales/frmSalesGrid.h"
 
 #include "books/balances.h"
+#include "sales/sales_document.h"
 
 const JournalBook& salesJournal() {
     using Category = JournalCategory;
@@ -18,11 +19,7 @@ const JournalBook& salesJournal() {
                                   {"Total Amount", "TotalAmount", Category::Amount},
                                   {"Remarks", "tblSalesMaster.Remarks"},
                                   {"Who Updated", "tblSalesMaster.UpdatedBy"}}},
-        .document = {.bookId = "S",
-                     .masterTable = "tblSalesMaster",
-                     .masterKey = "RefNo",
-                     .detailsTable = "tblSalesDetails",
-                     .detailsKey = "Reference",
+        .deletion = {.orders = salesOrders,
                      .paymentTable = "tblReceiptDetails",
                      .paymentColumn = "Reference",
                      .paidMessage = "You Cannot Delete This Sales Order, You have Tag Payment with This "

@@ -75,17 +75,21 @@ QSize frmForUpload::sizeHint() const {
 }
 
 bool frmForUpload::receive(const ScreenArguments& arguments) {
-    if (!std::exchange(loaded_, true)) RefreshRecord();
-    return ChildScreen::receive(arguments);
+    if (!std::exchange(loaded_, true)) reload();
+    return !finished_ && ChildScreen::receive(arguments);
 }
 
 void frmForUpload::RefreshRecord() {
+    reload();
+    closeWhenFinished();
+}
+
+void frmForUpload::reload() {
     if (!guarded([this] { loadLists(); })) return;
     showLists();
     if (!nothingQueued()) return;
     showBox(alreadyUploaded());
     finished_ = true;
-    closeWhenFinished();
 }
 
 void frmForUpload::loadLists() {
@@ -119,13 +123,13 @@ void frmForUpload::postAndCost() {
     showBoxes(std::exchange(boxes, {}));
     if (!posted) {
         showBox(postingProblem());
-        RefreshRecord();
+        reload();
     }
     const bool costed = InitializeStockValuation(StoreConnection(), items_, *this, boxes);
     showBoxes(boxes);
     if (!costed) {
         showBox(initializingProblem());
-        RefreshRecord();
+        reload();
     }
     showBox(information("Zevrin!", "End of Day Transactions Successfully Uploaded!"));
     finished_ = true;

@@ -27,6 +27,7 @@ class frmForUpload : public ChildScreen, private EndOfDayView {
   private:
     void upload();
     void postAndCost();
+    void reload();
     void loadLists();
     void showLists();
     bool nothingQueued() const { return documents_.isEmpty() && items_.isEmpty(); }
