@@ -1,0 +1,30 @@
+#include "books/posting_queue.h"
+
+#include "books/passed_over.h"
+
+void QueueBookForPosting(Connection& store, const QString& bookId, const QString& reference,
+                         const QString& contact, const QDate& date) {
+    store.run({"INSERT INTO tblForPosting (BookID, Reference, Contact, TransDate) VALUES (?, ?, ?, ?)",
+               {bookId, reference, contact, date}});
+}
+
+void QueueItemForPosting(Connection& store, const QString& itemCode) {
+    const qint64 waiting =
+        store.run({"UPDATE tblForPostingItem SET ItemID = ? WHERE ItemID = ?", {itemCode, itemCode}});
+    if (waiting == 0) store.run({"INSERT INTO tblForPostingItem (ItemID) VALUES (?)", {itemCode}});
+}
+
+void RemoveForPosting(Connection& store, const QString& bookId, const QString& reference) {
+    store.run({"DELETE FROM tblForPosting WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
+}
+
+static bool hasRows(Connection& store, const char* statement) {
+    bool found = false;
+    passOverRead([&] { found = !store.execute(statement).eof(); });
+    return found;
+}
+
+bool HasPendingPosting(Connection& store) {
+    return hasRows(store, "SELECT 1 FROM tblForPosting LIMIT 1") ||
+           hasRows(store, "SELECT 1 FROM tblForPostingItem LIMIT 1");
+}
