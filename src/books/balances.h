@@ -27,9 +27,9 @@ void UpdateSalesBalance(Connection& store, const QString& refNo, Boxes& boxes);
 void UpdatePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes& boxes);
 void UpdateItemBalance(Connection& store, const QString& itemCode, Boxes& boxes);
 
-// All keys at once: set-based, writing only what changed, with the figures of the routines above. A key whose
-// sum overflows keeps its balance and stops no other. In units of at most a quarter of a second of store
-// time.
+// All keys at once: set-based, writing only what changed, with the figures of the routines above. A sum that
+// overflows counts 0 for its key, as there, and stops no other. In units of at most a quarter of a second of
+// store time.
 void RecomputeReceivableBalances(Connection& store, Progress& progress);
 void RecomputePayableBalances(Connection& store, Progress& progress);
 void RecomputeInventoryBalances(Connection& store, Progress& progress);

@@ -1,0 +1,167 @@
+#include "books/balances.h"
+
+#include "books/balance_figures.h"
+#include "books/cached_balance.h"
+#include "books/passed_over.h"
+#include "foundation/shared_routines.h"
+
+// The one value of a summing query.
+static Term sumOf(Connection& store, const Sql& query, const char* alias) {
+    Term sum;
+    passOverRead([&] {
+        const Recordset row = store.execute(query);
+        if (!row.isNull(alias)) sum = row.currency(alias);
+    });
+    return sum;
+}
+
+namespace {
+struct Payment {
+    Term paid;
+    Term granted;
+};
+}  // namespace
+
+// Both sums come from one query: where one fails, neither counts.
+static Payment paymentOf(Connection& store, const Sql& query) {
+    Payment payment;
+    passOverRead([&] {
+        const Recordset row = store.execute(query);
+        if (!row.isNull("Bayad")) payment.paid = row.currency("Bayad");
+        if (!row.isNull("Palugit")) payment.granted = row.currency("Palugit");
+    });
+    return payment;
+}
+
+static Currency receivable(Connection& store, const Sql& sales, const Sql& receipts) {
+    const Term sold = sumOf(store, sales, "Halin");
+    const auto [paid, granted] = paymentOf(store, receipts);
+    return receivableFigure(sold, paid, granted);
+}
+
+Currency SalesBalance(Connection& store, const QString& refNo) {
+    return receivable(store,
+                      {"SELECT SUM(TotalAmount) AS Halin FROM tblSalesMaster WHERE RefNo = ?", {refNo}},
+                      {"SELECT SUM(Amount) AS Bayad, SUM(DiscountAmount) AS Palugit FROM tblReceiptDetails "
+                       "WHERE Reference = ?",
+                       {refNo}});
+}
+
+Currency CustomerBalance(Connection& store, const QString& contactId) {
+    return receivable(
+        store, {"SELECT SUM(TotalAmount) AS Halin FROM tblSalesMaster WHERE ContactNo = ?", {contactId}},
+        {"SELECT SUM(PaymentAmount) AS Bayad, SUM(TotalDiscAmount) AS Palugit FROM "
+         "tblReceiptMaster WHERE CustomerNo = ?",
+         {contactId}});
+}
+
+Currency PurchaseBalance(Connection& store, const QString& purchaseNo) {
+    const Term purchased = sumOf(
+        store,
+        {"SELECT SUM(PurchaseAmount) AS Gipalit FROM tblPurchaseMaster WHERE PurchaseNo = ?", {purchaseNo}},
+        "Gipalit");
+    const Term paid = sumOf(store,
+                            {"SELECT SUM(PayAmount) AS Bayad FROM tblDisbursementDetails WHERE PuchaseID = ? "
+                             "AND DirectPayment = 0",
+                             {purchaseNo}},
+                            "Bayad");
+    return differenceFigure(purchased, paid);
+}
+
+Currency SupplierBalance(Connection& store, const QString& contactId) {
+    const Term purchased = sumOf(
+        store,
+        {"SELECT SUM(PurchaseAmount) AS Gipamalit FROM tblPurchaseMaster WHERE ContactNo = ?", {contactId}},
+        "Gipamalit");
+    const Term paid = sumOf(store,
+                            {"SELECT SUM(tblDisbursementDetails.PayAmount) AS Gipangbayran"
+                             " FROM tblDisbursementMaster INNER JOIN"
+                             " tblDisbursementDetails ON tblDisbursementMaster.VoucherNo ="
+                             " tblDisbursementDetails.VoucherID"
+                             " WHERE tblDisbursementMaster.ContactNo = ?"
+                             " AND tblDisbursementDetails.DirectPayment = 0",
+                             {contactId}},
+                            "Gipangbayran");
+    return differenceFigure(purchased, paid);
+}
+
+Currency ItemBalance(Connection& store, const QString& itemCode) {
+    const Term delivered =
+        sumOf(store,
+              {"SELECT SUM(Delivered) As TotalDelivery FROM tblPurchaseDetails WHERE ItemID = ?", {itemCode}},
+              "TotalDelivery");
+    const Term served =
+        sumOf(store, {"SELECT SUM(Served) As TotalSales FROM tblSalesDetails WHERE ItemID = ?", {itemCode}},
+              "TotalSales");
+    return differenceFigure(delivered, served);
+}
+
+static QDate firstDocumentDate(Connection& store) {
+    QDate first;
+    passOverRead([&] { first = std::min(GetFirstPurchaseDate(store), GetFirstSalesDate(store)); });
+    return first;
+}
+
+Currency ItemBalanceBetween(Connection& store, const QString& itemCode, const QDate& date) {
+    const QVariantList period{itemCode, firstDocumentDate(store), date};
+    const Term delivered = sumOf(store,
+                                 {"SELECT SUM(tblPurchaseDetails.Delivered) AS TotalDelivery"
+                                  " FROM tblPurchaseDetails INNER JOIN tblPurchaseMaster ON"
+                                  " tblPurchaseDetails.Reference = tblPurchaseMaster.PurchaseNo"
+                                  " WHERE ItemID = ? AND tblPurchaseMaster.PurchaseDate BETWEEN ? AND ?",
+                                  period},
+                                 "TotalDelivery");
+    const Term served = sumOf(store,
+                              {"SELECT SUM(tblSalesDetails.Served) AS TotalSales"
+                               " FROM tblSalesDetails INNER JOIN tblSalesMaster ON"
+                               " tblSalesDetails.Reference = tblSalesMaster.RefNo"
+                               " WHERE ItemID = ? AND tblSalesMaster.RefDate BETWEEN ? AND ?",
+                               period},
+                              "TotalSales");
+    return differenceFigure(delivered, served);
+}
+
+Currency ServedOnOrder(Connection& store, const QString& itemCode, const QString& reference) {
+    return sumOf(store,
+                 {"SELECT SUM(Served) As TotalSales FROM tblSalesDetails"
+                  " WHERE ItemID = ? AND Reference = ?",
+                  {itemCode, reference}},
+                 "TotalSales")
+        .value_or(Currency());
+}
+
+void StoreSalesBalance(Connection& store, const QString& refNo, Boxes& boxes) {
+    storeBalance(store, receivableBalance, refNo, boxes);
+}
+
+void StorePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes& boxes) {
+    storeBalance(store, payableBalance, purchaseNo, boxes);
+}
+
+void StoreItemBalance(Connection& store, const QString& itemCode, Boxes& boxes) {
+    storeBalance(store, inventoryBalance, itemCode, boxes);
+}
+
+void UpdateSalesBalance(Connection& store, const QString& refNo, Boxes& boxes) {
+    updateBalance(store, receivableBalance, refNo, boxes);
+}
+
+void UpdatePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes& boxes) {
+    updateBalance(store, payableBalance, purchaseNo, boxes);
+}
+
+void UpdateItemBalance(Connection& store, const QString& itemCode, Boxes& boxes) {
+    updateBalance(store, inventoryBalance, itemCode, boxes);
+}
+
+void RecomputeReceivableBalances(Connection& store, Progress& progress) {
+    recomputeBalances(store, receivableBalance, progress);
+}
+
+void RecomputePayableBalances(Connection& store, Progress& progress) {
+    recomputeBalances(store, payableBalance, progress);
+}
+
+void RecomputeInventoryBalances(Connection& store, Progress& progress) {
+    recomputeBalances(store, inventoryBalance, progress);
+}

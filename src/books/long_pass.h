@@ -1,0 +1,74 @@
+#pragma once
+#include "books/passed_over.h"
+#include "platform/progress.h"
+#include "platform/store/sql.h"
+
+#include <QElapsedTimer>
+#include <optional>
+
+// A pass over the whole books runs in units, each a transaction of its own: it reads and writes under one
+// lock, so that no figure rests on stale rows, and lets other workstations in after a quarter of a second at
+// most. A unit stops taking work early enough to leave time for its commit.
+class UnitClock {
+  public:
+    UnitClock() { timer_.start(); }
+    bool isOver() const { return timer_.elapsed() >= workMs; }
+
+  private:
+    static constexpr qint64 workMs = 120;
+    QElapsedTimer timer_;
+};
+
+// The progress box of a pass, taken away however the pass ends.
+class ProgressScope {
+  public:
+    ProgressScope(Progress& progress, const QString& text, qint64 maximum) : progress_(progress) {
+        progress_.begin(text, maximum);
+    }
+    ~ProgressScope() { progress_.end(); }
+    ProgressScope(const ProgressScope&) = delete;
+    ProgressScope& operator=(const ProgressScope&) = delete;
+
+  private:
+    Progress& progress_;
+};
+
+// How far a pass has come through the keys of a table, in their order.
+class KeyWalk {
+  public:
+    KeyWalk(const char* table, const char* key) : table_(table), key_(key) {}
+    const std::optional<QString>& last() const { return last_; }
+    qint64 done() const { return done_; }
+    void pass(const QString& key) {
+        last_ = key;
+        ++done_;
+    }
+    // The condition for the keys still to come, over the table "m"; empty at the start.
+    Sql condition() const { return last_ ? Sql(QString(" WHERE m.%1 > ?").arg(key_), {*last_}) : Sql(); }
+    std::optional<QString> next(Connection& store) const {
+        const Recordset row =
+            store.execute(Sql(QString("SELECT m.%1 AS NextKey FROM %2 m").arg(key_, table_)) + condition() +
+                          Sql(QString(" ORDER BY m.%1 LIMIT 1").arg(key_)));
+        return row.eof() ? std::nullopt : std::optional(row.text("NextKey"));
+    }
+
+  private:
+    const char* table_;
+    const char* key_;
+    std::optional<QString> last_;
+    qint64 done_ = 0;
+};
+
+// Runs a pass to its end. It offers
+//   bool readOn(const UnitClock&)  works until the clock is over; false when no key is left
+//   bool passNext()                deals with the key at which readOn failed; false when there is none
+//   void tell(Progress&)           shows how far it came; called between units
+template <class Pass>
+void runInUnits(Connection& store, Pass& pass, Progress& progress) {
+    for (bool more = true; more; pass.tell(progress)) {
+        const UnitClock clock;
+        Transaction unit(store);
+        if (!passOverRead([&] { more = pass.readOn(clock); })) more = pass.passNext();
+        unit.commit();
+    }
+}
