@@ -21,11 +21,12 @@ void ComputeStockBalances(Connection& store, const QString& itemCode, Progress& 
 void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& progress = Progress::none());
 
 // The value of the stock on hand: the newest layers of the period, as far as the Balance of its last row
-// goes.
+// goes. Throws StoreError, and OverflowError for a value beyond the range.
 Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode);
+// 0 for a period without rows.
 Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode);
 // The value of all stock on hand over its quantity, into CostPrice; 0 with no stock. A missing item adds a
-// box.
+// box, and so does a value beyond the range, which counts 0.
 void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes);
 
 // Every item: the figures of ComputeStockBalances and ComputeSalesCost in one ordered scan of the ledger,

@@ -1,0 +1,53 @@
+#include "books/item_costs.h"
+
+#include "books/ledger.h"
+#include "books/long_pass.h"
+#include "books/stock_valuation.h"
+#include "platform/store/transaction.h"
+
+static ItemCosting readItem(Connection& store, const QString& itemCode) {
+    BulkReader reader(store, {QString("SELECT %1 FROM tblStockValuation v WHERE v.ItemCode = ? ORDER BY %2")
+                                  .arg(ledger::columns, ledger::order),
+                              {itemCode}});
+    ItemCosting item;
+    while (reader.next()) item.add(ledger::readRow(reader));
+    return item;
+}
+
+template <class Compute>
+static void recompute(Connection& store, const QString& itemCode, Compute compute) {
+    Transaction unit(store);
+    ItemCosting item = readItem(store, itemCode);
+    compute(item);
+    ledger::Writer(store).write(item);
+    unit.commit();
+}
+
+static QString descriptionOf(Connection& store, const QString& itemCode) {
+    const Recordset row =
+        store.execute({"SELECT Description FROM tblItemMaster WHERE ItemCode = ?", {itemCode}});
+    return row.eof() ? QString() : row.trimmed("Description");
+}
+
+void ComputeStockBalances(Connection& store, const QString& itemCode, Progress& progress) {
+    const ProgressScope scope(
+        progress, "System is Computing Inventory Balance for " + descriptionOf(store, itemCode), 1);
+    recompute(store, itemCode, [](ItemCosting& item) { item.computeBalances(); });
+}
+
+void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& progress) {
+    const ProgressScope scope(progress,
+                              "System is Computing Sales Cost for " + descriptionOf(store, itemCode), 1);
+    recompute(store, itemCode, [](ItemCosting& item) { item.computeSalesCost(); });
+}
+
+void ComputeItemCosts(Connection& store, const QString& itemCode, Boxes& boxes) {
+    recompute(store, itemCode, [&boxes](ItemCosting& item) {
+        item.computeBalances();
+        try {
+            item.computeSalesCost();
+        } catch (const OverflowError& error) {
+            boxes += exclamation("Error!", error.what());
+        }
+    });
+}

@@ -1,0 +1,37 @@
+#include "books/ledger.h"
+
+namespace ledger {
+
+static Movement movementOf(QByteArrayView bookId) {
+    const QByteArrayView letter = bookId.trimmed();
+    if (letter.compare("P", Qt::CaseInsensitive) == 0) return Movement::Purchase;
+    if (letter.compare("S", Qt::CaseInsensitive) == 0) return Movement::Sale;
+    return Movement::Other;
+}
+
+StockRow readRow(const BulkReader& reader) {
+    StockRow row;
+    row.zevRef = reader.integer(0);
+    row.movement = movementOf(reader.bytes(1));
+    row.stockIn = reader.currency(2);
+    row.inPrice = reader.currency(3);
+    row.stockOut = reader.currency(4);
+    row.stored = {reader.currency(5), reader.currency(6)};
+    row.figures = row.stored;
+    return row;
+}
+
+Writer::Writer(Connection& store)
+    : figures_(store, "UPDATE tblStockValuation SET Balance = ?, SalesCost = ? WHERE ZevRef = ?") {}
+
+void Writer::write(const ItemCosting& item) {
+    for (const StockRow& row : item.rows()) {
+        if (row.figures == row.stored) continue;
+        figures_.bind(1, row.figures.balance);
+        figures_.bind(2, row.figures.salesCost);
+        figures_.bind(3, row.zevRef);
+        figures_.step();
+    }
+}
+
+}  // namespace ledger

@@ -1,0 +1,26 @@
+#pragma once
+#include "books/costing.h"
+#include "platform/store/bulk.h"
+
+// The rows of tblStockValuation as the costing takes them, and their figures on the way back.
+namespace ledger {
+
+// The columns that readRow expects, from the table of this alias.
+inline constexpr const char* columns =
+    "v.ZevRef, v.BookID, v.StockIn, v.InPrice, v.StockOut, v.Balance, v.SalesCost";
+// Within one item, purchases of a day stand before its sales.
+inline constexpr const char* order = "v.TransDate, v.BookID, v.ZevRef";
+
+StockRow readRow(const BulkReader& reader);
+
+// Writes the rows that changed.
+class Writer {
+  public:
+    explicit Writer(Connection& store);
+    void write(const ItemCosting& item);
+
+  private:
+    BulkWriter figures_;
+};
+
+}  // namespace ledger

@@ -1,0 +1,115 @@
+#include "books/stock_valuation.h"
+
+#include "books/balances.h"
+#include "books/item_costs.h"
+#include "books/numbering.h"
+#include "books/passed_over.h"
+#include "books/stock_rows.h"
+#include "foundation/shared_routines.h"
+#include "platform/store/bulk.h"
+
+void addStockRow(Connection& store, qint64 zevRef, const StockMovement& movement) {
+    const bool purchase = movement.bookId.compare("P", Qt::CaseInsensitive) == 0;
+    const QString columns = purchase ? "StockIn, InPrice" : "StockOut, OutPrice";
+    store.run({"INSERT INTO tblStockValuation (ZevRef, BookID, Reference, Contact, ItemCode, TransDate, " +
+                   columns + ") VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
+               {zevRef, movement.bookId, movement.reference, movement.contact, movement.itemCode,
+                movement.date, bound(movement.quantity), bound(movement.price)}});
+}
+
+void AddStockValuation(Connection& store, const QString& bookId, const QString& reference,
+                       const QString& contact, const QString& itemCode, const QDate& date, Currency quantity,
+                       Currency price) {
+    Transaction unit(store);
+    addStockRow(store, NextStockKey(store), {bookId, reference, contact, itemCode, date, quantity, price});
+    unit.commit();
+}
+
+void RemoveStockValuation(Connection& store, const QString& bookId, const QString& reference) {
+    store.run({"DELETE FROM tblStockValuation WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
+}
+
+// What one row of the walk backwards is worth, of the quantity that remains to be valued.
+static Currency valueOfRow(Currency stockIn, Currency price, Currency& remaining) {
+    if (remaining > stockIn) {
+        remaining -= stockIn.abs();
+        return price * stockIn;
+    }
+    return std::exchange(remaining, Currency()) * price;
+}
+
+Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode) {
+    BulkReader row(store, {"SELECT v.StockIn, v.InPrice, v.Balance FROM tblStockValuation v"
+                           " WHERE (v.ItemCode = ?) AND (v.TransDate BETWEEN ? AND ?)"
+                           " ORDER BY v.TransDate DESC, v.BookID DESC, v.ZevRef DESC",
+                           {itemCode, from, to}});
+    if (!row.next()) return {};
+    Currency remaining = row.currency(2);
+    Currency total;
+    for (bool more = true; more && remaining > Currency(); more = row.next())
+        total += valueOfRow(row.currency(0), row.currency(1), remaining);
+    return total;
+}
+
+Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode) {
+    return store
+        .execute({"SELECT SUM(SalesCost) AS Puhunan FROM tblStockValuation"
+                  " WHERE (ItemCode = ?) AND (TransDate BETWEEN ? AND ?)",
+                  {itemCode, from, to}})
+        .currency("Puhunan");
+}
+
+// The value of all that is on hand; a failure is told, and counts 0.
+static Currency wholeValue(Connection& store, const QString& itemCode, Boxes& boxes) {
+    try {
+        const QDate from = std::min(GetFirstSalesDate(store), GetFirstPurchaseDate(store));
+        const QDate to = std::max(GetLastSalesDate(store), GetLastPurchaseDate(store));
+        return ValuationCost(store, from, to, itemCode);
+    } catch (const StoreError& error) {
+        if (error.number() == StoreError::busy) throw;
+        boxes += exclamation("Error!", error.text());
+    } catch (const OverflowError& error) {
+        boxes += exclamation("Error!", error.what());
+    }
+    return {};
+}
+
+static Currency averageCost(Currency value, Currency quantity) {
+    try {
+        return divide(value, quantity);
+    } catch (const OverflowError&) {
+        return {};
+    }
+}
+
+void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes) {
+    const Currency value = wholeValue(store, itemCode, boxes);
+    const Currency cost = averageCost(value, ItemBalance(store, itemCode));
+    qint64 written = -1;
+    passOverWrite(store, [&] {
+        written =
+            store.run({"UPDATE tblItemMaster SET CostPrice = ? WHERE ItemCode = ?", {bound(cost), itemCode}});
+    });
+    if (written == 0)
+        boxes += exclamation("Error!", "Inventory Balance could not be Updated! Item Not Found!");
+}
+
+static const char* priceColumn(PriceKind kind) {
+    switch (kind) {
+        case PriceKind::Cost:
+            return "CostPrice";
+        case PriceKind::Sell:
+            return "SellingPrice";
+        case PriceKind::Whole:
+            return "WholesalePrice";
+    }
+    Q_UNREACHABLE();
+}
+
+void UpdateItemPrice(Connection& store, const QString& itemCode, PriceKind kind, Currency price) {
+    passOverWrite(store, [&] {
+        store.run(
+            {QString("UPDATE tblItemMaster SET %1 = ? WHERE ItemCode = ? AND %1 <> ?").arg(priceColumn(kind)),
+             {bound(price), itemCode, bound(price)}});
+    });
+}
