@@ -1,0 +1,150 @@
+#include "books/end_of_day.h"
+
+#include "books/item_costs.h"
+#include "books/long_pass.h"
+#include "books/numbering.h"
+#include "books/posting_queue.h"
+#include "books/stock_rows.h"
+#include "books/stock_valuation.h"
+#include "foundation/shared_routines.h"
+
+static constexpr const char* postingText = "Please Wait While System is Posting Stock Valuation...";
+
+// Walks the rows of one queue and makes a list of them, with the progress box while there are any.
+template <class Entry, class Read>
+static QList<Entry> loadList(Recordset rows, const char* waitText, Progress& progress, Read read) {
+    QList<Entry> list;
+    if (rows.eof()) return list;
+    const qint64 total = rows.rowCount();
+    const ProgressScope scope(progress, waitText, total);
+    for (; !rows.eof(); rows.moveNext()) {
+        list += read(rows);
+        progress.setText(QString("Loading Record %1 of %2...").arg(list.size()).arg(total));
+        progress.setValue(list.size());
+    }
+    return list;
+}
+
+QList<QueuedDocument> LoadPostingQueue(Connection& store, Progress& progress) {
+    return loadList<QueuedDocument>(
+        store.execute("SELECT q.BookID, q.Reference, q.TransDate, c.ContactName"
+                      " FROM tblForPosting q LEFT JOIN tblContactMaster c ON c.ContactID = q.Contact"
+                      " ORDER BY q.BookID, q.TransDate"),
+        "Please Wait While System Loads Records for Uploading...", progress, [](const Recordset& row) {
+            return QueuedDocument{row.trimmed("BookID"), row.trimmed("Reference"), row.date("TransDate"),
+                                  row.trimmed("ContactName")};
+        });
+}
+
+QList<QueuedItem> LoadPostingItems(Connection& store, Progress& progress) {
+    return loadList<QueuedItem>(
+        store.execute("SELECT q.ItemID, i.Description"
+                      " FROM tblForPostingItem q LEFT JOIN tblItemMaster i ON i.ItemCode = q.ItemID"),
+        "Please Wait While System Loads Records for Processing...", progress, [](const Recordset& row) {
+            return QueuedItem{row.text("ItemID"), row.trimmed("Description")};
+        });
+}
+
+namespace {
+// Where the lines of a book's documents stand.
+struct Book {
+    const char* bookId;
+    const char* details;
+    const char* quantity;
+};
+}  // namespace
+
+static const Book& bookOf(const QString& bookId) {
+    static constexpr Book purchases{"P", "tblPurchaseDetails", "Delivered"};
+    static constexpr Book sales{"S", "tblSalesDetails", "Served"};
+    return bookId == purchases.bookId ? purchases : sales;
+}
+
+static Recordset linesOf(Connection& store, const Book& book, const QString& reference) {
+    return store.execute(
+        {QString("SELECT ItemID, %1 AS Quantity, UnitPrice, Discount FROM %2 WHERE Reference = ?")
+             .arg(book.quantity, book.details),
+         {reference}});
+}
+
+static void addLines(Connection& store, const Book& book, const QueuedDocument& document) {
+    const QString contact = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
+                                        document.contactName, LookupMode::PrimaryKey);
+    auto lines = linesOf(store, book, document.reference);
+    if (lines.eof()) return;
+    qint64 key = numbering::takeKeys(store, numbering::stock, lines.rowCount());
+    for (; !lines.eof(); lines.moveNext(), ++key)
+        addStockRow(store, key,
+                    {book.bookId, document.reference, contact, lines.text("ItemID"), document.date,
+                     lines.currency("Quantity"),
+                     NetOfPercent(lines.currency("Discount"), lines.currency("UnitPrice"))});
+}
+
+static void postDocument(Connection& store, const QueuedDocument& document) {
+    const Book& book = bookOf(document.bookId);
+    Transaction unit(store);
+    RemoveStockValuation(store, book.bookId, document.reference);
+    addLines(store, book, document);
+    RemoveForPosting(store, document.bookId, document.reference);
+    unit.commit();
+}
+
+// Its boxes count only when the unit stands.
+static void costItem(Connection& store, const QString& itemCode, Boxes& boxes) {
+    Boxes told;
+    Transaction unit(store);
+    ComputeItemCosts(store, itemCode, told);
+    StoreCostPrice(store, itemCode, told);
+    store.run({"DELETE FROM tblForPostingItem WHERE ItemID = ?", {itemCode}});
+    unit.commit();
+    boxes += told;
+}
+
+// Runs a step of the end of day; its failure is told and ends the run.
+template <class Step>
+static bool succeeds(Boxes& boxes, Step step) {
+    try {
+        step();
+        return true;
+    } catch (const StoreError& error) {
+        boxes += exclamation("Error...", error.text());
+    } catch (const OverflowError& error) {
+        boxes += exclamation("Error...", error.what());
+    }
+    return false;
+}
+
+// The walk of both passes: each entry is one step, told with its number.
+template <class Entry, class Step>
+static bool walk(const QList<Entry>& list, const char* stepText, EndOfDayView& view, Step step) {
+    if (list.isEmpty()) return false;
+    view.status(postingText);
+    view.start(list.size());
+    for (qsizetype index = 0; index < list.size(); ++index) {
+        view.status(QString("%1 %2 of %3").arg(stepText).arg(index + 1).arg(list.size()));
+        if (!step(list[index], index)) return false;
+    }
+    view.status({});
+    view.start(0);
+    return true;
+}
+
+bool PostStockValuation(Connection& store, const QList<QueuedDocument>& documents, EndOfDayView& view,
+                        Boxes& boxes) {
+    const auto post = [&](const QueuedDocument& document, qsizetype index) {
+        if (!succeeds(boxes, [&] { postDocument(store, document); })) return false;
+        view.documentPosted(index);
+        return true;
+    };
+    return walk(documents, "Posting Stock Valuation", view, post);
+}
+
+bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,
+                              Boxes& boxes) {
+    const auto cost = [&](const QueuedItem& item, qsizetype index) {
+        if (!succeeds(boxes, [&] { costItem(store, item.itemCode, boxes); })) return false;
+        view.itemCosted(index);
+        return true;
+    };
+    return walk(items, "Initializing Stock Valuation", view, cost);
+}
