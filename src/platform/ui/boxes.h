@@ -20,6 +20,11 @@ void showFault(const Fault& fault, QWidget* screen);
 // False when it threw.
 bool guarded(const std::function<void()>& action, const QString& title = "Error...");
 
+// The buttons of a box in their order, the one that Enter presses and the one that Esc presses.
+QList<BoxAnswer> boxChoices(const Box& box);
+BoxAnswer defaultAnswer(const Box& box);
+BoxAnswer escapeAnswer(const Box& box);
+
 // True while a box is open. What comes back from a box has not come back from outside.
 bool boxIsOpen();
 

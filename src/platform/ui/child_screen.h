@@ -1,9 +1,6 @@
 #pragma once
+#include <QPointer>
 #include <QWidget>
-
-class QBoxLayout;
-class QFormLayout;
-class QLabel;
 
 // What a screen is opened with.
 struct ScreenArguments {
@@ -34,6 +31,12 @@ class ChildScreen : public QWidget {
 
     Placement placement() const { return placement_; }
     Kind kind() const { return kind_; }
+    // The screen that a person is at; the last one while a box, the frame or another program has the focus.
+    static ChildScreen* front();
+    // Of a popup: the screen that it was opened over, or null.
+    ChildScreen* opener() const;
+    // Shows a popup over the frame (null: a window of its own), for the screen that opened it.
+    void openFrom(ChildScreen* opener, QWidget* frame);
     virtual bool deleteAllowed() const { return true; }
     virtual bool hidesReportMenu() const { return false; }
 
@@ -45,7 +48,8 @@ class ChildScreen : public QWidget {
     // The told Form_QueryUnload: false keeps the screen open. Asked once for each attempt to close.
     virtual bool queryUnload() { return true; }
     // The told Form_Activate and Form_Deactivate. Deactivated means another part of this program came to the
-    // front, not a box, a picker, or another program.
+    // front, not a box, a popup that this screen opened, or another program; activated means coming back from
+    // there. They come at the next turn of the event loop, when the focus has settled.
     virtual void activated() {}
     virtual void deactivated() {}
 
@@ -58,13 +62,18 @@ class ChildScreen : public QWidget {
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     // The told Form_Unload: once, when it really closes.
     virtual void unloading() {}
 
   private:
+    void leave();
+    void placePopup(const QWidget* frame);
+
     Placement placement_;
     Kind kind_;
-    bool closing_ = false;
+    enum { Open, Asking, Unloaded } state_ = Open;
+    QPointer<ChildScreen> opener_;
 };
 
 // A screen that keeps records: with the two flags that the frame's status bar reads by name.

@@ -1,13 +1,15 @@
 #pragma once
+#include "platform/ui/front_watch.h"
 #include "platform/ui/key_filters.h"
 
 #include <QComboBox>
+#include <functional>
 
 class TextBox;
 
-// A combo box. An open one takes typed text, with the key filter, selection and capacity of a TextBox; a
-// closed one only picks.
-class ComboBox : public QComboBox {
+// A combo box. An open one takes typed text, with the key filter, selection and capacity of a TextBox, and
+// never completes or changes what was typed; a closed one only picks. Enter follows the rule of TextBox.
+class ComboBox : public QComboBox, public FocusField {
     Q_OBJECT
   public:
     enum Kind { Open, Closed };
@@ -22,6 +24,9 @@ class ComboBox : public QComboBox {
     void setFiller(std::function<void()> filler) { filler_ = std::move(filler); }
 
     void showPopup() override;
+    bool takesEnter() const;
+    void fieldGained() override;
+    void fieldLost() override { emit focusLost(); }
 
   signals:
     void focusGained();
@@ -30,6 +35,13 @@ class ComboBox : public QComboBox {
     void entered();
     void picked();  // a person chose an entry (the told Click)
 
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
   private:
+    void openForTyping();
+    void fill();
+
     std::function<void()> filler_;
 };

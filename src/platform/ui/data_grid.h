@@ -38,8 +38,9 @@ class DataGrid : public QTableView {
     qint64 recordCount() const;  // of the whole query, counted when asked
     // The told "current row" of the data control: the selected one, the first one until a person moves.
     bool hasCurrent() const;
-    QString currentText(
-        const QString& column) const;  // of any column of the query, trimmed; empty with no row
+    // Of any column of the query, trimmed; a column that the grid shows, as it shows it. Empty with no row,
+    // and for a row that has gone from the store since.
+    QString currentText(const QString& column) const;
     void selectKey(const QString& column, const QString& value);  // among the fetched rows
     void fetchAll();                                              // for tests and exports
 
@@ -52,5 +53,8 @@ class DataGrid : public QTableView {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void setUpHeaders();
+    int currentRow() const;
+
     GridModel* model_;
 };

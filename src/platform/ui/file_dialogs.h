@@ -13,6 +13,8 @@ QString saveFile(QWidget* parent, const QString& title, const QString& path, con
 bool openWithDesktop(const QString& fileOrUrl);
 // The printer dialog; false when there is no printer (a clear box was shown) or the user cancelled.
 bool setUpPrinter(QWidget* parent);
+// The printer chosen in that dialog, else the desktop's default; empty: there is none.
+QString printerName();
 
 struct Doors {
     std::function<QString(const QString& title)> openFile;

@@ -1,6 +1,7 @@
 #pragma once
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
@@ -18,4 +19,11 @@ QGroupBox* frame(const QString& name, const QString& caption);
 void setAccessibleFromTexts(QWidget* screen);  // gives every unnamed control the name of its buddy or text
 // Width for this many average characters of the widget's font.
 int charactersWide(const QWidget* widget, int characters);
+// The columns of a list as wide as their characters, and their headings, need.
+template <typename Columns>
+void setColumnWidths(QHeaderView* header, const Columns& columns) {
+    for (int column = 0; column < columns.size(); ++column)
+        header->resizeSection(column, std::max(charactersWide(header, columns.at(column).characters),
+                                               header->sectionSizeHint(column)));
+}
 }  // namespace form

@@ -2,7 +2,9 @@
 #include <QTreeView>
 
 // A list of rows of texts: the told list control. The texts are the data; a row is its texts in column order.
-// Amount columns stand right. Sorting by a header compares amounts as numbers and dates as dates.
+// Amount columns stand right. Sorting by a header compares amounts as numbers and dates as dates, and keeps
+// the order of equal rows. Enter, Insert, Delete and F2 go on to the screen when nobody is connected to their
+// signals.
 struct ListColumn {
     QString heading;
     int characters = 12;  // usable width, in average characters of the font
@@ -48,6 +50,8 @@ class ListView : public QTreeView {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    void connectSignals();
+
     TextListModel* model_;
     int sortedColumn_ = -1;
     Qt::SortOrder order_ = Qt::AscendingOrder;

@@ -4,7 +4,8 @@
 #include <QHash>
 #include <functional>
 
-// Shows child screens: the main window. Without one, screens open as windows of their own.
+// Shows child screens: the main window. Without one, screens open as windows of their own. Popups are not its
+// business: they are windows over it.
 class ScreenHost {
   public:
     virtual ~ScreenHost() = default;
@@ -36,6 +37,11 @@ class ScreenRegistry {
     ScreenHost* host() const { return host_; }
 
   private:
+    ChildScreen* make(const Factory& factory, const ScreenArguments& arguments);
+    ChildScreen* reopen(ChildScreen* screen, const ScreenArguments& arguments);
+    void bringForward(ChildScreen* screen);
+    void follow(ChildScreen* screen);
+
     QHash<QString, Factory> factories_;
     QHash<QString, Window> windows_;
     QList<ChildScreen*> open_;

@@ -1,0 +1,34 @@
+#include "platform/ui/editing.h"
+
+#include "platform/ui/combo_box.h"
+#include "platform/ui/text_box.h"
+
+#include <QApplication>
+
+namespace editing {
+
+static QLineEdit* activeLine() {
+    QWidget* focus = QApplication::focusWidget();
+    if (auto* combo = qobject_cast<QComboBox*>(focus)) return combo->lineEdit();
+    return qobject_cast<QLineEdit*>(focus);
+}
+
+QWidget* activeTextControl() { return activeLine(); }
+
+void cut() {
+    if (QLineEdit* line = activeLine(); line && !line->isReadOnly()) line->cut();
+}
+
+void copy() {
+    if (QLineEdit* line = activeLine()) line->copy();
+}
+
+void paste() {
+    if (QLineEdit* line = activeLine(); line && !line->isReadOnly()) line->paste();
+}
+
+void selectAll() {
+    if (QLineEdit* line = activeLine()) line->selectAll();
+}
+
+}  // namespace editing

@@ -1,0 +1,73 @@
+#include "platform/ui/file_dialogs.h"
+
+#include "platform/ui/boxes.h"
+#include "platform/ui/front_watch.h"
+
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QUrl>
+
+namespace desk {
+
+static Doors& doors() {
+    static Doors current;
+    return current;
+}
+
+void setDoors(const Doors& newDoors) { doors() = newDoors; }
+
+QString openFile(QWidget* parent, const QString& title, const QString& path, const QString& filter) {
+    if (doors().openFile) return doors().openFile(title);
+    const FrontHold hold;
+    return QFileDialog::getOpenFileName(parent, title, path, filter);
+}
+
+QString saveFile(QWidget* parent, const QString& title, const QString& path, const QString& filter) {
+    if (doors().saveFile) return doors().saveFile(title);
+    const FrontHold hold;
+    return QFileDialog::getSaveFileName(parent, title, path, filter);
+}
+
+static bool isAddress(const QString& text) { return text.contains("://") || text.startsWith("mailto:"); }
+
+bool openWithDesktop(const QString& fileOrUrl) {
+    if (doors().openWithDesktop) return doors().openWithDesktop(fileOrUrl);
+    if (isAddress(fileOrUrl)) return QDesktopServices::openUrl(QUrl(fileOrUrl));
+    return QFileInfo::exists(fileOrUrl) && QDesktopServices::openUrl(QUrl::fromLocalFile(fileOrUrl));
+}
+
+// Kept for the session: what is printed next goes to the printer that was set up last.
+static QString& chosenPrinter() {
+    static QString name;
+    return name;
+}
+
+QString printerName() {
+    return chosenPrinter().isEmpty() ? QPrinterInfo::defaultPrinterName() : chosenPrinter();
+}
+
+static bool runPrinterDialog(QWidget* parent) {
+    const FrontHold hold;
+    QPrinter printer(QPrinterInfo::printerInfo(printerName()), QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, parent);
+    dialog.setObjectName("comMain");
+    dialog.setWindowTitle("Printer Setup");
+    if (dialog.exec() != QDialog::Accepted) return false;
+    chosenPrinter() = printer.printerName();
+    return true;
+}
+
+bool setUpPrinter(QWidget* parent) {
+    if (doors().setUpPrinter) return doors().setUpPrinter();
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) return runPrinterDialog(parent);
+    showBox(information("Printer Setup",
+                        "There is no printer on this machine. Add one in the settings of the desktop, then "
+                        "choose Printer Setup again."));
+    return false;
+}
+
+}  // namespace desk

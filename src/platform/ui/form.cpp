@@ -1,0 +1,84 @@
+#include "platform/ui/form.h"
+
+#include "platform/ui/icons.h"
+
+#include <QAbstractScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+
+namespace form {
+
+static QString spoken(const QString& text) {
+    QString name = text;
+    name.replace("&&", "\1").remove(u'&').replace(u'\1', u'&');
+    while (name.endsWith(u':') || name.endsWith(u' ')) name.chop(1);
+    return name.trimmed();
+}
+
+static void name(QWidget* control, const QString& text) {
+    if (control->accessibleName().isEmpty()) control->setAccessibleName(spoken(text));
+}
+
+QLabel* label(const QString& text, QWidget* buddy) {
+    auto* result = new QLabel;
+    result->setTextFormat(Qt::PlainText);
+    result->setText(text);
+    if (!buddy) return result;
+    result->setBuddy(buddy);
+    name(buddy, text);
+    return result;
+}
+
+void row(QGridLayout* grid, int row, int column, const QString& text, QWidget* control, int span) {
+    grid->addWidget(label(text, control), row, column);
+    grid->addWidget(control, row, column + 1, 1, span);
+}
+
+QPushButton* button(const QString& name, const QString& caption, const QString& icon) {
+    auto* result = new QPushButton(caption);
+    result->setObjectName(name);
+    result->setAccessibleName(spoken(caption));
+    result->setAutoDefault(true);  // Enter presses the button that has the focus.
+    if (!icon.isEmpty()) result->setIcon(bundledIcon(icon));
+    return result;
+}
+
+QToolButton* imageButton(const QString& name, const QString& icon, const QString& text) {
+    auto* result = new QToolButton;
+    result->setObjectName(name);
+    result->setIcon(bundledIcon(icon));
+    result->setToolTip(text.toHtmlEscaped());
+    result->setAccessibleName(spoken(text));
+    result->setFocusPolicy(Qt::StrongFocus);
+    return result;
+}
+
+QGroupBox* frame(const QString& name, const QString& caption) {
+    auto* result = new QGroupBox(caption);
+    result->setObjectName(name);
+    result->setAccessibleName(spoken(caption));
+    return result;
+}
+
+static QString ownText(const QWidget* control) {
+    if (auto* button = qobject_cast<const QAbstractButton*>(control))
+        return button->text().isEmpty() ? button->toolTip() : button->text();
+    if (auto* group = qobject_cast<const QGroupBox*>(control)) return group->title();
+    return {};
+}
+
+void setAccessibleFromTexts(QWidget* screen) {
+    for (auto* text : screen->findChildren<QLabel*>())
+        if (text->buddy()) name(text->buddy(), text->text());
+    for (auto* control : screen->findChildren<QWidget*>())
+        if (const QString text = ownText(control); !text.isEmpty()) name(control, text);
+}
+
+int charactersWide(const QWidget* widget, int characters) {
+    const int frame = widget->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, widget);
+    const int ends =
+        2 * (frame + widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget));
+    return widget->fontMetrics().averageCharWidth() * characters + ends + widget->fontMetrics().height() / 2;
+}
+
+}  // namespace form

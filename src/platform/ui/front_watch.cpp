@@ -1,0 +1,108 @@
+#include "platform/ui/front_watch.h"
+
+#include "platform/ui/child_screen.h"
+
+#include <QApplication>
+#include <QMdiSubWindow>
+#include <QTimer>
+
+FrontWatch& FrontWatch::instance() {
+    // Never deleted: fields may still lose their focus while the application goes down.
+    static FrontWatch* watch = new FrontWatch;
+    return *watch;
+}
+
+FrontWatch::FrontWatch() {
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*old*/, QWidget* now) { focusChanged(now); });
+}
+
+void FrontWatch::focusChanged(QWidget* now) {
+    if (!outsideTheWork(now)) moveField(now);
+    settleLater();
+}
+
+static ChildScreen* screenOf(QWidget* widget) {
+    for (; widget; widget = widget->parentWidget()) {
+        if (auto* screen = qobject_cast<ChildScreen*>(widget)) return screen;
+        if (auto* child = qobject_cast<QMdiSubWindow*>(widget))
+            return qobject_cast<ChildScreen*>(child->widget());
+    }
+    return nullptr;
+}
+
+// Another program, a box, or a modal dialog has the focus.
+bool FrontWatch::outsideTheWork(QWidget* now) const {
+    return holds_ > 0 || !now || (now->window()->isModal() && !screenOf(now));
+}
+
+static bool stillThere(const QWidget* field) {
+    return field && field->parentWidget() && field->parentWidget()->isVisible();
+}
+
+void FrontWatch::moveField(QWidget* now) {
+    if (now == field_) return;
+    const QPointer<QWidget> left = field_;
+    // Nobody has it while the field that is left speaks: it may take the focus back.
+    field_ = nullptr;
+    if (auto* field = dynamic_cast<FocusField*>(left.data()); field && stillThere(left)) field->fieldLost();
+    if (field_ || QApplication::focusWidget() != now) return;
+    field_ = now;
+    if (auto* field = dynamic_cast<FocusField*>(now)) field->fieldGained();
+}
+
+void FrontWatch::release() {
+    if (--holds_ > 0) return;
+    focusChanged(QApplication::focusWidget());
+}
+
+// Where the focus ends up counts, not the places it passes on its way.
+void FrontWatch::settleLater() {
+    if (settling_) return;
+    settling_ = true;
+    QTimer::singleShot(0, this, [this] {
+        if (settling_) settle();
+    });
+}
+
+void FrontWatch::settle() {
+    settling_ = false;
+    QWidget* now = QApplication::focusWidget();
+    // A window without a field of its own still comes to the front.
+    if (!now) now = QApplication::activeWindow();
+    if (outsideTheWork(now)) return;
+    if (ChildScreen* screen = screenOf(now))
+        bringToFront(screen);
+    else if (!front_ || front_->window() != now->window())
+        bringToFront(nullptr);
+}
+
+static QList<QPointer<ChildScreen>> withItsOpeners(ChildScreen* screen) {
+    QList<QPointer<ChildScreen>> chain;
+    for (; screen && !chain.contains(screen); screen = screen->opener()) chain += screen;
+    return chain;
+}
+
+void FrontWatch::bringToFront(ChildScreen* screen) {
+    const auto before = active_;
+    const auto now = withItsOpeners(screen);
+    if (screen) front_ = screen;
+    active_ = now;
+    for (const auto& left : before)
+        if (left && !now.contains(left)) left->deactivated();
+    for (const auto& come : now)
+        if (come && !before.contains(come) && active_.contains(come)) come->activated();
+}
+
+void FrontWatch::forget(ChildScreen* screen) {
+    active_.removeAll(screen);
+    if (front_ == screen) front_ = nullptr;
+    settleLater();
+}
+
+FrontHold::FrontHold() : window_(QApplication::activeWindow()) { FrontWatch::instance().hold(); }
+
+FrontHold::~FrontHold() {
+    if (window_ && !QApplication::activeWindow() && window_->isVisible()) window_->activateWindow();
+    FrontWatch::instance().release();
+}

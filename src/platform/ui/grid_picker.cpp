@@ -1,0 +1,52 @@
+#include "platform/ui/grid_picker.h"
+
+#include "platform/ui/boxes.h"
+
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+GridPicker::GridPicker(const QString& name, const QString& caption, const QList<GridColumn>& columns,
+                       const QStringList& headerOrders, Pick pick)
+    : ChildScreen(name, caption, FillsFrame, Popup),
+      grid_(new DataGrid("dbgSearch", "adcSearch", columns)),
+      headerOrders_(headerOrders),
+      pick_(std::move(pick)) {
+    grid_->setAccessibleName(caption);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(grid_);
+    setFocusProxy(grid_);
+    connect(grid_, &DataGrid::picked, this, &GridPicker::pickCurrent);
+    connect(grid_, &DataGrid::headerClicked, this, &GridPicker::reorder);
+}
+
+void GridPicker::list(Connection& store, const DataGrid::Source& source) {
+    store_ = &store;
+    source_ = source;
+    grid_->setSource(store, source);
+}
+
+void GridPicker::reorder(int column) {
+    if (!store_ || column >= headerOrders_.size()) return;
+    source_.order = headerOrders_.at(column);
+    guarded([this] { grid_->setSource(*store_, source_); });
+}
+
+// The pick fills the opener, which moves the focus there; the popup is done with before that.
+void GridPicker::pickCurrent() {
+    if (done_ || !grid_->hasCurrent()) return;
+    done_ = true;
+    const QPointer<GridPicker> stillOpen = this;
+    guarded([this] { pick_([this](const QString& column) { return grid_->currentText(column); }); });
+    if (stillOpen) unload();
+}
+
+void GridPicker::deactivated() {
+    if (!std::exchange(done_, true)) unload();
+}
+
+void GridPicker::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        pickCurrent();
+    else
+        ChildScreen::keyPressEvent(event);
+}

@@ -1,0 +1,99 @@
+#include "platform/ui/list_view.h"
+
+#include "platform/ui/form.h"
+#include "platform/ui/text_list_model.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMetaMethod>
+
+ListView::ListView(const QString& name, const QList<ListColumn>& columns, QWidget* parent)
+    : QTreeView(parent), model_(new TextListModel(columns, this)) {
+    setObjectName(name);
+    setModel(model_);
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setAlternatingRowColors(true);
+    header()->setSectionsClickable(true);
+    header()->setSectionsMovable(false);
+    form::setColumnWidths(header(), columns);
+    connectSignals();
+}
+
+void ListView::connectSignals() {
+    connect(this, &QTreeView::doubleClicked, this,
+            [this](const QModelIndex& index) { emit rowDoubleClicked(index.row()); });
+    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& now) { emit currentRowChanged(now.row()); });
+    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
+        if (sortsByHeader_) toggleSort(column);
+        emit headerClicked(column);
+    });
+}
+
+int ListView::rowCount() const { return model_->rowCount(); }
+QList<QStringList> ListView::rows() const { return model_->rows(); }
+QStringList ListView::row(int row) const { return model_->rows().value(row); }
+QString ListView::text(int row, int column) const { return this->row(row).value(column); }
+void ListView::setText(int row, int column, const QString& text) { model_->setText(row, column, text); }
+void ListView::setRows(const QList<QStringList>& rows) { model_->setRows(rows); }
+void ListView::removeRow(int row) { model_->removeRow(row); }
+void ListView::clear() { model_->setRows({}); }
+
+int ListView::addRow(const QStringList& texts) {
+    model_->addRow(texts);
+    return rowCount() - 1;
+}
+
+int ListView::currentRow() const { return currentIndex().isValid() ? currentIndex().row() : -1; }
+
+void ListView::setCurrentRow(int row) {
+    const QModelIndex index = model_->index(row, 0);
+    setCurrentIndex(index);
+    if (index.isValid()) scrollTo(index);
+}
+
+int ListView::findRow(int column, const QString& text) const {
+    const auto& all = model_->rows();
+    for (int row = 0; row < all.size(); ++row)
+        if (all.at(row).value(column).compare(text, Qt::CaseInsensitive) == 0) return row;
+    return -1;
+}
+
+void ListView::toggleSort(int column) {
+    const bool again = column == sortedColumn_ && order_ == Qt::AscendingOrder;
+    order_ = again ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sortedColumn_ = column;
+    model_->sort(column, order_);
+    header()->setSortIndicatorShown(true);
+    header()->setSortIndicator(column, order_);
+    if (currentIndex().isValid()) scrollTo(currentIndex());
+}
+
+Qt::SortOrder ListView::sortOrder() const { return order_; }
+int ListView::sortedColumn() const { return sortedColumn_; }
+void ListView::setSortsByHeader(bool sorts) { sortsByHeader_ = sorts; }
+
+// A key that nobody waits for goes on to the screen.
+void ListView::keyPressEvent(QKeyEvent* event) {
+    const auto waitsFor = [this](auto signal) { return isSignalConnected(QMetaMethod::fromSignal(signal)); };
+    const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
+    const int key = plain ? event->key() : 0;
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (enter && waitsFor(&ListView::entered))
+        emit entered(currentRow());
+    else if (key == Qt::Key_Insert && waitsFor(&ListView::insertPressed))
+        emit insertPressed();
+    else if (key == Qt::Key_Delete && waitsFor(&ListView::deletePressed))
+        emit deletePressed();
+    else if (key == Qt::Key_F2 && waitsFor(&ListView::editPressed))
+        emit editPressed();
+    else if (enter || event->key() == Qt::Key_Insert || event->key() == Qt::Key_Delete)
+        event->ignore();
+    else
+        QTreeView::keyPressEvent(event);
+}

@@ -1,0 +1,178 @@
+#include "platform/ui/text_box.h"
+
+#include "platform/ui/boxes.h"
+
+#include <QApplication>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QMetaMethod>
+#include <QTimer>
+#include <QToolTip>
+#include <QValidator>
+
+static constexpr int defaultCapacity = 32000;
+
+// Refuses a change that would not fit whole; the line edit then stays as it was.
+class OneLineValidator : public QValidator {
+  public:
+    explicit OneLineValidator(TextBox* box) : QValidator(box), box_(box) {}
+    State validate(QString& text, int& /*cursor*/) const override {
+        if (box_->holdsWhole(text)) return Acceptable;
+        box_->refusedText_ = text;
+        return Invalid;
+    }
+
+  private:
+    TextBox* box_;
+};
+
+TextBox::TextBox(const QString& name, QWidget* parent) : QLineEdit(parent), capacity_(defaultCapacity) {
+    FrontWatch::instance();
+    setObjectName(name);
+    setMaxLength(std::numeric_limits<int>::max());
+    setValidator(new OneLineValidator(this));
+    connect(this, &QLineEdit::inputRejected, this, &TextBox::refused);
+    connect(this, &QLineEdit::textEdited, this, [this] {
+        if (!typing_) emit keyTyped();
+    });
+}
+
+void TextBox::setCapacity(int characters) { capacity_ = characters > 0 ? characters : defaultCapacity; }
+
+static bool isLineBreak(QChar c) {
+    return c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
+static bool hasLineBreak(const QString& text) { return std::ranges::any_of(text, isLineBreak); }
+
+bool TextBox::holdsWhole(const QString& text) const {
+    return text.size() <= capacity_ && !hasLineBreak(text);
+}
+
+void TextBox::fieldGained() {
+    if (!clicked_) selectAll();
+    emit focusGained();
+}
+
+void TextBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    clicked_ = event->reason() == Qt::MouseFocusReason;
+}
+
+// A click into the box selects all, a drag what was dragged over.
+void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    if (clicked_ && !hasSelectedText()) selectAll();
+    clicked_ = false;
+}
+
+static bool isEditKey(const QKeyEvent* event) {
+    for (const auto key : {QKeySequence::Cut, QKeySequence::Copy, QKeySequence::Paste,
+                           QKeySequence::SelectAll, QKeySequence::Undo, QKeySequence::Redo})
+        if (event->matches(key)) return true;
+    return false;
+}
+
+// Keys that belong to the frame although a line edit knows something to do with them.
+static bool isFrameKey(const QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete && event->modifiers() == Qt::ShiftModifier) return true;
+    const bool letter = event->key() >= Qt::Key_A && event->key() <= Qt::Key_Z;
+    return letter && event->modifiers() == Qt::ControlModifier && !isEditKey(event);
+}
+
+bool TextBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride && isFrameKey(static_cast<QKeyEvent*>(event))) {
+        event->ignore();
+        return false;
+    }
+    return QLineEdit::event(event);
+}
+
+static bool isEnter(const QKeyEvent* event) {
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+static bool isTypedText(const QKeyEvent* event) {
+    constexpr auto command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return !event->text().isEmpty() && event->text().at(0).isPrint() && !(event->modifiers() & command);
+}
+
+bool TextBox::takesEnter() const { return isSignalConnected(QMetaMethod::fromSignal(&TextBox::entered)); }
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+    if (isFrameKey(event)) return event->ignore();
+    if (isEnter(event)) {
+        event->setAccepted(takesEnter());
+        emit entered();
+    } else if (isReadOnly()) {
+        QLineEdit::keyPressEvent(event);
+    } else {
+        typeKey(event);
+    }
+}
+
+bool TextBox::refusesKeys(const QString& typed) const {
+    return !std::ranges::all_of(typed, [this](QChar key) { return filter_.passes(key); });
+}
+
+void TextBox::typeKey(QKeyEvent* event) {
+    const bool text = isTypedText(event);
+    if (text && refusesKeys(event->text())) {
+        QApplication::beep();
+        return event->accept();
+    }
+    typing_ = text || event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
+    QLineEdit::keyPressEvent(event);
+    if (std::exchange(typing_, false)) emit keyTyped();
+}
+
+void TextBox::keyReleaseEvent(QKeyEvent* event) {
+    QLineEdit::keyReleaseEvent(event);
+    emit keyReleased();
+}
+
+// Composed characters are typed ones.
+void TextBox::inputMethodEvent(QInputMethodEvent* event) {
+    if (refusesKeys(event->commitString())) {
+        QApplication::beep();
+        return event->accept();
+    }
+    QLineEdit::inputMethodEvent(event);
+}
+
+void TextBox::refused() {
+    if (refusedText_.isEmpty()) return;
+    if (typing_)
+        sayFull();
+    else  // The box comes up when the event that pasted is over.
+        QTimer::singleShot(0, this, &TextBox::sayRefusedPaste);
+}
+
+static QString fullText(int capacity) {
+    return QString("This field holds at most %1 characters.").arg(QLocale::c().toString(capacity));
+}
+
+void TextBox::sayFull() {
+    refusedText_.clear();
+    QApplication::beep();
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), fullText(capacity_), this);
+}
+
+void TextBox::sayRefusedPaste() {
+    const QString text = std::exchange(refusedText_, {});
+    if (text.isEmpty()) return;
+    QApplication::beep();
+    showBox(exclamation("Not pasted!", hasLineBreak(text)
+                                           ? "This field holds one line. What you paste has line breaks."
+                                           : fullText(capacity_) + " With what you paste it would be " +
+                                                 QLocale::c().toString(text.size()) + "."));
+}
+
+TextBox* readOnlyBox(const QString& name, Qt::Alignment alignment) {
+    auto* box = new TextBox(name);
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::NoFocus);
+    box->setAlignment(alignment | Qt::AlignVCenter);
+    return box;
+}

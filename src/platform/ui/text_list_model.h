@@ -1,0 +1,33 @@
+#pragma once
+#include "platform/ui/list_view.h"
+
+#include <QAbstractTableModel>
+
+// The rows of a list: texts, and the order they stand in.
+class TextListModel : public QAbstractTableModel {
+    Q_OBJECT
+  public:
+    TextListModel(const QList<ListColumn>& columns, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    const QList<QStringList>& rows() const { return rows_; }
+    void setText(int row, int column, const QString& text);
+    void addRow(const QStringList& texts);
+    void setRows(const QList<QStringList>& rows);
+    void removeRow(int row);
+    void sort(int column, Qt::SortOrder order) override;
+
+  private:
+    QStringList wholeRow(QStringList texts) const;
+    Qt::Alignment alignment(int column) const;
+    bool shows(int row, int column) const;
+    std::vector<int> sorted(int column, Qt::SortOrder order) const;
+    void moveSelection(const std::vector<int>& order);
+
+    QList<ListColumn> columns_;
+    QList<QStringList> rows_;
+};
