@@ -88,6 +88,8 @@ bool Recordset::isNull(const QString& column) const { return value(column).isNul
 
 QString Recordset::text(const QString& column) const { return value(column).toString(); }
 
+QString Recordset::textAt(int column) const { return current().at(column).toString(); }
+
 QString Recordset::trimmed(const QString& column) const { return trim(text(column)); }
 
 Currency Recordset::currency(const QString& column) const {

@@ -29,6 +29,7 @@ class Recordset {
     bool isNull(const QString& column) const;
     QVariant value(const QString& column) const;
     QString text(const QString& column) const;       // as stored, untrimmed
+    QString textAt(int column) const;                // by position, from 0; not of an updatable set
     QString trimmed(const QString& column) const;    // without blanks at both ends
     Currency currency(const QString& column) const;  // of a currency column
     qint64 integer(const QString& column) const;
