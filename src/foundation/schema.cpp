@@ -1,0 +1,174 @@
+#include "foundation/schema.h"
+
+#include "platform/store/schema_steps.h"
+
+#include <QHash>
+
+namespace {
+// A table and its columns, each with a kind: key (a text key), number key, text, integer, currency, flag,
+// date.
+struct Table {
+    const char* name;
+    const char* columns;
+};
+
+const Table tables[] = {
+    {"tblContactMaster",
+     "ContactID key, ContactName text, Address text, TelNo text, eMail text, Terms currency, Remarks text, "
+     "CreditLimit currency, Discount currency, IsCustomer flag, IsSupplier flag, UpdatedBy text, "
+     "DateUpdate date"},
+    {"tblItemMaster",
+     "ItemCode key, Description text, Unit text, Locator text, Remarks text, SupplierCode text, "
+     "CostPrice currency, SellingPrice currency, WholesalePrice currency, DateAquired date, "
+     "OrderLevel currency, Balance currency, UpdatedBy text, DateUpdate date"},
+    {"tblUnitMaster", "UnitCode key"},
+    {"tblSalesMaster",
+     "RefNo key, RefDate date, ContactNo text, TotalAmount currency, Remarks text, Printed flag, "
+     "RecordLock flag, Balance currency, UpdatedBy text, DateUpdate date"},
+    {"tblSalesDetails",
+     "Reference text, ItemID text, Ordered currency, Served currency, Unit text, UnitPrice currency, "
+     "Discount currency, Total currency"},
+    {"tblPurchaseMaster",
+     "PurchaseNo key, PurchaseDate date, ContactNo text, PurchaseAmount currency, Remarks text, "
+     "Printed flag, RecordLock flag, Balance currency, UpdatedBy text, DateUpdate date"},
+    {"tblPurchaseDetails",
+     "Reference text, ItemID text, Ordered currency, Delivered currency, Unit text, UnitPrice currency, "
+     "Discount currency, Total currency"},
+    {"tblReceiptMaster",
+     "PayNo numberkey, CustomerNo text, PaymentDate date, PaymentAmount currency, TotalDiscAmount currency, "
+     "PayRemarks text, Printed flag, RecordLock flag, UpdatedBy text, DateUpdate date"},
+    {"tblReceiptDetails",
+     "ZevRef numberkey, PayCode integer, Reference text, Discount currency, DiscountAmount currency, "
+     "Amount currency, CheckNo text, CheckDate date, CheckStatus text, Negotiated flag"},
+    {"tblDisbursementMaster",
+     "VoucherNo key, VoucherDate date, VoucherAmount currency, ContactNo text, Remarks text, Printed flag, "
+     "RecordLock flag, MonthGroup text, UpdatedBy text, DateUpdate date"},
+    {"tblDisbursementDetails",
+     "VoucherID text, PuchaseID text, PurchaseDate date, PayAmount currency, Particulars text, "
+     "DirectPayment flag"},
+    {"tblChecks",
+     "ZevRef numberkey, VoucherID text, CheckNo text, CheckDate date, CheckAmount currency, ContactNo text, "
+     "CheckStatus text, Negotiated flag, CrossCheck flag, Printed flag, Released flag"},
+    {"tblForPosting", "BookID text, Reference text, Contact text, TransDate date"},
+    {"tblForPostingItem", "ItemID text"},
+    {"tblStockValuation",
+     "ZevRef numberkey, BookID text, Reference text, Contact text, ItemCode text, TransDate date, "
+     "StockIn currency, InPrice currency, StockOut currency, OutPrice currency, Balance currency, "
+     "SalesCost currency"},
+    {"tblServer", "Server text"},
+    {"tblSalesKey", "Server text"},
+    {"tblPurchaseKey", "Server text"},
+    {"tblReceiptKey", "Server text"},
+    {"tblDisbursementKey", "Server text"},
+    {"tblReceiptZev", "Server text"},
+    {"tblChecksZev", "Server text"},
+    {"tblStockKey", "Server text"},
+    {"tblPOS", "ZevRef numberkey, SalesDate date, PettyCash currency, Cashier text"},
+    {"tblUserMaster",
+     "UserCode key, FullName text, Description text, Password text, UpdatedBy text, DateUpdated date, "
+     "EndofDay flag, POSUser flag, POSSuper flag, DeleteDRAccess flag, DeleteSIAccess flag, "
+     "DeletePOAccess flag, DeleteCVAccess flag, PrintDRAccess flag, PrintSIAccess flag, PrintPOAccess flag, "
+     "PrintCVAccess flag, InqItemAccess flag, InqContactAccess flag, InqJournalAccess flag, "
+     "PrintItemAccess flag, PrintContactAccess flag, PrintJournalAccess flag"},
+    {"tblUserMenu", "MenuCode numberkey, MenuName text"},
+    {"tblUserDetails", "UserID text, MenuID integer"},
+    {"tblSystemProfile",
+     "CompanyName text, CompanyAddress text, CompanyTelNo text, CompanyEmail text, CompanyTIN text, "
+     "CompanyLogo text, ValueTax currency, Prepared text, Checked text, Approved text"},
+    {"tblTemp", "Server text"},
+};
+
+// What is looked up, sorted or summed by. An index that holds what it is asked for spares the rows: the
+// quantities of an item and the payments of a document stand in theirs.
+const Table indexes[] = {
+    {"tblContactMaster", "ContactName"},
+    {"tblContactMaster", "Address"},
+    {"tblContactMaster", "TelNo"},
+    {"tblContactMaster", "Terms"},
+    {"tblItemMaster", "Description"},
+    {"tblItemMaster", "Unit"},
+    {"tblItemMaster", "Locator"},
+    {"tblItemMaster", "SupplierCode"},
+    {"tblItemMaster", "CostPrice"},
+    {"tblItemMaster", "SellingPrice"},
+    {"tblItemMaster", "WholesalePrice"},
+    {"tblSalesMaster", "RefDate"},
+    {"tblSalesMaster", "ContactNo, TotalAmount"},
+    {"tblSalesMaster", "TotalAmount"},
+    {"tblSalesMaster", "Printed"},
+    {"tblSalesMaster", "RecordLock"},
+    {"tblSalesMaster", "UpdatedBy"},
+    {"tblSalesMaster", "DateUpdate"},
+    {"tblSalesDetails", "Reference"},
+    {"tblSalesDetails", "ItemID, Reference, Served"},
+    {"tblPurchaseMaster", "PurchaseDate"},
+    {"tblPurchaseMaster", "ContactNo, PurchaseAmount"},
+    {"tblPurchaseMaster", "PurchaseAmount"},
+    {"tblPurchaseMaster", "Printed"},
+    {"tblPurchaseMaster", "RecordLock"},
+    {"tblPurchaseMaster", "UpdatedBy"},
+    {"tblPurchaseMaster", "DateUpdate"},
+    {"tblPurchaseDetails", "Reference"},
+    {"tblPurchaseDetails", "ItemID, Reference, Delivered"},
+    {"tblReceiptMaster", "CustomerNo, PaymentAmount, TotalDiscAmount"},
+    {"tblReceiptMaster", "PaymentDate"},
+    {"tblReceiptMaster", "PaymentAmount"},
+    {"tblReceiptMaster", "Printed"},
+    {"tblReceiptDetails", "PayCode"},
+    {"tblReceiptDetails", "Reference, Amount, DiscountAmount"},
+    {"tblReceiptDetails", "CheckDate"},
+    {"tblReceiptDetails", "CheckNo"},
+    {"tblDisbursementMaster", "VoucherDate"},
+    {"tblDisbursementMaster", "ContactNo"},
+    {"tblDisbursementMaster", "VoucherAmount"},
+    {"tblDisbursementMaster", "Printed"},
+    {"tblDisbursementDetails", "VoucherID, DirectPayment, PayAmount"},
+    {"tblDisbursementDetails", "PuchaseID, DirectPayment, PayAmount"},
+    {"tblChecks", "VoucherID"},
+    {"tblChecks", "ContactNo"},
+    {"tblChecks", "CheckDate"},
+    {"tblChecks", "CheckNo"},
+    {"tblForPosting", "BookID, Reference"},
+    {"tblForPosting", "BookID, TransDate"},
+    {"tblForPostingItem", "ItemID"},
+    {"tblStockValuation", "ItemCode, TransDate, BookID, ZevRef"},
+    {"tblStockValuation", "BookID, Reference"},
+    {"tblPOS", "SalesDate"},
+    {"tblPOS", "Cashier"},
+    {"tblUserDetails", "UserID, MenuID"},
+};
+
+QString typeOf(const QString& kind) {
+    static const QHash<QString, QString> types{{"key", "TEXT COLLATE NOCASE NOT NULL PRIMARY KEY"},
+                                               {"numberkey", "INTEGER NOT NULL PRIMARY KEY"},
+                                               {"text", "TEXT COLLATE NOCASE"},
+                                               {"integer", "INTEGER"},
+                                               {"currency", "CURRENCY_INTEGER DEFAULT 0"},
+                                               {"flag", "BOOLEAN NOT NULL DEFAULT 0"},
+                                               {"date", "DATE"}};
+    return types[kind];
+}
+
+QString createTable(const Table& table) {
+    QStringList columns;
+    for (const QString& column : QString(table.columns).split(", "))
+        columns += column.section(u' ', 0, 0) + u' ' + typeOf(column.section(u' ', 1));
+    return QString("CREATE TABLE %1 (%2)").arg(table.name, columns.join(", "));
+}
+
+QString createIndex(const Table& index) {
+    const QString name = QString(index.columns).remove(", ");
+    return QString("CREATE INDEX %1_%2 ON %1 (%3)").arg(index.name, name, index.columns);
+}
+
+QStringList firstStatements() {
+    QStringList statements;
+    for (const Table& table : tables) statements += createTable(table);
+    for (const Table& index : indexes) statements += createIndex(index);
+    return statements;
+}
+}  // namespace
+
+void registerSchema() {
+    setSchemaSteps({{"The tables and indexes of the first version.", firstStatements()}});
+}
