@@ -1,0 +1,37 @@
+#include "foundation/setting_files.h"
+
+#include "foundation/session.h"
+#include "platform/parsing.h"
+
+#include <QFile>
+#include <optional>
+
+namespace {
+// The first line of a setting file; none when there is no file or no line in it.
+std::optional<QString> firstLine(const char* name) {
+    QFile file(programFolder().filePath(name));
+    if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+    QByteArray line = file.readLine();
+    if (line.isEmpty()) return std::nullopt;
+    while (line.endsWith('\n') || line.endsWith('\r')) line.chop(1);
+    return QString::fromUtf8(line);
+}
+
+QString readSetting(const char* name, QString& value) {
+    if (const auto line = firstLine(name)) value = trim(line->left(10));
+    return value;
+}
+}  // namespace
+
+QString ReadPrinterIni() { return readSetting("Printer.ini", session().ReportPrinterKind); }
+
+QString ReadCheckPrinterIni() { return readSetting("CheckPrinter.ini", session().CheckPrinterKind); }
+
+QString ReadReceiptPrinterIni() { return readSetting("ReceiptPrinter.ini", session().ReceiptPrinterKind); }
+
+QString ReadReceiptIni() { return readSetting("Receipt.ini", session().ReceiptFormat); }
+
+void ReadCheckIni() {
+    const QString format = trim(firstLine("Check.ini").value_or(QString()).left(1000)).toUpper();
+    session().CheckBookFormat = format.isEmpty() ? QString("P") : format;
+}
