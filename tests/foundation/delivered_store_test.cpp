@@ -1,0 +1,143 @@
+#include "foundation/encryption.h"
+#include "foundation/schema.h"
+#include "platform/parsing.h"
+#include "support/test_store.h"
+
+#include <QProcess>
+
+class DeliveredStore : public SessionTest {};
+
+TEST_F(DeliveredStore, HoldsTheFirmAndItsUnits) {
+    EXPECT_EQ(valueOf(store(), "SELECT CompanyName FROM tblSystemProfile"), "Zevrin");
+    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblSystemProfile"), "1");
+    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblUnitMaster WHERE UnitCode = 'pc'"), "1");
+}
+
+TEST_F(DeliveredStore, HoldsTheCatalogueOfRights) {
+    const std::pair<int, const char*> named[] = {{100, "Transactions"},
+                                                 {302, "Transaction Record Lock..."},
+                                                 {305, "Change Date and Time Settings..."},
+                                                 {401, "Print Quotation"},
+                                                 {409, "Print Payable Outstanding Balance"},
+                                                 {416, "Print Sales Profitability Report"},
+                                                 {423, "Print Bar Code"}};
+    for (const auto& [code, name] : named)
+        EXPECT_EQ(valueOf(store(), {"SELECT MenuName FROM tblUserMenu WHERE MenuCode = ?", {code}}), name);
+    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblUserMenu"), "41");
+}
+
+TEST_F(DeliveredStore, AdminHasEveryRightAndTheMasterLoginAllButTheEndOfDay) {
+    for (const char* user : {"ADMIN", masterUserCode}) {
+        const Recordset row = store().execute({"SELECT * FROM tblUserMaster WHERE UserCode = ?", {user}});
+        ASSERT_FALSE(row.eof());
+        const auto types = store().columnTypes("tblUserMaster");
+        for (const QString& column : types.keys("BOOLEAN"))
+            EXPECT_EQ(row.flag(column), column != "endofday" || QString(user) == "ADMIN")
+                << user << qPrintable(column);
+        EXPECT_EQ(types.keys("BOOLEAN").size(), 17);
+        EXPECT_EQ(valueOf(store(), {"SELECT COUNT(*) FROM tblUserDetails INNER JOIN tblUserMenu ON MenuID = "
+                                    "MenuCode WHERE UserID = ?",
+                                    {user}}),
+                  "41");
+    }
+}
+
+TEST_F(DeliveredStore, PasswordsSurviveTheTrimOfTheirReaders) {
+    const auto password = [](Connection& from, const char* user) {
+        return DecryptText(
+            trim(valueOf(from, {"SELECT Password FROM tblUserMaster WHERE UserCode = ?", {user}})));
+    };
+    EXPECT_EQ(password(store(), "ADMIN"), "admin");
+    const QString master = password(store(), masterUserCode);
+    EXPECT_GE(master.size(), 16);
+    makeDeliveredStore(folder_.filePath("second.mdb"));
+    Connection second;
+    second.open(folder_.filePath("second.mdb"), storePassword);
+    EXPECT_NE(password(second, masterUserCode), master) << "nobody knows it";
+}
+
+TEST_F(DeliveredStore, ColumnsTellMoneyFromNumbersAndText) {
+    const struct {
+        const char* table;
+        const char* column;
+        const char* type;
+    } columns[] = {{"tblStockValuation", "stockin", "CURRENCY_INTEGER"},
+                   {"tblStockValuation", "zevref", "INTEGER"},
+                   {"tblReceiptMaster", "payno", "INTEGER"},
+                   {"tblStockKey", "server", "TEXT"},
+                   {"tblSalesMaster", "printed", "BOOLEAN"},
+                   {"tblSalesMaster", "refdate", "DATE"}};
+    for (const auto& row : columns)
+        EXPECT_EQ(store().columnTypes(row.table).value(row.column), row.type) << row.table << row.column;
+}
+
+TEST_F(DeliveredStore, WhatIsNotWrittenReadsAsTheBooksNeedIt) {
+    store().run("INSERT INTO tblStockValuation (ZevRef) VALUES (1)");
+    store().run("INSERT INTO tblReceiptDetails (ZevRef) VALUES (1)");
+    const Recordset row = store().execute("SELECT * FROM tblStockValuation");
+    EXPECT_FALSE(row.isNull("StockIn") || row.isNull("InPrice") || row.isNull("SalesCost"));
+    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblReceiptDetails WHERE CheckNo <> 'Cash'"), "0");
+    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblReceiptDetails WHERE Negotiated = False"), "1");
+}
+
+TEST_F(DeliveredStore, KeysRefuseASecondOfTheSameLettersAndNumbersMayBeQuoted) {
+    addItem(store(), {"Lamp", "A lamp"});
+    try {
+        addItem(store(), {"LAMP", "Another"});
+        FAIL() << "two items of one code";
+    } catch (const StoreError& error) {
+        EXPECT_EQ(error.number(), StoreError::refused);
+    }
+    store().run("INSERT INTO tblReceiptMaster (PayNo) VALUES (12)");
+    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblReceiptMaster WHERE PayNo = '12'"), "1");
+    EXPECT_EQ(valueOf(store(), {"SELECT COUNT(*) FROM tblReceiptMaster WHERE PayNo = ?", {"12"}}), "1");
+}
+
+TEST_F(DeliveredStore, TheHotQuestionsAreAnsweredByAnIndex) {
+    const char* questions[] = {
+        "SELECT SUM(Served) FROM tblSalesDetails WHERE ItemID = 'a'",
+        "SELECT SUM(Delivered) FROM tblPurchaseDetails WHERE ItemID = 'a'",
+        "SELECT SUM(Amount), SUM(DiscountAmount) FROM tblReceiptDetails WHERE Reference = 'a'",
+        "SELECT SUM(PayAmount) FROM tblDisbursementDetails WHERE PuchaseID = 'a' AND DirectPayment = 0",
+        "SELECT * FROM tblStockValuation WHERE ItemCode = 'a' ORDER BY ItemCode, TransDate, BookID, ZevRef",
+        "SELECT * FROM tblStockValuation ORDER BY ItemCode, TransDate, BookID, ZevRef",
+        "SELECT * FROM tblStockValuation WHERE BookID = 'S' AND Reference = 'a'",
+        "SELECT * FROM tblSalesMaster WHERE RefNo = 'a'",
+        "SELECT * FROM tblSalesMaster ORDER BY RefDate DESC",
+        "SELECT * FROM tblContactMaster ORDER BY ContactName",
+        "SELECT * FROM tblUserDetails WHERE UserID = 'a' ORDER BY MenuID"};
+    for (const char* question : questions) {
+        Recordset plan = store().execute(QString("EXPLAIN QUERY PLAN ") + question);
+        for (; !plan.eof(); plan.moveNext()) {
+            EXPECT_TRUE(plan.text("detail").contains("INDEX")) << question << qPrintable(plan.text("detail"));
+            EXPECT_FALSE(plan.text("detail").contains("TEMP B-TREE")) << question;
+        }
+    }
+}
+
+namespace {
+int runMkstore(const QStringList& arguments, QString* message = nullptr) {
+    QProcess program;
+    program.start(QCoreApplication::applicationDirPath() + "/mkstore", arguments);
+    EXPECT_TRUE(program.waitForFinished(30000));
+    if (message) *message = program.readAllStandardError();
+    return program.exitCode();
+}
+}  // namespace
+
+TEST(Mkstore, MakesAStoreAndRefusesToReplaceOne) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("Quorvel.mdb");
+    ASSERT_EQ(runMkstore({path}), 0);
+    Connection store;
+    store.open(path, storePassword);
+    store.run("UPDATE tblSystemProfile SET CompanyName = 'Mine'");
+    QString message;
+    EXPECT_EQ(runMkstore({path}, &message), 1);
+    EXPECT_TRUE(message.contains("already exists")) << qPrintable(message);
+    EXPECT_EQ(valueOf(store, "SELECT CompanyName FROM tblSystemProfile"), "Mine");
+    EXPECT_EQ(runMkstore({folder.filePath("none/Quorvel.mdb")}, &message), 1);
+    EXPECT_FALSE(message.isEmpty());
+    EXPECT_EQ(runMkstore({}), 2);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("Quorvel.mdb")) << "no draft left";
+}

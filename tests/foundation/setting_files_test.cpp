@@ -1,0 +1,57 @@
+#include "foundation/setting_files.h"
+#include "foundation/session.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+class SettingFiles : public ::testing::Test {
+  protected:
+    void SetUp() override { setProgramFolder(folder_.path()); }
+    void TearDown() override {
+        setProgramFolder({});
+        session() = Session{};
+    }
+    void write(const char* name, const QByteArray& text) {
+        QFile file(folder_.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+    QTemporaryDir folder_;
+};
+
+TEST_F(SettingFiles, EachReaderKeepsTheTrimmedFirstLine) {
+    write("Printer.ini", "  L  \r\nD\r\n");
+    write("CheckPrinter.ini", "D");
+    write("ReceiptPrinter.ini", "0123456789012\n");
+    write("Receipt.ini", "\nX\n");
+    session().ReceiptFormat = "old";
+    EXPECT_EQ(ReadPrinterIni(), "L");
+    EXPECT_EQ(ReadCheckPrinterIni(), "D");
+    EXPECT_EQ(ReadReceiptPrinterIni(), "0123456789");
+    EXPECT_EQ(ReadReceiptIni(), "") << "an empty line is a line";
+    EXPECT_EQ(session().ReportPrinterKind + session().CheckPrinterKind, "LD");
+}
+
+TEST_F(SettingFiles, AMissingOrEmptyFileLeavesTheValue) {
+    session().ReportPrinterKind = "D";
+    EXPECT_EQ(ReadPrinterIni(), "D");
+    write("Printer.ini", "");
+    EXPECT_EQ(ReadPrinterIni(), "D");
+}
+
+TEST_F(SettingFiles, TheCheckBookHasADefault) {
+    const std::pair<const char*, const char*> table[] = {
+        {"c\r\n", "C"}, {" p ", "P"}, {"", "P"}, {"\n", "P"}, {"   \n", "P"}};
+    for (const auto& [text, format] : table) {
+        session().CheckBookFormat = "C";
+        write("Check.ini", text);
+        ReadCheckIni();
+        EXPECT_EQ(session().CheckBookFormat, format) << text;
+    }
+    QFile::remove(folder_.filePath("Check.ini"));
+    session().CheckBookFormat = "C";
+    ReadCheckIni();
+    EXPECT_EQ(session().CheckBookFormat, "P");
+}

@@ -1,0 +1,146 @@
+#include "support/test_store.h"
+
+#include "foundation/schema.h"
+#include "foundation/shared_routines.h"
+#include "platform/clock.h"
+#include "platform/store/transaction.h"
+
+#include <QFile>
+
+namespace {
+// What of a document is written differently for a sale and for a purchase.
+struct Book {
+    const char* letter;
+    const char* master;
+    const char* key;
+    const char* date;
+    const char* total;
+    const char* details;
+    const char* quantity;
+};
+constexpr Book sales{"S", "tblSalesMaster", "RefNo", "RefDate", "TotalAmount", "tblSalesDetails", "Served"};
+constexpr Book purchases{
+    "P",        "tblPurchaseMaster", "PurchaseNo", "PurchaseDate", "PurchaseAmount", "tblPurchaseDetails",
+    "Delivered"};
+
+QString deliveredStore() {
+    static const QTemporaryDir folder;
+    const QString path = folder.filePath("delivered.mdb");
+    if (!QFile::exists(path)) makeDeliveredStore(path);
+    return path;
+}
+
+Currency totalOf(const LineRow& line) { return line.quantity * NetPrice(line.price, line.discount); }
+
+void addMaster(Connection& store, const Book& book, const DocumentRow& document, Currency total) {
+    Recordset master = store.openTable(book.master);
+    master.addNew();
+    master.set(book.key, document.number);
+    master.set(book.date, document.date);
+    master.set("ContactNo", document.contactId);
+    master.set(book.total, total);
+    master.set("Balance", total);
+    master.set("Printed", document.printed);
+    master.set("UpdatedBy", "ADMIN");
+    master.set("DateUpdate", Clock::now());
+    master.update();
+}
+
+void addLine(Connection& store, const Book& book, const QString& number, const LineRow& line) {
+    Recordset details = store.openTable(book.details);
+    details.addNew();
+    details.set("Reference", number);
+    details.set("ItemID", line.item);
+    details.set("Ordered", line.quantity);
+    details.set(book.quantity, line.quantity);
+    details.set("Unit", "PC");
+    details.set("UnitPrice", line.price);
+    details.set("Discount", line.discount);
+    details.set("Total", totalOf(line));
+    details.update();
+}
+
+void queue(Connection& store, const Book& book, const DocumentRow& document) {
+    store.run({"INSERT INTO tblForPosting (BookID, Reference, Contact, TransDate) VALUES (?, ?, ?, ?)",
+               {book.letter, document.number, document.contactId, document.date}});
+    for (const LineRow& line : document.lines)
+        if (!RecordFound(store, "tblForPostingItem", "ItemID", line.item))
+            store.run({"INSERT INTO tblForPostingItem (ItemID) VALUES (?)", {line.item}});
+}
+
+void addDocument(Connection& store, const Book& book, const DocumentRow& document) {
+    Currency total;
+    for (const LineRow& line : document.lines) total += totalOf(line);
+    Transaction unit(store);
+    addMaster(store, book, document, total);
+    for (const LineRow& line : document.lines) addLine(store, book, document.number, line);
+    if (document.queued) queue(store, book, document);
+    unit.commit();
+}
+}  // namespace
+
+void copyDeliveredStore(const QString& path) {
+    ASSERT_TRUE(QFile::copy(deliveredStore(), path)) << qPrintable(path);
+}
+
+TestStore::TestStore() {
+    copyDeliveredStore(path());
+    connection_.open(path(), storePassword);
+}
+
+void SessionTest::SetUp() {
+    copyDeliveredStore(storePath());
+    setProgramFolder(folder_.path());
+    session() = Session{};
+    store().open(storePath(), storePassword);
+    session().StoreOpen = true;
+    session().CurrentUserCode = "ADMIN";
+    session().CurrentUserName = "ADMIN";
+}
+
+void SessionTest::TearDown() {
+    store().close();
+    setProgramFolder({});
+    session() = Session{};
+    Connection::setIdleHook({});
+    Connection::setStatementHook({});
+}
+
+void addContact(Connection& store, const ContactRow& contact) {
+    Recordset row = store.openTable("tblContactMaster");
+    row.addNew();
+    row.set("ContactID", contact.id);
+    row.set("ContactName", contact.name);
+    row.set("IsCustomer", contact.customer);
+    row.set("IsSupplier", contact.supplier);
+    row.set("Discount", contact.discount);
+    row.set("Terms", contact.terms);
+    row.set("CreditLimit", contact.creditLimit);
+    row.update();
+}
+
+void addUnit(Connection& store, const QString& code) {
+    store.run({"INSERT INTO tblUnitMaster (UnitCode) VALUES (?)", {code}});
+}
+
+void addItem(Connection& store, const ItemRow& item) {
+    Recordset row = store.openTable("tblItemMaster");
+    row.addNew();
+    row.set("ItemCode", item.code);
+    row.set("Description", item.description);
+    row.set("Unit", item.unit);
+    row.set("CostPrice", item.cost);
+    row.set("SellingPrice", item.selling);
+    row.set("WholesalePrice", item.wholesale);
+    row.set("OrderLevel", item.orderLevel);
+    row.update();
+}
+
+void addSale(Connection& store, const DocumentRow& sale) { addDocument(store, sales, sale); }
+
+void addPurchase(Connection& store, const DocumentRow& purchase) { addDocument(store, purchases, purchase); }
+
+QString valueOf(Connection& store, const Sql& statement) {
+    const Recordset row = store.execute(statement);
+    return row.eof() ? "none" : row.textAt(0);
+}
