@@ -69,33 +69,41 @@ static QString shownText(const QString& text) {
     return text.size() <= longestText ? text : text.left(longestText) + "…";
 }
 
-static void addButtons(QMessageBox& window, const Box& box) {
+static void addButtons(QMessageBox* window, const Box& box) {
     for (const BoxAnswer answer : boxChoices(box)) {
         const BoxButton& button = buttonOf(answer);
-        window.addButton(button.button)->setObjectName(button.name);
+        window->addButton(button.button)->setObjectName(button.name);
     }
-    window.setDefaultButton(buttonOf(defaultAnswer(box)).button);
-    window.setEscapeButton(buttonOf(escapeAnswer(box)).button);
+    window->setDefaultButton(buttonOf(defaultAnswer(box)).button);
+    window->setEscapeButton(buttonOf(escapeAnswer(box)).button);
 }
 
-static BoxAnswer answerOf(const QMessageBox& window, const Box& box) {
+static BoxAnswer answerOf(const QMessageBox* window, const Box& box) {
     for (const BoxAnswer answer : boxChoices(box))
-        if (window.clickedButton() == window.button(buttonOf(answer).button)) return answer;
+        if (window && window->clickedButton() == window->button(buttonOf(answer).button)) return answer;
     return escapeAnswer(box);
 }
 
-static BoxAnswer askPerson(const Box& box) {
-    QMessageBox window(QApplication::activeWindow());
-    window.setObjectName("msgBox");
-    window.setWindowTitle(box.title);
-    window.setAccessibleName(box.title);
-    window.setAccessibleDescription(shownText(box.text));
-    window.setTextFormat(Qt::PlainText);
-    window.setText(shownText(box.text));
-    window.setIcon(iconOf(box.icon));
+static QMessageBox* newWindow(const Box& box) {
+    auto* window = new QMessageBox(QApplication::activeWindow());
+    window->setObjectName("msgBox");
+    window->setWindowTitle(box.title);
+    window->setAccessibleName(box.title);
+    window->setAccessibleDescription(shownText(box.text));
+    window->setTextFormat(Qt::PlainText);
+    window->setText(shownText(box.text));
+    window->setIcon(iconOf(box.icon));
     addButtons(window, box);
-    window.exec();
-    return answerOf(window, box);
+    return window;
+}
+
+// The window below may close while the box is open, and takes it along.
+static BoxAnswer askPerson(const Box& box) {
+    const QPointer<QMessageBox> window = newWindow(box);
+    window->exec();
+    const BoxAnswer answer = answerOf(window, box);
+    delete window;
+    return answer;
 }
 
 BoxAnswer showBox(const Box& box) {

@@ -31,9 +31,11 @@ static ChildScreen* screenOf(QWidget* widget) {
     return nullptr;
 }
 
-// Another program, a box, or a modal dialog has the focus.
+// Another program, a box, a modal dialog, a menu or the list of a combo box has the focus.
 bool FrontWatch::outsideTheWork(QWidget* now) const {
-    return holds_ > 0 || !now || (now->window()->isModal() && !screenOf(now));
+    if (holds_ > 0 || !now) return true;
+    const bool passing = now->window()->windowType() == Qt::Popup;
+    return passing || (now->window()->isModal() && !screenOf(now));
 }
 
 static bool stillThere(const QWidget* field) {

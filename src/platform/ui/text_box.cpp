@@ -1,11 +1,11 @@
 #include "platform/ui/text_box.h"
 
+#include "platform/masks.h"
 #include "platform/ui/boxes.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMetaMethod>
 #include <QTimer>
 #include <QToolTip>
@@ -123,8 +123,13 @@ void TextBox::typeKey(QKeyEvent* event) {
         return event->accept();
     }
     typing_ = text || event->key() == Qt::Key_Backspace || event->key() == Qt::Key_Delete;
+    refusedText_.clear();
     QLineEdit::keyPressEvent(event);
-    if (std::exchange(typing_, false)) emit keyTyped();
+    if (!std::exchange(typing_, false)) return;
+    if (takeRefused().isEmpty())
+        emit keyTyped();
+    else
+        sayFull();
 }
 
 void TextBox::keyReleaseEvent(QKeyEvent* event) {
@@ -141,32 +146,35 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     QLineEdit::inputMethodEvent(event);
 }
 
+// What a person's last change would have made of the box; empty when it was not refused. A text that stands
+// in the box although it is too long was set by the program.
+QString TextBox::takeRefused() {
+    const QString text = std::exchange(refusedText_, {});
+    return text == this->text() ? QString() : text;
+}
+
+// The box comes up when the event that pasted is over.
 void TextBox::refused() {
-    if (refusedText_.isEmpty()) return;
-    if (typing_)
-        sayFull();
-    else  // The box comes up when the event that pasted is over.
-        QTimer::singleShot(0, this, &TextBox::sayRefusedPaste);
+    if (!typing_) QTimer::singleShot(0, this, &TextBox::sayRefusedPaste);
 }
 
 static QString fullText(int capacity) {
-    return QString("This field holds at most %1 characters.").arg(QLocale::c().toString(capacity));
+    return QString("This field holds at most %1 characters.").arg(formatCount(capacity));
 }
 
 void TextBox::sayFull() {
-    refusedText_.clear();
     QApplication::beep();
     QToolTip::showText(mapToGlobal(rect().bottomLeft()), fullText(capacity_), this);
 }
 
 void TextBox::sayRefusedPaste() {
-    const QString text = std::exchange(refusedText_, {});
+    const QString text = takeRefused();
     if (text.isEmpty()) return;
     QApplication::beep();
     showBox(exclamation("Not pasted!", hasLineBreak(text)
                                            ? "This field holds one line. What you paste has line breaks."
                                            : fullText(capacity_) + " With what you paste it would be " +
-                                                 QLocale::c().toString(text.size()) + "."));
+                                                 formatCount(text.size()) + "."));
 }
 
 TextBox* readOnlyBox(const QString& name, Qt::Alignment alignment) {

@@ -48,6 +48,7 @@ class TextBox : public QLineEdit, public FocusField {
     bool refusesKeys(const QString& typed) const;
     bool holdsWhole(const QString& text) const;
     void typeKey(QKeyEvent* event);
+    QString takeRefused();
     void refused();
     void sayFull();
     void sayRefusedPaste();

@@ -1,0 +1,318 @@
+#include "platform/ui/boxes.h"
+#include "platform/ui/child_screen.h"
+#include "platform/ui/combo_box.h"
+#include "platform/ui/editing.h"
+#include "platform/ui/form.h"
+#include "platform/ui/text_box.h"
+#include "support/box_script.h"
+#include "support/screen_driver.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolTip>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// A screen of two boxes, an open and a closed combo box and a button.
+class Sample : public ChildScreen {
+  public:
+    Sample() : ChildScreen("frmSample", "Sample") {
+        auto* layout = new QGridLayout(this);
+        form::row(layout, 0, 0, "&Name :", name);
+        form::row(layout, 1, 0, "&Amount :", amount);
+        form::row(layout, 2, 0, "&Unit :", unit);
+        form::row(layout, 3, 0, "&Kind :", kind);
+        layout->addWidget(save, 4, 1);
+        amount->setKeyFilter(keys::amount());
+        name->setKeyFilter(keys::freeText());
+        kind->addItems({"Cash", "Check"});
+    }
+    TextBox* name = new TextBox("txtName");
+    TextBox* amount = new TextBox("txtAmount");
+    ComboBox* unit = new ComboBox("cboUnit", ComboBox::Open);
+    ComboBox* kind = new ComboBox("cboKind", ComboBox::Closed);
+    QPushButton* save = form::button("cmdSave", "&Save");
+};
+
+class UiFields : public testing::Test {
+  protected:
+    void SetUp() override {
+        screen = new Sample;
+        person::look(screen);
+        person::goTo(screen, "txtName");
+    }
+    void TearDown() override { delete screen; }
+    QPointer<Sample> screen;
+};
+
+struct FilterCase {
+    const char* name;
+    KeyFilter filter;
+    const char* typed;
+    const char* kept;
+};
+
+}  // namespace
+
+TEST_F(UiFields, TakeOnlyTheKeysOfTheirFilter) {
+    const FilterCase cases[] = {
+        {"whole numbers", keys::wholeNumber(), "1a2.3-4", "1234"},
+        {"amounts", keys::amount(), "1,234.5e", "1234.5"},
+        {"dates", keys::date(), "2/3-26 x", "2/3-26"},
+        {"free text", keys::freeText(), "O'Neil & Co", "ONeil & Co"},
+        {"letters in either case", {KeyFilter::Allow, "abc"}, "aBxC", "aBC"},
+        {"letters refused in either case", {KeyFilter::Reject, "q"}, "qQr", "r"},
+    };
+    for (const FilterCase& row : cases) {
+        screen->name->setKeyFilter(row.filter);
+        person::fill(screen, "txtName", row.typed);
+        EXPECT_EQ(screen->name->text(), QString(row.kept)) << row.name;
+    }
+}
+
+TEST_F(UiFields, BackspacePassesEveryFilterAndPasteIsNotFiltered) {
+    person::fill(screen, "txtAmount", "125");
+    person::press(Qt::Key_Backspace);
+    EXPECT_EQ(screen->amount->text(), "12");
+    person::goTo(screen, "txtName");
+    person::paste("O'Neil");
+    EXPECT_EQ(screen->name->text(), "O'Neil");
+}
+
+TEST_F(UiFields, RefuseWholeWhatDoesNotFitAndSaySo) {
+    screen->name->setCapacity(5);
+    person::fill(screen, "txtName", "abcdefg");
+    EXPECT_EQ(screen->name->text(), "abcde");
+    EXPECT_EQ(QToolTip::text(), "This field holds at most 5 characters.");
+
+    const QString hundredThousand(100000, u'x');
+    BoxScript boxes;
+    for (const QString& pasted : {QString("123456"), hundredThousand}) {
+        boxes.expect("Not pasted!");
+        person::press(Qt::Key_A, Qt::ControlModifier);
+        person::paste(pasted);
+        EXPECT_EQ(screen->name->text(), "abcde");
+    }
+    screen->name->setCapacity(0);
+    boxes.expect("Not pasted!",
+                 "This field holds at most 32,000 characters. With what you paste it would be "
+                 "100,000.");
+    person::press(Qt::Key_A, Qt::ControlModifier);
+    editing::paste();
+    person::settle();
+    EXPECT_EQ(screen->name->text(), "abcde");
+}
+
+TEST_F(UiFields, RefuseALineBreakAndKeepEverythingElseExactly) {
+    const QStringList texts = {"100% _off\\",         "<b>bold</b> &amp;", "😀 ña",
+                               "\u202eright to left", " two  blanks ",     "tab\there",
+                               QString(32000, u'y')};
+    for (const QString& text : texts) {
+        person::press(Qt::Key_A, Qt::ControlModifier);
+        person::paste(text);
+        EXPECT_EQ(screen->name->text(), text);
+    }
+    BoxScript boxes;
+    for (const char* text : {"one\ntwo", "one\r\n", "a\u2028b"}) {
+        boxes.expect("Not pasted!", "This field holds one line. What you paste has line breaks.");
+        person::press(Qt::Key_A, Qt::ControlModifier);
+        person::paste(text);
+        EXPECT_EQ(screen->name->text(), texts.last());
+    }
+}
+
+TEST_F(UiFields, WhatTheProgramSetsIsNeverCut) {
+    screen->name->setCapacity(3);
+    screen->name->setText("longer than three");
+    EXPECT_EQ(screen->name->text(), "longer than three");
+    person::fill(screen, "txtName", "ab");
+    EXPECT_EQ(screen->name->text(), "ab");
+}
+
+TEST_F(UiFields, SelectTheirTextOnFocusByKeyAndByMouse) {
+    for (TextBox* box : {screen->name, screen->amount, screen->unit->box()}) box->setText("123");
+    person::goTo(screen, "txtAmount");
+    EXPECT_EQ(screen->amount->selectedText(), "123");
+    person::click(screen->name);
+    EXPECT_EQ(screen->name->selectedText(), "123");
+    person::click(screen->name);
+    EXPECT_EQ(screen->name->selectedText(), "") << "a second click sets the cursor";
+    person::click(screen->unit->box());
+    EXPECT_EQ(screen->unit->box()->selectedText(), "123");
+}
+
+TEST_F(UiFields, EnterMovesOnUnlessTheFieldDealsWithIt) {
+    int entered = 0;
+    person::press(Qt::Key_Return);
+    EXPECT_EQ(person::focusName(), "txtAmount");
+    QObject::connect(screen->amount, &TextBox::entered, screen, [&] { ++entered; });
+    person::press(Qt::Key_Enter);
+    EXPECT_EQ(person::focusName(), "txtAmount");
+    EXPECT_EQ(entered, 1);
+    person::press(Qt::Key_Tab);
+    person::press(Qt::Key_Return);
+    EXPECT_EQ(person::focusName(), "cboKind");
+    person::press(Qt::Key_Return);
+    EXPECT_EQ(person::focusName(), "cmdSave");
+    QObject::connect(screen->unit, &ComboBox::entered, screen, [&] { ++entered; });
+    person::goTo(screen, "cboUnit");
+    person::press(Qt::Key_Return);
+    EXPECT_EQ(person::focusName(), "cboUnit");
+    EXPECT_EQ(entered, 2);
+}
+
+TEST_F(UiFields, EnterPressesTheButtonThatHasTheFocus) {
+    const QSignalSpy clicked(screen->save, &QPushButton::clicked);
+    person::goTo(screen, "cmdSave");
+    person::press(Qt::Key_Return);
+    EXPECT_EQ(clicked.count(), 1);
+}
+
+TEST_F(UiFields, LoseTheFocusToAnotherControlButNotToABox) {
+    const QSignalSpy gained(screen->name, &TextBox::focusGained);
+    const QSignalSpy lost(screen->name, &TextBox::focusLost);
+    const QSignalSpy comboLost(screen->unit, &ComboBox::focusLost);
+    setBoxAnswerer(nullptr);
+    QTimer::singleShot(0, [] { person::press(Qt::Key_Escape); });
+    showBox(information("Saved!", "Record Successfully Saved!"));
+    failOnUnexpectedBoxes();
+    person::settle();
+    EXPECT_EQ(person::focusName(), "txtName");
+    EXPECT_EQ(lost.count(), 0);
+    EXPECT_EQ(gained.count(), 0);
+
+    person::goTo(screen, "cboUnit");
+    EXPECT_EQ(lost.count(), 1);
+    screen->unit->addItems({"PC", "BOX"});
+    screen->unit->showPopup();
+    person::settle();
+    person::press(Qt::Key_Escape);
+    EXPECT_EQ(comboLost.count(), 0) << "its own list is no other control";
+    person::goTo(screen, "txtName");
+    EXPECT_EQ(comboLost.count(), 1);
+    EXPECT_EQ(gained.count(), 1);
+}
+
+TEST_F(UiFields, AFieldThatTakesTheFocusBackKeepsIt) {
+    QStringList events;
+    QObject::connect(screen->name, &TextBox::focusLost, screen, [&] {
+        events += "lost";
+        screen->name->setFocus();
+    });
+    QObject::connect(screen->amount, &TextBox::focusGained, screen, [&] { events += "amount"; });
+    person::goTo(screen, "txtAmount");
+    EXPECT_EQ(person::focusName(), "txtName");
+    EXPECT_EQ(events, QStringList("lost"));
+}
+
+TEST_F(UiFields, AClosingScreenTakesTheFocusFromNobody) {
+    int lost = 0;
+    QObject::connect(screen->name, &TextBox::focusLost, qApp, [&] { ++lost; });
+    EXPECT_TRUE(screen->unload());
+    person::settle();
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(lost, 0);
+}
+
+TEST_F(UiFields, TheKeyOfACutOrPasteCountsAsTyped) {
+    const QSignalSpy typed(screen->name, &TextBox::keyTyped);
+    person::type("a");
+    EXPECT_EQ(typed.count(), 1);
+    person::type("'");
+    EXPECT_EQ(typed.count(), 1) << "a swallowed key did not go into the box";
+    person::press(Qt::Key_Backspace);
+    EXPECT_EQ(typed.count(), 2);
+    person::paste("b");
+    EXPECT_EQ(typed.count(), 3);
+    person::press(Qt::Key_Left);
+    screen->name->setText("set");
+    EXPECT_EQ(typed.count(), 3);
+}
+
+TEST_F(UiFields, AFaultComesAsABoxAndLeadsToItsField) {
+    BoxScript boxes;
+    boxes.expect("Error!", "Invalid Date Value!");
+    screen->amount->setText("12x");
+    showFault({exclamation("Error!", "Invalid Date Value!"), "txtAmount"}, screen);
+    EXPECT_EQ(person::focusName(), "txtAmount");
+    EXPECT_EQ(screen->amount->selectedText(), "12x");
+}
+
+TEST(UiCombo, AnOpenOneKeepsWhatWasTypedAndItsListIsFilledOnDrop) {
+    Sample screen;
+    int fills = 0;
+    screen.unit->setFiller([&] {
+        ++fills;
+        screen.unit->clear();
+        screen.unit->addItems({"PC", "BOX"});
+    });
+    person::look(&screen);
+    const QSignalSpy picked(screen.unit, &ComboBox::picked);
+    person::fill(&screen, "cboUnit", "pc");
+    screen.unit->showPopup();
+    person::settle();
+    screen.unit->hidePopup();
+    person::goTo(&screen, "txtName");
+    EXPECT_EQ(screen.unit->text(), "pc") << "neither completed nor folded to the list's PC";
+    EXPECT_EQ(fills, 1);
+    EXPECT_EQ(picked.count(), 0);
+    person::goTo(&screen, "cboUnit");
+    person::press(Qt::Key_Down);
+    EXPECT_EQ(screen.unit->text(), "BOX");
+    EXPECT_EQ(picked.count(), 1);
+}
+
+TEST(UiCombo, AClosedOneSelectsNothingForATextOutsideItsList) {
+    Sample screen;
+    screen.kind->setText("check");
+    EXPECT_EQ(screen.kind->text(), "Check");
+    screen.kind->setText("Barter");
+    EXPECT_EQ(screen.kind->currentIndex(), -1);
+}
+
+TEST(UiKeys, TheFramesShortcutsWorkFromEveryField) {
+    QMainWindow frame;
+    auto* screen = new Sample;
+    frame.setCentralWidget(screen);
+    QMenu* menu = frame.menuBar()->addMenu("&Record");
+    QStringList called;
+    const QStringList shortcuts = {"Ctrl+S", "Ctrl+N", "Ctrl+E", "Ctrl+W", "Ctrl+F", "F5", "Shift+Del"};
+    for (const QString& shortcut : shortcuts)
+        menu->addAction(shortcut, [&called, shortcut] { called += shortcut; })->setShortcut(shortcut);
+    person::look(&frame);
+    for (const char* field : {"txtName", "txtAmount", "cboUnit", "cboKind", "cmdSave"}) {
+        called.clear();
+        person::goTo(screen, field);
+        if (auto* box = dynamic_cast<TextBox*>(screen->findChild<QWidget*>(field))) box->setText("12");
+        for (const QString& shortcut : shortcuts) {
+            const QKeyCombination key = QKeySequence(shortcut)[0];
+            person::press(key.key(), key.keyboardModifiers());
+        }
+        EXPECT_EQ(called, shortcuts) << field;
+    }
+    EXPECT_EQ(screen->name->text(), "12") << "Shift+Del cut it";
+}
+
+TEST(UiKeys, TheEditCommandsWorkOnTheActiveBoxAndOnNothingElse) {
+    Sample screen;
+    person::look(&screen);
+    person::fill(&screen, "txtName", "abc");
+    editing::selectAll();
+    editing::cut();
+    EXPECT_EQ(screen.name->text(), "");
+    person::goTo(&screen, "cboUnit");
+    editing::paste();
+    EXPECT_EQ(screen.unit->text(), "abc");
+    person::goTo(&screen, "cmdSave");
+    EXPECT_EQ(editing::activeTextControl(), nullptr);
+    editing::cut();
+    editing::paste();
+    EXPECT_EQ(QApplication::clipboard()->text(), "abc");
+}
