@@ -9,6 +9,7 @@ class frmAddItem;
 // one whose RecordLock it has taken; the screen holds the lock and clears it when it leaves the document.
 class OrderEntry : public RecordScreen, public LineOwner {
     Q_OBJECT
+    Q_PROPERTY(QString mstrPrimary MEMBER mstrPrimary)
   public:
     explicit OrderEntry(const OrderScreen& screen);
 

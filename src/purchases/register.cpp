@@ -1,3 +1,9 @@
 #include "purchases/register.h"
 
-void registerPurchaseScreens() {}
+#include "platform/ui/screen_registry.h"
+#include "purchases/frmPurchaseGrid.h"
+
+void registerPurchaseScreens() {
+    ScreenRegistry& screens = ScreenRegistry::instance();
+    screens.add("frmPurchaseGrid", [] { return new frmPurchaseGrid; });
+}

@@ -1,3 +1,9 @@
 #include "sales/register.h"
 
-void registerSalesScreens() {}
+#include "platform/ui/screen_registry.h"
+#include "sales/frmSalesGrid.h"
+
+void registerSalesScreens() {
+    ScreenRegistry& screens = ScreenRegistry::instance();
+    screens.add("frmSalesGrid", [] { return new frmSalesGrid; });
+}

@@ -150,7 +150,8 @@ void frmForUpload::status(const QString& text) {
 }
 
 void frmForUpload::start(qint64 maximum) {
-    pbrStatus->setRange(0, static_cast<int>(maximum));
+    // A range of nothing would show a bar that runs on for ever.
+    pbrStatus->setRange(0, std::max(1, static_cast<int>(maximum)));
     pbrStatus->setValue(0);
 }
 
