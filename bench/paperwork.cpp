@@ -15,10 +15,14 @@ QString field(const QString& text, qsizetype& at) {
     bool quoted = false;
     for (; at < text.size(); ++at) {
         const QChar c = text[at];
-        if (c == '"' && quoted && at + 1 < text.size() && text[at + 1] == '"') value += text[++at];
-        else if (c == '"') quoted = !quoted;
-        else if (!quoted && (c == ',' || c == '\n')) break;
-        else if (quoted || c != '\r') value += c;
+        if (c == '"' && quoted && at + 1 < text.size() && text[at + 1] == '"')
+            value += text[++at];
+        else if (c == '"')
+            quoted = !quoted;
+        else if (!quoted && (c == ',' || c == '\n'))
+            break;
+        else if (quoted || c != '\r')
+            value += c;
     }
     return value;
 }
@@ -72,8 +76,8 @@ QList<PaperOrder> orders(const QString& folder) {
     QList<PaperOrder> list;
     for (const Record& row : records(folder, "orders.csv"))
         list += {text(row, "number"), text(row, "customer"),
-                 QDate::fromString(text(row, "order_date"), Qt::ISODate), !text(row, "shipped_date").isEmpty(),
-                 byOrder.value(text(row, "number"))};
+                 QDate::fromString(text(row, "order_date"), Qt::ISODate),
+                 !text(row, "shipped_date").isEmpty(), byOrder.value(text(row, "number"))};
     std::stable_sort(list.begin(), list.end(),
                      [](const PaperOrder& a, const PaperOrder& b) { return a.date < b.date; });
     return list;
@@ -94,5 +98,6 @@ QList<QHash<QString, QString>> parseCsv(const QString& text) {
 }
 
 Paperwork readPaperwork(const QString& folder) {
-    return {contacts(folder, "customers.csv"), contacts(folder, "suppliers.csv"), items(folder), orders(folder)};
+    return {contacts(folder, "customers.csv"), contacts(folder, "suppliers.csv"), items(folder),
+            orders(folder)};
 }

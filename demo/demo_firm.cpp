@@ -33,7 +33,10 @@ struct DemoUser {
 
 const QList<DemoUser>& demoUsers() {
     static const QList<DemoUser> users = {
-        {"CLERK", "Maria Dizon", "Sales Clerk", {"PrintDRAccess", "InqItemAccess", "InqContactAccess"},
+        {"CLERK",
+         "Maria Dizon",
+         "Sales Clerk",
+         {"PrintDRAccess", "InqItemAccess", "InqContactAccess"},
          {100, 101, 200, 202, 400, 403}},
         {"CASHIER", "Jun Abella", "Cashier", {"POSUser", "InqContactAccess"}, {100, 102}}};
     return users;
@@ -74,10 +77,9 @@ void nameTheFirm(Connection& store) {
 }
 
 void addContact(Connection& store, const DemoContact& contact) {
-    const ContactEntry entry{contact.name,        contact.address,  contact.telephone,
-                             contact.email,       contact.terms,    contact.remarks,
-                             contact.creditLimit, contact.discount, contact.isCustomer,
-                             contact.isSupplier};
+    const ContactEntry entry{contact.name,       contact.address,   contact.telephone,   contact.email,
+                             contact.terms,      contact.remarks,   contact.creditLimit, contact.discount,
+                             contact.isCustomer, contact.isSupplier};
     QString id;
     require(SaveContact(store, entry, true, id), contact.name);
 }
@@ -159,8 +161,9 @@ class DemoFirm {
 
     OrderLine lineOf(const DemoLine& line, const DemoDocument& document) const {
         const DemoItem& item = items_[line.item];
-        return makeOrderLine(codes_[line.item], item.description, item.unit, Currency::fromInteger(line.ordered),
-                             Currency::fromInteger(line.moved), line.price, discounts_[document.contact]);
+        return makeOrderLine(codes_[line.item], item.description, item.unit,
+                             Currency::fromInteger(line.ordered), Currency::fromInteger(line.moved),
+                             line.price, discounts_[document.contact]);
     }
 
     // What has been printed leaves the list that a journal opens with; then the end of day.

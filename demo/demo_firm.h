@@ -3,8 +3,8 @@
 
 class Connection;
 
-// Fills a delivered store with the demo firm: its name, a clerk and a cashier with few rights, contacts, items
-// and twelve months of trade that end on the given day, all through the modules that the screens use. The end
-// of day has run for everything but the documents of the last day. All or nothing; throws std::runtime_error
-// with the text of a refused step, and StoreError.
+// Fills a delivered store with the demo firm: its name, a clerk and a cashier with few rights, contacts,
+// items and twelve months of trade that end on the given day, all through the modules that the screens use.
+// The end of day has run for everything but the documents of the last day. All or nothing; throws
+// std::runtime_error with the text of a refused step, and StoreError.
 void fillDemoFirm(Connection& store, const QDate& lastDay);

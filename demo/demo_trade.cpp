@@ -20,8 +20,15 @@ DemoContact contactOf(const QStringList& row) {
 }
 
 DemoItem itemOf(const QStringList& row) {
-    return {row[0], row[1], row[2], row[3], numberOrZero(row[4]), numberOrZero(row[5]), numberOrZero(row[6]),
-            row[7].toInt(), row[8].toInt()};
+    return {row[0],
+            row[1],
+            row[2],
+            row[3],
+            numberOrZero(row[4]),
+            numberOrZero(row[5]),
+            numberOrZero(row[6]),
+            row[7].toInt(),
+            row[8].toInt()};
 }
 }  // namespace
 
@@ -90,7 +97,8 @@ int DemoTrade::shortness(int item) const {
 void DemoTrade::purchaseShortItems() {
     QList<int> order(items_.size());
     for (int item = 0; item < order.size(); ++item) order[item] = item;
-    std::stable_sort(order.begin(), order.end(), [this](int a, int b) { return shortness(a) > shortness(b); });
+    std::stable_sort(order.begin(), order.end(),
+                     [this](int a, int b) { return shortness(a) > shortness(b); });
     const QString supplier = items_[order.first()].supplier;
     QList<int> wanted;
     for (const int item : order)
@@ -114,8 +122,8 @@ void DemoTrade::sell() {
         if (quantity < 1 || taken.contains(item)) continue;
         const int served = below(40) == 0 ? quantity / 2 : quantity;
         const DemoItem& goods = items_[item];
-        document.lines += DemoLine{item, quantity, served,
-                                   priceOn(document.wholesale ? goods.wholesale : goods.selling)};
+        document.lines +=
+            DemoLine{item, quantity, served, priceOn(document.wholesale ? goods.wholesale : goods.selling)};
         stock_[item] -= served;
         taken += item;
     }
@@ -131,7 +139,8 @@ QList<DemoDocument> DemoTrade::documents() {
     for (qint64 number = 0; number <= days; ++number) {
         day_ = firstDay_.addDays(number);
         if (day_.dayOfWeek() == Qt::Sunday && day_ != lastDay_) continue;
-        while (purchases - opening < (purchaseCount - opening) * number / days) purchaseShortItems(), ++purchases;
+        while (purchases - opening < (purchaseCount - opening) * number / days)
+            purchaseShortItems(), ++purchases;
         while (sales < saleCount * number / days) sell(), ++sales;
     }
     return documents_;
