@@ -4,8 +4,12 @@
 
 #include <QFile>
 
+// The tables lie in a static library, whose resources must be asked for.
+static void needTables() { Q_INIT_RESOURCE(firm); }
+
 namespace {
 QList<QStringList> table(const QString& path) {
+    needTables();
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) qFatal("the demo firm's table %s is missing", qPrintable(path));
     QList<QStringList> rows;
@@ -77,7 +81,7 @@ Currency DemoTrade::priceOn(Currency base) const {
 void DemoTrade::purchase(const QString& supplier, const QList<int>& items) {
     DemoDocument document{false, day_, supplier, false, {}};
     for (const int item : items) {
-        const int quantity = std::max(2, items_[item].reorderLevel * (2 + below(3)) / 2);
+        const int quantity = std::max(2, items_[item].reorderLevel * (2 + below(3)) / 4);
         const int delivered = below(25) == 0 ? quantity / 2 : quantity;
         document.lines += DemoLine{item, quantity, delivered, priceOn(items_[item].cost)};
         stock_[item] += delivered;
@@ -89,10 +93,12 @@ void DemoTrade::stockUp() {
     for (const QString& supplier : suppliers_) purchase(supplier, itemsOf(supplier));
 }
 
-// How far an item is under its order level, in percent of it; what sells faster than it comes counts more.
+// How far an item is under its order level, in percent of it; negative above it.
 int DemoTrade::shortness(int item) const {
-    return 100 - 100 * stock_[item] / std::max(1, items_[item].reorderLevel * 2);
+    return 100 - 100 * stock_[item] / std::max(1, items_[item].reorderLevel);
 }
+
+bool DemoTrade::runsShort(int item) const { return stock_[item] < items_[item].reorderLevel; }
 
 void DemoTrade::purchaseShortItems() {
     QList<int> order(items_.size());
@@ -102,7 +108,7 @@ void DemoTrade::purchaseShortItems() {
     const QString supplier = items_[order.first()].supplier;
     QList<int> wanted;
     for (const int item : order)
-        if (items_[item].supplier == supplier && wanted.size() < 2 + below(5)) wanted += item;
+        if (items_[item].supplier == supplier && (wanted.isEmpty() || runsShort(item))) wanted += item;
     purchase(supplier, wanted);
 }
 

@@ -58,6 +58,7 @@ class DemoTrade {
     int quantityToSell(int item);
     Currency priceOn(Currency base) const;
     int shortness(int item) const;
+    bool runsShort(int item) const;
     QList<int> itemsOf(const QString& supplier) const;
 
     QList<DemoContact> contacts_;
