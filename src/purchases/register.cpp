@@ -1,9 +1,11 @@
 #include "purchases/register.h"
 
 #include "platform/ui/screen_registry.h"
+#include "purchases/frmPurchaseEntry.h"
 #include "purchases/frmPurchaseGrid.h"
 
 void registerPurchaseScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmPurchaseGrid", [] { return new frmPurchaseGrid; });
+    screens.add("frmPurchaseEntry", [] { return new frmPurchaseEntry; });
 }

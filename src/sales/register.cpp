@@ -1,9 +1,11 @@
 #include "sales/register.h"
 
 #include "platform/ui/screen_registry.h"
+#include "sales/frmSalesEntry.h"
 #include "sales/frmSalesGrid.h"
 
 void registerSalesScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmSalesGrid", [] { return new frmSalesGrid; });
+    screens.add("frmSalesEntry", [] { return new frmSalesEntry; });
 }

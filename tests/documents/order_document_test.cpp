@@ -1,0 +1,304 @@
+#include "books/posting_queue.h"
+#include "documents/order_books.h"
+#include "platform/store/transaction.h"
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+// Both sides keep the same rules; the sides differ in names and words.
+struct Side {
+    const char* name;
+    const OrderBook& book;
+    const char* noCode;
+    const char* duplicate;
+    const char* unknown;
+};
+const Side sides[]{
+    {"Sales", salesOrders, "Please Enter Reference No.!", "Duplicate Reference No., Please Assign Another!",
+     "Customer Does Not Exist, Please Add This To Customer Master File First..."},
+    {"Purchases", purchaseOrders, "Please enter Purchase No.!",
+     "Duplicate Purchase No., Please Assign Another!",
+     "Supplier does not exist, please add this to Supplier Master File..."}};
+
+class Order : public OrderBooks, public ::testing::WithParamInterface<Side> {
+  protected:
+    const OrderBook& book() const { return GetParam().book; }
+    Outcome save(const OrderDocument& document) { return saveOrder(store, book(), document); }
+
+    std::vector<std::string> master(const QStringList& columns) {
+        return rows(QString("SELECT * FROM %1 ORDER BY %2").arg(book().master.table, book().master.key),
+                    columns);
+    }
+    std::vector<std::string> details() {
+        return rows(QString("SELECT * FROM %1").arg(book().detailTable),
+                    {"Reference", "ItemID", "Ordered", book().quantityColumn, "Unit", "UnitPrice", "Discount",
+                     "Total"});
+    }
+    Currency balanceOf(const QString& key) {
+        return store
+            .execute(
+                {QString("SELECT * FROM %1 WHERE %2 = ?").arg(book().master.table, book().master.key), {key}})
+            .currency("Balance");
+    }
+    void pay(const QString& key, const char* amount) {
+        if (book().sells)
+            store.run(
+                {"INSERT INTO tblReceiptDetails (ZevRef, Reference, Amount, DiscountAmount)"
+                 " VALUES (1, ?, ?, 0)",
+                 {key, bound(money(amount))}});
+        else
+            store.run(
+                {"INSERT INTO tblDisbursementDetails (PuchaseID, PayAmount, DirectPayment)"
+                 " VALUES (?, ?, False)",
+                 {key, bound(money(amount))}});
+    }
+    // Every row of every table that a save may touch.
+    std::vector<std::string> everything() {
+        std::vector<std::string> all;
+        const std::pair<const char*, QStringList> tables[]{
+            {book().master.table,
+             {book().master.key, book().dateColumn, "ContactNo", book().amountColumn, "Remarks", "Printed",
+              "RecordLock", "Balance", "UpdatedBy", "DateUpdate"}},
+            {book().detailTable, {"Reference", "ItemID", book().quantityColumn, "UnitPrice", "Total"}},
+            {"tblForPosting", {"BookID", "Reference", "Contact", "TransDate"}},
+            {"tblForPostingItem", {"ItemID"}},
+            {"tblStockValuation", {"ZevRef", "BookID", "Reference"}},
+            {"tblItemMaster", {"ItemCode", "CostPrice", "SellingPrice", "WholesalePrice", "Balance"}},
+            {book().serial.counterTable, {"Server"}}};
+        for (const auto& [table, columns] : tables)
+            for (const std::string& row : rows(QString("SELECT * FROM %1").arg(table), columns))
+                all.push_back(std::string(table) + ": " + row);
+        return all;
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Sides, Order, ::testing::ValuesIn(sides),
+                         [](const auto& side) { return std::string(side.param.name); });
+
+TEST_P(Order, IsCheckedInTheToldOrder) {
+    saved(book(), {line("I1", "1", "1", "10")});
+    OrderDocument document;
+    document.code = " ";
+    document.date = "02/30/2026";
+    document.contactName = " ";
+    document.lines = {line("I1", "1", "1", "-10")};
+    const struct {
+        std::function<void()> mend;
+        std::string text;
+    } steps[]{{[] {}, std::string("No Code!: ") + GetParam().noCode},
+              {[&] { document.code = "03-1001-2026 "; }, std::string("Error!: ") + GetParam().duplicate},
+              {[&] { document.code = "03-1002-2026"; }, "No Customer!: Please Select Customer!"},
+              {[&] { document.contactName = "Nobody"; },
+               "Net Amount!: Amount is Negative! System Cannot Allow Negative Total!"},
+              {[&] { document.lines.clear(); },
+               "Net Amount!: There is No Order Made for this Record! Please Add Item to Order!"},
+              {[&] { document.lines = {line("I1", "1", "1", "10")}; }, "Error!: Invalid Date Value!"},
+              {[&] { document.date = "2/28/26"; }, std::string("Does not exist!: ") + GetParam().unknown},
+              {[&] { document.contactName = "nena "; }, "done"}};
+    for (const auto& step : steps) {
+        step.mend();
+        EXPECT_EQ(said(save(document)), step.text);
+    }
+}
+
+TEST_P(Order, IsStoredColumnByColumn) {
+    OrderDocument document =
+        order(book(), {line("I2", "3", "2", "6.12345", "12.5"), line("I1", "1000", "0", "15")}, "3/2/26");
+    document.remarks = "  by truck's load ";
+    ASSERT_EQ(said(save(document)), "done");
+    EXPECT_THAT(master({book().master.key, "ContactNo", book().amountColumn, "Remarks", "Printed",
+                        "RecordLock", "Balance", "UpdatedBy"}),
+                ElementsAre("03-1001-2026 | C1 | 107200 | by truck's load | 0 | 0 | 107200 | ADMIN"));
+    const Recordset row = store.execute(QString("SELECT * FROM %1").arg(book().master.table));
+    EXPECT_EQ(row.date(book().dateColumn), QDate(2026, 3, 2));
+    EXPECT_EQ(row.dateTime("DateUpdate"),
+              QDateTime(QDate(2026, 3, 3), book().sells ? QTime(9, 30) : QTime(0, 0)));
+    EXPECT_THAT(details(), ElementsAre("03-1001-2026 | I2 | 30000 | 20000 | PC | 61234 | 125000 | 107200",
+                                       "03-1001-2026 | I1 | 10000000 | 0 | PC | 150000 | 0 | 0"));
+    EXPECT_THAT(rows("SELECT * FROM tblForPosting", {"BookID", "Reference", "Contact"}),
+                ElementsAre(std::string(book().bookId) + " | 03-1001-2026 | C1"));
+    EXPECT_EQ(store.execute("SELECT * FROM tblForPosting").date("TransDate"), QDate(2026, 3, 2));
+    EXPECT_THAT(rows("SELECT * FROM tblForPostingItem ORDER BY ItemID", {"ItemID"}), ElementsAre("I1", "I2"));
+    EXPECT_EQ(itemFigure("I2", "Balance"), money(book().sells ? "-2" : "2"));
+    EXPECT_EQ(itemFigure("I2", book().sells ? "SellingPrice" : "CostPrice"), money("6.1234"))
+        << "the unit price, not the net";
+}
+
+TEST_P(Order, OfNothingServedIsWorthNothing) {
+    const QString key = saved(book(), {line("I1", "10", "0", "15")});
+    EXPECT_EQ(balanceOf(key), Currency());
+    EXPECT_EQ(loadOrder(store, book(), key).total, "0.00");
+}
+
+TEST_P(Order, IsReadBackInTheFormatsOfTheScreen) {
+    const QString key = saved(book(), {line("I1", "1200", "1200.5", "15", "10")});
+    const LoadedOrder loaded = loadOrder(store, book(), key + " ");
+    EXPECT_EQ(loaded.document.code, key);
+    EXPECT_EQ(loaded.document.date, "03/03/2026");
+    EXPECT_EQ(loaded.document.contactName, "Nena");
+    EXPECT_EQ(loaded.total, "16,206.75");
+    EXPECT_EQ(loaded.balance, "16,206.75");
+    EXPECT_EQ(loaded.lastUpdate, "03/03/2026");
+    EXPECT_EQ(loaded.updatedBy, "ADMIN");
+    EXPECT_EQ(loaded.contact.term, "30 Days");
+    EXPECT_EQ(loaded.contact.balance, "16,206.75");
+    EXPECT_EQ(loaded.contact.creditLimit, "5,000.00");
+    EXPECT_EQ(
+        loadOrderLines(store, book(), key).value(0).texts(),
+        QStringList({"I1", "Rice", "1200", "1200.5", "PC", "15.0000", "10.0000", "13.5000", "16,206.75"}));
+    EXPECT_THROW(loadOrder(store, book(), "none"), StoreError);
+}
+
+TEST_P(Order, ReplacesItsLinesWhenItIsSavedAgain) {
+    const QString key = saved(book(), {line("I1", "2", "2", "10"), line("I2", "1", "1", "5")});
+    AddStockValuation(store, book().bookId, key, "C1", "I1", QDate(2026, 3, 3), money("2"), money("10"));
+    pay(key, "24");
+    OrderDocument again = reopened(book(), key);
+    again.lines = {line("I1", "2", "1", "10")};
+    ASSERT_EQ(said(save(again)), "done");
+    EXPECT_EQ(details().size(), 1U);
+    EXPECT_EQ(balanceOf(key), money("-14")) << "the new total less the payments, negative without a word";
+    EXPECT_EQ(CountRecords(store, "tblForPosting"), 1);
+    EXPECT_EQ(CountRecords(store, "tblForPostingItem"), 2);
+    EXPECT_EQ(CountRecords(store, "tblStockValuation"), 0) << "until the next end of day";
+    EXPECT_EQ(itemFigure("I2", "Balance").abs(), money("1")) << "a dropped item keeps its quantity";
+}
+
+TEST_P(Order, ClearsLockAndPrintedMarkOnEachSave) {
+    const QString key = saved(book(), {line("I1", "1", "1", "10")});
+    store.run(QString("UPDATE %1 SET RecordLock = True, Printed = True").arg(book().master.table));
+    ASSERT_EQ(said(save(reopened(book(), key))), "done");
+    EXPECT_THAT(master({"RecordLock", "Printed"}), ElementsAre("0 | 0"));
+}
+
+TEST_P(Order, ThatHasGoneIsNotSavedAgain) {
+    const QString key = saved(book(), {line("I1", "1", "1", "10")});
+    const OrderDocument document = reopened(book(), key);
+    store.run(QString("DELETE FROM %1").arg(book().master.table));
+    const auto before = everything();
+    EXPECT_FALSE(isDone(save(document)));
+    EXPECT_EQ(everything(), before);
+}
+
+TEST_P(Order, PeeksAtItsNumberAndStoresWhatWasTyped) {
+    const auto saveAs = [this](const char* serial) {
+        OrderDocument document = order(book(), {line("I1", "1", "0", "10")});
+        document.serial = serial;
+        document.code = QString("03-%1-2026").arg(serial);
+        EXPECT_EQ(said(save(document)), "done");
+        return newOrder(store, book()).code;
+    };
+    EXPECT_EQ(newOrder(store, book()).code, "03-1001-2026");
+    EXPECT_EQ(newOrder(store, book()).code, "03-1001-2026") << "looking takes nothing";
+    EXPECT_EQ(saveAs("1001"), "03-1002-2026");
+    EXPECT_EQ(saveAs("5000"), "03-5001-2026");
+    EXPECT_EQ(saveAs("1500"), "03-1501-2026");
+    Clock::freeze(QDateTime(QDate(2027, 1, 2), QTime(8, 0)));
+    EXPECT_EQ(newOrder(store, book()).code, "01-1501-2027") << "the serial does not start again";
+}
+
+TEST_P(Order, OfTwoClerksWithOneNumberIsRefusedToTheSecond) {
+    const OrderDocument first = order(book(), {line("I1", "1", "1", "10")});
+    OrderDocument second = first;
+    second.lines = {line("I2", "9", "9", "9")};
+    second.serial = "7777";
+    Connection other;
+    other.open(storePath(), storePassword);
+    ASSERT_EQ(said(saveOrder(other, book(), first)), "done");
+    const auto before = everything();
+    EXPECT_EQ(said(save(second)), std::string("Error!: ") + GetParam().duplicate);
+    EXPECT_EQ(everything(), before) << "and its typed serial is not stored";
+}
+
+TEST_P(Order, ThatPassedTheTestTogetherMeetsTheKey) {
+    const OrderDocument document = order(book(), {line("I1", "1", "1", "10")});
+    const auto before = everything();
+    bool taken = false;
+    Connection::setStatementHook([&](const QString& statement) {
+        if (taken || !statement.startsWith("DELETE")) return;
+        taken = true;
+        store.run({QString("INSERT INTO %1 (%2) VALUES (?)").arg(book().master.table, book().master.key),
+                   {document.code}});
+    });
+    EXPECT_EQ(said(save(document)),
+              "Duplicate!: Reference No. already exists, please edit and assign another number.");
+    Connection::setStatementHook({});
+    EXPECT_EQ(everything(), before);
+}
+
+// Refuses the n-th writing statement of a save, from the first to the last. A store that is held too long is
+// passed over by no step.
+TEST_P(Order, IsSavedWholeOrNotAtAll) {
+    const QString key = saved(book(), {line("I1", "2", "2", "10")});
+    OrderDocument edited = reopened(book(), key);
+    edited.lines = {line("I2", "7", "3", "5.5"), line("I1", "1", "1", "12")};
+    const OrderDocument fresh = order(book(), edited.lines);
+    for (const OrderDocument& document : {edited, fresh}) {
+        const auto before = everything();
+        int refused = 0;
+        for (;; ++refused) {
+            int left = refused;
+            Connection::setStatementHook([&left](const QString&) {
+                if (left-- == 0) throw StoreError(StoreError::busy, "Held.");
+            });
+            const Outcome outcome = save(document);
+            Connection::setStatementHook({});
+            if (isDone(outcome)) break;
+            EXPECT_EQ(said(outcome), "Error...: Held.");
+            EXPECT_EQ(everything(), before) << "refused at statement " << refused;
+            ASSERT_LT(refused, 200);
+        }
+        EXPECT_GT(refused, 15) << "statements of a save of two lines";
+        EXPECT_NE(everything(), before) << "saving again is a fresh try";
+    }
+}
+
+TEST_P(Order, RefusesFiguresThatAreNone) {
+    OrderDocument document = order(book(), {line("I1", "1", "1", "10")});
+    document.lines[0].ordered = "many";
+    const auto before = everything();
+    EXPECT_EQ(said(save(document)), "Error...: Type mismatch");
+    document.lines = {line("I1", "1", "1", "10"), line("I2", "1", "1", "10")};
+    document.lines[0].total = document.lines[1].total = "900,000,000,000,000.00";
+    EXPECT_EQ(said(save(document)), "Error...: Overflow");
+    EXPECT_EQ(everything(), before);
+}
+
+// What only sales have.
+class Sale : public OrderBooks {};
+
+TEST_F(Sale, WritesWholesalePricesOnlyWhileItIsNew) {
+    OrderDocument sale = order(salesOrders, {line("I1", "1", "1", "12")});
+    sale.wholesale = true;
+    ASSERT_EQ(said(saveOrder(store, salesOrders, sale)), "done");
+    EXPECT_EQ(itemFigure("I1", "WholesalePrice"), money("12"));
+    EXPECT_EQ(itemFigure("I1", "SellingPrice"), money("15"));
+    ASSERT_EQ(said(saveOrder(store, salesOrders, reopened(salesOrders, sale.code))), "done");
+    EXPECT_EQ(itemFigure("I1", "SellingPrice"), money("12"));
+}
+
+TEST_F(Sale, AndPurchaseMayShareANumber) {
+    saved(salesOrders, {line("I1", "1", "0", "12")});
+    saved(purchaseOrders, {line("I1", "1", "1", "12")});
+    EXPECT_THAT(rows("SELECT * FROM tblForPosting ORDER BY BookID", {"BookID", "Reference"}),
+                ElementsAre("P | 03-1001-2026", "S | 03-1001-2026"));
+}
+
+TEST_F(Sale, OfTenThousandLinesIsReadBackInOrder) {
+    QList<OrderLine> lines;
+    Transaction unit(store);
+    for (int i = 0; i < 10000; ++i) {
+        const QString code = QString::number(1000000001 + i);
+        addItem(store, {code, "Nail " + code, money("1"), money("2"), money("2")});
+        lines += makeOrderLine(code, "Nail", "PC", Currency::fromInteger(i), Currency::fromInteger(i),
+                               money("1"), Currency());
+    }
+    unit.commit();
+    const QString key = saved(salesOrders, lines);
+    const QList<OrderLine> back = loadOrderLines(store, salesOrders, key);
+    ASSERT_EQ(back.size(), lines.size());
+    EXPECT_EQ(back[9999].served, "9999");
+    EXPECT_EQ(back[17].served, "17");
+    EXPECT_EQ(loadOrder(store, salesOrders, key).total, "49,995,000.00");
+}
+}  // namespace
