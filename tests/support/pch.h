@@ -12,3 +12,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+// So that a failure shows the text and not its bytes.
+inline void PrintTo(const QString& text, std::ostream* stream) {
+    *stream << '"' << text.toStdString() << '"';
+}

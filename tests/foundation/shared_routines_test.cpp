@@ -1,0 +1,161 @@
+#include "foundation/shared_routines.h"
+#include "platform/box.h"
+#include "platform/clock.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/combo_box.h"
+#include "support/test_store.h"
+
+class SharedRoutines : public SessionTest {
+  protected:
+    void SetUp() override {
+        SessionTest::SetUp();
+        setBoxAnswerer([this](const Box& box) {
+            boxes_ += box;
+            return BoxAnswer::Ok;
+        });
+    }
+    void TearDown() override {
+        setBoxAnswerer({});
+        SessionTest::TearDown();
+    }
+    Boxes boxes_;
+};
+
+TEST_F(SharedRoutines, ACombosRowsAreTrimmedAndNullIsEmpty) {
+    store().run("INSERT INTO tblTemp (Server) VALUES ('  one '), (NULL), ('two')");
+    ComboBox combo("cboTest", ComboBox::Open);
+    combo.addItem("old");
+    LoadComboBox("Server", "tblTemp", &combo, true);
+    ASSERT_EQ(combo.count(), 3);
+    EXPECT_EQ(combo.itemText(0) + '|' + combo.itemText(1) + '|' + combo.itemText(2), "one||two");
+    LoadComboBoxUDF("Server", "tblTemp", &combo, {"Server = ?", {"two"}}, true);
+    EXPECT_EQ(combo.count(), 1);
+    EXPECT_TRUE(boxes_.isEmpty());
+}
+
+TEST_F(SharedRoutines, AnEmptyTableIsToldOnlyWhenAsked) {
+    ComboBox combo("cboTest", ComboBox::Open);
+    combo.addItem("old");
+    LoadComboBox("Server", "tblTemp", &combo, false);
+    EXPECT_EQ(combo.count(), 0);
+    EXPECT_TRUE(boxes_.isEmpty());
+    LoadComboBox("Server", "tblTemp", &combo, true);
+    EXPECT_EQ(boxes_, Boxes{information("ComboBox Message", "cboTest is Empty")});
+}
+
+TEST_F(SharedRoutines, AComboThatCannotBeFilledTellsItsStatement) {
+    ComboBox combo("cboTest", ComboBox::Open);
+    combo.addItem("old");
+    LoadComboBox("Colour", "tblTemp", &combo, false);
+    LoadComboBoxUDF("Colour", "tblTemp", &combo, {"Server = ?", {"x"}}, false);
+    ASSERT_EQ(boxes_.size(), 2);
+    EXPECT_EQ(boxes_[0].title, "Load Combo Box - Error");
+    EXPECT_EQ(boxes_[0].text,
+              "Err.Desctiption = no such column: Colour\nCombo SQL = SELECT Colour FROM tblTemp");
+    EXPECT_EQ(boxes_[1].title, "LoadComboBox - UDF Error");
+    EXPECT_EQ(combo.count(), 1) << "what it held stays";
+}
+
+TEST_F(SharedRoutines, DeletesGuardThemselvesAgainstABlank) {
+    store().run("INSERT INTO tblTemp (Server) VALUES ('a'), ('b'), ('')");
+    store().run("INSERT INTO tblReceiptDetails (ZevRef, PayCode) VALUES (1, 7), (2, 8)");
+    DeleteWhereValue(store(), "  ", "tblTemp", "Server");
+    DeleteWhereText(store(), " ", "tblTemp", "a");
+    EXPECT_EQ(CountRecords(store(), "tblTemp"), 3);
+    DeleteWhereValue(store(), " A ", "tblTemp", "Server");
+    DeleteWhereText(store(), "Server", "tblTemp", "b ");
+    EXPECT_EQ(CountRecords(store(), "tblTemp"), 1);
+    DeleteWhereValue(store(), "7", "tblReceiptDetails", "PayCode", "N");
+    EXPECT_EQ(CountRecords(store(), "tblReceiptDetails"), 1);
+    EXPECT_THROW(DeleteWhereValue(store(), "8 OR 1=1", "tblReceiptDetails", "PayCode", "N"), StoreError);
+    EXPECT_EQ(CountRecords(store(), "tblReceiptDetails"), 1);
+}
+
+TEST_F(SharedRoutines, LookupsIgnoreCaseAndTrailingBlanks) {
+    addContact(store(), {"1000000001", "O'Brien & Co"});
+    const auto lookup = [&](const QString& value, LookupMode mode) {
+        return LookupField(store(), "ContactID", "tblContactMaster", "ContactName", value, mode);
+    };
+    EXPECT_EQ(lookup("1000000001  ", LookupMode::DisplayText), "O'Brien & Co");
+    EXPECT_EQ(lookup("o'brien & CO ", LookupMode::PrimaryKey), "1000000001");
+    EXPECT_EQ(lookup("nobody", LookupMode::PrimaryKey), "");
+    EXPECT_TRUE(RecordFound(store(), "tblContactMaster", "ContactName", "O'BRIEN & co  "));
+    EXPECT_FALSE(RecordFound(store(), "tblContactMaster", "ContactName", " O'Brien & Co"));
+}
+
+TEST_F(SharedRoutines, FlagsAreSetAndAsked) {
+    addContact(store(), {"1", "One", false});
+    SetFlagField(store(), "tblContactMaster", "ContactID", "1 ", "IsCustomer", true);
+    EXPECT_TRUE(FlagFieldSet(store(), "tblContactMaster", "ContactID", "1", "IsCustomer"));
+    SetFlagField(store(), "tblContactMaster", "ContactID", "none", "IsCustomer", false);
+    EXPECT_FALSE(FlagFieldSet(store(), "tblContactMaster", "ContactID", "none", "IsCustomer"));
+    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblContactMaster WHERE IsCustomer = True"), "1");
+}
+
+TEST_F(SharedRoutines, PercentsGoThroughDoubleOnce) {
+    const struct {
+        double percent, value, net, signedNet;
+    } table[] = {{0, 100, 100, 100},
+                 {10, 0, 0, 0},
+                 {10, 100, 90, 90},
+                 {-10, 100, 90, 110},
+                 {33.3333, 99.99, 66.66, 66.66},
+                 {5, 0.0010, 0.0010, 0.0010},  // 0.00005 rounds to the even ten-thousandth
+                 {100, 12.34, 0, 0}};
+    for (const auto& row : table) {
+        EXPECT_EQ(NetOfPercent(amount(row.percent), amount(row.value)).tenThousandths(),
+                  amount(row.net).tenThousandths())
+            << row.percent << " of " << row.value;
+        EXPECT_EQ(NetPrice(amount(row.value), amount(row.percent)).tenThousandths(),
+                  amount(row.signedNet).tenThousandths())
+            << row.percent << " of " << row.value;
+    }
+    EXPECT_EQ(MultiplyAmounts(amount(0.0005), amount(0.1)), amount(0));
+}
+
+TEST_F(SharedRoutines, RightsAreThoseOfTheCurrentUser) {
+    session().CurrentUserCode = "admin ";
+    EXPECT_TRUE(UserHasAccess(store(), "EndofDay"));
+    EXPECT_TRUE(UserHasMenu(store(), 302));
+    EXPECT_FALSE(UserHasMenu(store(), 999));
+    session().CurrentUserCode = masterUserCode;
+    EXPECT_FALSE(UserHasAccess(store(), "EndofDay"));
+    session().CurrentUserCode = "nobody";
+    EXPECT_FALSE(UserHasAccess(store(), "PrintDRAccess"));
+}
+
+TEST_F(SharedRoutines, TheSpanOfTheBooksIsTodayWithoutDocuments) {
+    EXPECT_EQ(GetFirstSalesDate(store()), Clock::today());
+    EXPECT_EQ(GetLastPurchaseDate(store()), Clock::today());
+    addItem(store(), {"a", "A"});
+    for (const int day : {5, 2, 9}) {
+        addSale(store(), {QString("s%1").arg(day), QDate(2024, 3, day), "1", {{"a", amount(1), amount(2)}}});
+        addPurchase(store(), {QString("p%1").arg(day), QDate(2024, 4, day), "1", {}});
+    }
+    EXPECT_EQ(GetFirstSalesDate(store()), QDate(2024, 3, 2));
+    EXPECT_EQ(GetLastSalesDate(store()), QDate(2024, 3, 9));
+    EXPECT_EQ(GetFirstPurchaseDate(store()), QDate(2024, 4, 2));
+    EXPECT_EQ(GetLastPurchaseDate(store()), QDate(2024, 4, 9));
+}
+
+TEST_F(SharedRoutines, TheCompanysTextsAreEmptyWithoutItsRow) {
+    store().run("UPDATE tblSystemProfile SET CompanyAddress = 'Here', Approved = 'Me'");
+    EXPECT_EQ(GetCompanyName(store()) + GetCompanyAddress(store()) + GetApprovedBy(store()), "ZevrinHereMe");
+    EXPECT_EQ(GetPreparedBy(store()), "");
+    store().run("DELETE FROM tblSystemProfile");
+    EXPECT_EQ(GetCompanyName(store()), "");
+}
+
+TEST(SaveErrors, ARefusedKeyHasItsOwnWords) {
+    EXPECT_EQ(saveErrorBox({StoreError::refused, "UNIQUE"}),
+              exclamation("Duplicate!", "Code already exist, please assign another..."));
+    EXPECT_EQ(saveErrorBox({StoreError::busy, "busy"}), exclamation("Error...", "busy"));
+}
+
+TEST(FilePaths, NeedABackSlashAndAColon) {
+    const std::pair<const char*, bool> table[] = {{"report.rtf", false},
+                                                  {"C:\\out\\report.rtf", true},
+                                                  {"\\\\server\\out", false},
+                                                  {"C:report", false}};
+    for (const auto& [path, valid] : table) EXPECT_EQ(ValidFilePath(path), valid) << path;
+}
