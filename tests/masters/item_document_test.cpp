@@ -1,0 +1,190 @@
+#include "masters/item_document.h"
+#include "masters_fixture.h"
+
+namespace {
+class ItemDocument : public MastersTest {
+  protected:
+    Outcome save(const ItemEntry& entry) { return SaveItem(store(), entry, true, {}); }
+    Outcome edit(const ItemEntry& entry) { return SaveItem(store(), entry, false, entry.ItemCode); }
+};
+
+TEST_F(ItemDocument, ChecksRunInTheSystemsOrder) {
+    addItem("1000000001", "STEEL NAIL 2IN");
+    // Everything is wrong at first; each line sees the first fault left, then mends it.
+    ItemEntry entry{.Description = "Steel Nail 2in",
+                    .CostPrice = "12",
+                    .SellingPrice = "x",
+                    .WholesalePrice = "20",
+                    .DateAquired = "02/31/2026",
+                    .OrderLevel = "y",
+                    .InventoryBalance = "z"};
+    struct Step {
+        const char* text;
+        const char* focus;
+        std::function<void()> mend;
+    };
+    const Step steps[] = {
+        {"Please Enter Item Code!", "txtItemCode", [&] { entry.ItemCode = "1000000001"; }},
+        {"Please Enter Supplier Code!", "txtSupplierCode", [&] { entry.SupplierName = "NOBODY"; }},
+        {"Please Enter Numeric Value for Prices!", "txtSellingPrice", [&] { entry.SellingPrice = "10"; }},
+        {"Please Enter Numeric Value for Inventory Balance!", "txtInventoryBalance",
+         [&] { entry.InventoryBalance = "0"; }},
+        {"Please Enter Numeric Value for Re-Order Level!", "txtReorder", [&] { entry.OrderLevel = "5"; }},
+        {"Please Enter Unit!", "txtUnit", [&] { entry.Unit = "GROSS"; }},
+        {"Supplier Does Not Exist!", "txtSupplierCode", [&] { entry.SupplierName = "Mabuhay Trading "; }},
+        {"Cost Price is Greater Than Selling Price!", "txtCostPrice", [&] { entry.SellingPrice = "15"; }},
+        {"Wholesale Price is Greater Than Selling Price!", "txtWholesale",
+         [&] { entry.WholesalePrice = "11"; }},
+        {"Cost Price is Greater Than Wholesale Price!", "txtCostPrice", [&] { entry.WholesalePrice = "13"; }},
+        {"Invalid Aquisition Date!", "txtDateAquired", [&] { entry.DateAquired = "2/28/26"; }},
+        {"Unit Code Does Not Exist!", "txtUnit", [&] { entry.Unit = "PC"; }},
+        {"Duplicate Item Code! Please Assign Another Number!", "txtItemCode",
+         [&] { entry.ItemCode = "1000000002"; }},
+        {"Item Description Already Exist! System Cannot Allow Same Item Description!", "txtDescription",
+         [&] { entry.Description = "STEEL NAIL 3IN"; }},
+    };
+    for (const Step& step : steps) {
+        EXPECT_EQ(faultOf(save(entry)), (FaultText{step.text, step.focus}));
+        step.mend();
+    }
+    EXPECT_TRUE(isDone(save(entry)));
+}
+
+TEST_F(ItemDocument, PricesStandInOrder) {
+    struct Row {
+        const char *cost, *wholesale, *selling, *fault;
+    };
+    const Row rows[] = {
+        {"10", "10", "10", ""},
+        {"10.00", "10.0001", "1,000.50", ""},
+        {"0", "0", "0", ""},
+        {"10.0001", "10", "10", "Cost Price is Greater Than Selling Price!"},
+        {"10", "0", "12", "Cost Price is Greater Than Wholesale Price!"},
+        {"10", "12.0001", "12", "Wholesale Price is Greater Than Selling Price!"},
+        {"10", "abc", "12", "\"abc\" is not a number."},
+        {"10", "", "12", "\"\" is not a number."},
+        // The cost is held against the selling price before the wholesale price is read.
+        {"13", "abc", "12", "Cost Price is Greater Than Selling Price!"},
+        {"1e5", "1", "12", "Please Enter Numeric Value for Prices!"},
+    };
+    for (const Row& row : rows) {
+        ItemEntry entry = goodItem();
+        entry.ItemCode = QString("P%1").arg(&row - rows);
+        entry.Description = entry.ItemCode;
+        entry.CostPrice = row.cost;
+        entry.WholesalePrice = row.wholesale;
+        entry.SellingPrice = row.selling;
+        EXPECT_EQ(faultOf(save(entry)).text, row.fault) << row.cost << ' ' << row.wholesale;
+    }
+}
+
+TEST_F(ItemDocument, StoresWhatWasTypedAsTheSystemShapesIt) {
+    ItemEntry entry = goodItem();
+    entry.Description = "  hollow block 4\"  ";
+    entry.Locator = " a-1";
+    entry.Remarks = "it's pasted ";
+    entry.CostPrice = "1,234.56785";
+    entry.SellingPrice = entry.WholesalePrice = "1,300";
+    entry.InventoryBalance = "99";
+    ASSERT_TRUE(isDone(save(entry)));
+
+    const Recordset row = one("SELECT * FROM tblItemMaster");
+    EXPECT_EQ(row.text("Description"), "HOLLOW BLOCK 4\"");
+    EXPECT_EQ(row.text("Locator"), "A-1");
+    EXPECT_EQ(row.text("Remarks"), "IT'S PASTED");
+    EXPECT_EQ(row.text("SupplierCode"), supplierId());
+    EXPECT_EQ(row.currency("CostPrice").tenThousandths(), 12345678);
+    EXPECT_TRUE(row.currency("Balance").isZero()) << "a typed balance never survives";
+    EXPECT_EQ(row.text("UpdatedBy"), "ADMIN");
+    EXPECT_EQ(row.date("DateUpdate"), QDate(2026, 3, 2));
+    EXPECT_EQ(row.date("DateAquired"), QDate(2026, 1, 15));
+}
+
+TEST_F(ItemDocument, TheSavedBalanceIsThatOfTheBooks) {
+    addItem("1000000001", "STEEL NAIL");
+    store().run("INSERT INTO tblPurchaseMaster (PurchaseNo, PurchaseDate) VALUES ('P1', '2026-02-01')");
+    store().run(
+        "INSERT INTO tblPurchaseDetails (Reference, ItemID, Delivered) "
+        "VALUES ('P1', '1000000001', 125000)");
+    ItemEntry entry = goodItem();
+    entry.ItemCode = "1000000001";
+    entry.InventoryBalance = "99";
+    ASSERT_TRUE(isDone(edit(entry)));
+    EXPECT_EQ(one("SELECT Balance FROM tblItemMaster").currency("Balance").toPlainText(), "12.5");
+}
+
+TEST_F(ItemDocument, AnEditRunsNoDuplicateTest) {
+    addItem("1000000001", "STEEL NAIL");
+    addItem("1000000002", "WIRE");
+    ItemEntry entry = goodItem();
+    entry.ItemCode = "1000000002";
+    entry.Description = "STEEL NAIL";
+    EXPECT_TRUE(isDone(edit(entry)));
+    EXPECT_EQ(count("tblItemMaster WHERE Description = 'STEEL NAIL'"), 2);
+    EXPECT_EQ(count("tblServer WHERE Server = '1000000002'"), 1) << "an edit leaves the counter";
+}
+
+TEST_F(ItemDocument, AnEditOfNothingWritesNothing) {
+    EXPECT_TRUE(isDone(SaveItem(store(), goodItem(), false, " ")));
+    EXPECT_EQ(count("tblItemMaster"), 0);
+}
+
+TEST_F(ItemDocument, AnEditOfAnItemThatHasGoneIsAnError) {
+    EXPECT_EQ(std::get<Fault>(edit(goodItem())).box.title, "Error...");
+    EXPECT_EQ(count("tblItemMaster"), 0);
+}
+
+TEST_F(ItemDocument, CodesFollowTheLastOne) {
+    struct Row {
+        const char* last;
+        const char* next;
+    };
+    const Row rows[] = {
+        {nullptr, "1000000001"}, {"1000000001", "1000000002"},
+        {"0099", "100"},         {"ABC", "ABC"},
+        {"1.5", "2.5"},          {"1,999", "2000"},
+    };
+    for (const Row& row : rows) {
+        store().run("DELETE FROM tblServer");
+        if (row.last) StoreLastItemCode(store(), row.last);
+        EXPECT_EQ(NextItemCode(store()), row.next);
+    }
+}
+
+TEST_F(ItemDocument, AHandTypedCodeIsTheNewBase) {
+    ItemEntry entry = goodItem();
+    entry.ItemCode = "ABC";
+    ASSERT_TRUE(isDone(save(entry)));
+    EXPECT_EQ(NextItemCode(store()), "ABC");
+    entry.Description = "ANOTHER";
+    EXPECT_EQ(faultOf(save(entry)).text, "Duplicate Item Code! Please Assign Another Number!");
+}
+
+TEST_F(ItemDocument, ARefusedStepLeavesNothingBehind) {
+    const int writes = countWrites([&] { ASSERT_TRUE(isDone(save(goodItem()))); });
+    ASSERT_GE(writes, 3);
+    ASSERT_TRUE(isDone(DeleteItem(store(), goodItem().ItemCode)));
+    store().run("DELETE FROM tblServer");
+    for (int step = 0; step < writes; ++step) {
+        SCOPED_TRACE(step);
+        failAtWrite(step, [&] { EXPECT_FALSE(isDone(save(goodItem()))); });
+        EXPECT_EQ(count("tblItemMaster"), 0);
+        EXPECT_EQ(NextItemCode(store()), "1000000001");
+    }
+    EXPECT_TRUE(isDone(save(goodItem()))) << "saving again is a fresh try";
+}
+
+TEST_F(ItemDocument, DeletionIsGuardedByTheDocuments) {
+    addItem("1000000001", "STEEL NAIL");
+    store().run("INSERT INTO tblSalesDetails (Reference, ItemID) VALUES ('S1', '1000000001')");
+    store().run("INSERT INTO tblPurchaseDetails (Reference, ItemID) VALUES ('P1', '1000000001')");
+    const auto deletion = [&] { return faultOf(DeleteItem(store(), "1000000001")).text; };
+    EXPECT_EQ(deletion(), "You Cannot Delete This Item, You have Sales Order for this Item!");
+    store().run("DELETE FROM tblSalesDetails");
+    EXPECT_EQ(deletion(), "You Cannot Delete This Item, You have Purchase Order for this Item!");
+    store().run("DELETE FROM tblPurchaseDetails");
+    EXPECT_EQ(deletion(), "");
+    EXPECT_EQ(count("tblItemMaster"), 0);
+    EXPECT_THROW(DeleteItem(store(), ""), StoreError);
+}
+}  // namespace

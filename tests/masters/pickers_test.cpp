@@ -1,0 +1,93 @@
+#include "masters/frmContactFound.h"
+#include "masters/frmFound.h"
+#include "masters_screen_fixture.h"
+
+namespace {
+class Pickers : public ScreenTest {
+  protected:
+    void SetUp() override {
+        ScreenTest::SetUp();
+        addContact("Ana Reyes", true, false);
+        addContact("Zamora Supply", true, true);
+        addItem("1000000001", "STEEL NAIL");
+        addItem("1000000002", "COPPER WIRE");
+        addItem("A2", "ANVIL");
+    }
+    static QStringList listed(const DataGrid::Source& source, const QString& column) {
+        QStringList values;
+        Recordset rows = store().execute(Sql("SELECT " + source.columns + " FROM " + source.from) +
+                                         source.where + Sql(source.order));
+        for (; !rows.eof(); rows.moveNext()) values << rows.trimmed(column);
+        return values;
+    }
+    QStringList picked_;
+    GridPicker::Pick keep(const QString& column) {
+        return [this, column](const GridPicker::Row& row) { picked_ << row(column); };
+    }
+};
+
+TEST_F(Pickers, ContactsAreFilteredAndSearched) {
+    struct Row {
+        const char *search, *filter, *names;
+    };
+    const Row rows[] = {
+        {"", "", "Ana Reyes,Mabuhay Trading,Zamora Supply"},
+        {"", "S", "Mabuhay Trading,Zamora Supply"},
+        {"", "C", "Ana Reyes,Zamora Supply"},
+        {"am", "", "Zamora Supply"},
+        {"a", "C", "Ana Reyes,Zamora Supply"},
+        {"o'", "C", ""},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(listed(contactFoundSource(row.search, row.filter), "ContactName").join(','), row.names)
+            << row.search << ' ' << row.filter;
+}
+
+TEST_F(Pickers, ItemsAreSearchedByKind) {
+    struct Row {
+        const char *search, *kind, *codes;
+    };
+    const Row rows[] = {
+        {"", "D", "1000000001,1000000002,A2"},
+        {"an", "D", "A2"},
+        {"2", "P", "1000000002,A2"},
+        {"2", "X", "1000000001,1000000002,A2"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(listed(itemFoundSource(row.search, row.kind), "ItemCode").join(','), row.codes);
+}
+
+TEST_F(Pickers, EnterPicksOnceAndUnloads) {
+    ASSERT_TRUE(openItemFound(store(), "", "D", keep("Description")));
+    ChildScreen* picker = popup("frmFound");
+    ASSERT_TRUE(picker);
+    keyTo(picker->findChild<DataGrid*>("dbgSearch"), Qt::Key_Down);
+    keyTo(picker->findChild<DataGrid*>("dbgSearch"), Qt::Key_Return);
+    EXPECT_EQ(picked_, QStringList{"COPPER WIRE"});
+    EXPECT_FALSE(popup("frmFound"));
+}
+
+TEST_F(Pickers, EscapeUnloadsWithoutAPick) {
+    ASSERT_TRUE(openContactFound(store(), "", "C", keep("ContactName")));
+    keyTo(popup("frmContactFound"), Qt::Key_Escape);
+    EXPECT_EQ(picked_, QStringList());
+    EXPECT_FALSE(popup("frmContactFound"));
+}
+
+TEST_F(Pickers, AHeaderListsAgainInItsOrder) {
+    ASSERT_TRUE(openItemFound(store(), "", "D", keep("ItemCode")));
+    auto* grid = popup("frmFound")->findChild<DataGrid*>("dbgSearch");
+    emit grid->headerClicked(1);
+    EXPECT_EQ(grid->currentText("Description"), "ANVIL");
+    keyTo(popup("frmFound"), Qt::Key_Return);
+    EXPECT_EQ(picked_, QStringList{"A2"});
+}
+
+TEST_F(Pickers, AFailingStoreShowsItsBoxAndNoPicker) {
+    store().run("ALTER TABLE tblItemMaster RENAME TO tblGone");
+    EXPECT_FALSE(openItemFound(store(), "", "D", keep("ItemCode")));
+    EXPECT_EQ(takeBoxes().size(), 1);
+    EXPECT_FALSE(popup("frmFound"));
+    store().run("ALTER TABLE tblGone RENAME TO tblItemMaster");
+}
+}  // namespace
