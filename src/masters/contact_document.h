@@ -7,7 +7,14 @@ inline constexpr MasterTable contactMaster{"tblContactMaster", "ContactID"};
 
 // A contact as typed.
 struct ContactEntry {
-    QString ContactName, Address, TelNo, eMail, Terms, Remarks, CreditLimit, Discount;
+    QString ContactName = {};
+    QString Address = {};
+    QString TelNo = {};
+    QString eMail = {};
+    QString Terms = {};
+    QString Remarks = {};
+    QString CreditLimit = {};
+    QString Discount = {};
     bool IsCustomer = false;
     bool IsSupplier = false;
 };

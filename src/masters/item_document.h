@@ -7,9 +7,18 @@ inline constexpr MasterTable itemMaster{"tblItemMaster", "ItemCode"};
 
 // An item as typed. The supplier goes by his name.
 struct ItemEntry {
-    QString ItemCode, Description, Unit, Locator, Remarks, SupplierName;
-    QString CostPrice, SellingPrice, WholesalePrice;
-    QString DateAquired, OrderLevel, InventoryBalance;
+    QString ItemCode = {};
+    QString Description = {};
+    QString Unit = {};
+    QString Locator = {};
+    QString Remarks = {};
+    QString SupplierName = {};
+    QString CostPrice = {};
+    QString SellingPrice = {};
+    QString WholesalePrice = {};
+    QString DateAquired = {};
+    QString OrderLevel = {};
+    QString InventoryBalance = {};
 };
 
 // Checks, in the system's order, and writes: a new item, or the one of the entry's code. All or nothing. The

@@ -161,16 +161,24 @@ TEST_F(ItemDocument, AHandTypedCodeIsTheNewBase) {
 }
 
 TEST_F(ItemDocument, ARefusedStepLeavesNothingBehind) {
+    const auto forget = [&] {
+        store().run("DELETE FROM tblItemMaster");
+        store().run("DELETE FROM tblServer");
+    };
     const int writes = countWrites([&] { ASSERT_TRUE(isDone(save(goodItem()))); });
-    ASSERT_GE(writes, 3);
-    ASSERT_TRUE(isDone(DeleteItem(store(), goodItem().ItemCode)));
-    store().run("DELETE FROM tblServer");
+    forget();
+    int refusals = 0;
     for (int step = 0; step < writes; ++step) {
         SCOPED_TRACE(step);
-        failAtWrite(step, [&] { EXPECT_FALSE(isDone(save(goodItem()))); });
-        EXPECT_EQ(count("tblItemMaster"), 0);
-        EXPECT_EQ(NextItemCode(store()), "1000000001");
+        bool done = false;
+        failAtWrite(step, [&] { done = isDone(save(goodItem())); });
+        refusals += !done;
+        // A balance that cannot be recomputed is passed over; every other step takes the whole save back.
+        EXPECT_EQ(count("tblItemMaster"), done ? 1 : 0);
+        EXPECT_EQ(count("tblServer"), done ? 1 : 0);
+        forget();
     }
+    EXPECT_GE(refusals, 3);
     EXPECT_TRUE(isDone(save(goodItem()))) << "saving again is a fresh try";
 }
 

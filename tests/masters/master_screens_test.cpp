@@ -67,7 +67,7 @@ TEST_F(ItemScreen, ANewItemIsTypedAndSavedWithKeys) {
     EXPECT_EQ(focused(), "txtSupplierCode");
     type("Mabuhay Trading\t");
     EXPECT_EQ(focused(), "txtUnit");
-    type("p\r");
+    type("pc\r");
     EXPECT_EQ(text("txtUnit"), "PC");
     type("b'2\r");
     EXPECT_EQ(text("txtLocator"), "B2") << "the apostrophe is no key of this field";

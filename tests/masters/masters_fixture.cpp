@@ -1,5 +1,7 @@
 #include "masters_fixture.h"
 
+#include "platform/clock.h"
+
 void PrintTo(const FaultText& fault, std::ostream* out) {
     *out << '"' << fault.text.toStdString() << "\" at " << fault.focus.toStdString();
 }
@@ -10,12 +12,11 @@ FaultText faultOf(const Outcome& outcome) {
 }
 
 void MastersTest::SetUp() {
+    SessionTest::SetUp();
     Clock::freeze(QDateTime(QDate(2026, 3, 2), QTime(9, 30)));
-    session().CurrentUserCode = "ADMIN";
     addContact("Mabuhay Trading", false, true);
     supplierId_ = lastRecord(store(), contactMaster);
-    if (!RecordFound(store(), "tblUnitMaster", "UnitCode", "PC"))
-        store().run("INSERT INTO tblUnitMaster (UnitCode) VALUES ('PC')");
+    if (!RecordFound(store(), "tblUnitMaster", "UnitCode", "PC")) addUnit(store(), "PC");
 }
 
 void MastersTest::TearDown() { Clock::unfreeze(); }

@@ -1,14 +1,9 @@
 #pragma once
-#include "books/numbering.h"
-#include "foundation/schema.h"
-#include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "masters/contact_document.h"
 #include "masters/item_document.h"
-#include "platform/clock.h"
 #include "platform/outcome.h"
-
-#include <QTemporaryDir>
+#include "support/test_store.h"
 
 #include <gtest/gtest.h>
 
@@ -23,27 +18,25 @@ void PrintTo(const FaultText& fault, std::ostream* out);
 FaultText faultOf(const Outcome& outcome);
 
 // The delivered store with one supplier, "Mabuhay Trading", on 2 March 2026; ADMIN is at work.
-class MastersTest : public ::testing::Test {
+class MastersTest : public SessionTest {
   protected:
     void SetUp() override;
     void TearDown() override;
 
-    static Connection& store() { return StoreConnection(); }
     QString supplierId() const { return supplierId_; }
     ItemEntry goodItem() const;        // "1000000001"
     ContactEntry goodContact() const;  // a customer
     void addItem(const QString& code, const QString& description);
     void addContact(const QString& name, bool customer, bool supplier);
 
-    static Recordset one(const Sql& statement) { return store().execute(statement); }
+    Recordset one(const Sql& statement) { return store().execute(statement); }
     // The rows of a table, with a condition: "tblItemMaster WHERE Unit = 'PC'".
-    static qint64 count(const QString& rows);
+    qint64 count(const QString& rows);
 
     // How many statements that write the work runs; and the work with its step-th one refused.
     static int countWrites(const std::function<void()>& work);
     static void failAtWrite(int step, const std::function<void()>& work);
 
   private:
-    QTemporaryDir folder_;
     QString supplierId_;
 };

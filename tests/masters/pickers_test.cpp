@@ -13,7 +13,7 @@ class Pickers : public ScreenTest {
         addItem("1000000002", "COPPER WIRE");
         addItem("A2", "ANVIL");
     }
-    static QStringList listed(const DataGrid::Source& source, const QString& column) {
+    QStringList listed(const DataGrid::Source& source, const QString& column) {
         QStringList values;
         Recordset rows = store().execute(Sql("SELECT " + source.columns + " FROM " + source.from) +
                                          source.where + Sql(source.order));
