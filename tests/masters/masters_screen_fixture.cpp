@@ -16,20 +16,25 @@
 void ScreenTest::SetUp() {
     MastersTest::SetUp();
     registerMasterScreens();
-    setBoxAnswerer([this](const Box& box) -> std::optional<BoxAnswer> {
-        boxes_ << box.title + '|' + box.text;
+    boxes_.record([this](const Box& box) {
         if (box.buttons == BoxButtons::Ok) return BoxAnswer::Ok;
         if (!answers_.isEmpty()) return answers_.takeFirst();
-        ADD_FAILURE() << "nobody answers: " << box.text.toStdString();
+        ADD_FAILURE() << "nobody answers: " << qPrintable(box.text);
         return BoxAnswer::No;
     });
 }
 
+QStringList ScreenTest::takeBoxes() {
+    QStringList texts;
+    for (; taken_ < boxes_.shown().size(); ++taken_)
+        texts << boxes_.shown().at(taken_).title + '|' + boxes_.shown().at(taken_).text;
+    return texts;
+}
+
 void ScreenTest::TearDown() {
-    EXPECT_EQ(boxes_, QStringList()) << "boxes that the test did not expect";
+    EXPECT_EQ(takeBoxes(), QStringList()) << "boxes that the test did not expect";
     for (ChildScreen* open : ScreenRegistry::instance().openScreens()) open->unload();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    setBoxAnswerer({});
     MastersTest::TearDown();
 }
 

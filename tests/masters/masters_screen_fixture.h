@@ -1,7 +1,7 @@
 #pragma once
 #include "masters_fixture.h"
-#include "platform/ui/boxes.h"
 #include "platform/ui/child_screen.h"
+#include "support/box_script.h"
 
 #include <QPointer>
 
@@ -41,11 +41,12 @@ class ScreenTest : public MastersTest {
     void clickHeader(int column);
 
     void answer(BoxAnswer next) { answers_ << next; }
-    QStringList takeBoxes() { return std::exchange(boxes_, {}); }  // "title|text" of each
+    QStringList takeBoxes();  // "title|text" of each since the last take
 
     QPointer<ChildScreen> screen;
 
   private:
-    QStringList boxes_;
+    BoxScript boxes_;
+    qsizetype taken_ = 0;
     QList<BoxAnswer> answers_;
 };
