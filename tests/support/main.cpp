@@ -2,13 +2,25 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QStorageInfo>
 
 #include <gtest/gtest.h>
+
+// A save waits for the disk; the stores of the tests lie in memory where there is room, and run ten times as
+// fast.
+static void keepStoresInMemory() {
+    const QStorageInfo memory("/dev/shm");
+    constexpr qint64 room = 256 * 1024 * 1024;
+    if (qEnvironmentVariableIsEmpty("TMPDIR") && memory.isValid() && !memory.isReadOnly() &&
+        memory.bytesAvailable() > room)
+        qputenv("TMPDIR", "/dev/shm");
+}
 
 // Every test program: an application without a display, in a fixed locale, where a box that no test expects
 // fails instead of waiting for a person.
 int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    keepStoresInMemory();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());
