@@ -1,0 +1,215 @@
+#include "books/balances.h"
+
+#include "books/books_test.h"
+
+#include <limits>
+
+namespace {
+const Currency most = Currency::fromTenThousandths(std::numeric_limits<qint64>::max());
+
+// Records what a pass tells its progress box.
+struct RecordedProgress : Progress {
+    void begin(const QString& text, qint64 maximum) override {
+        told += QString("%1 %2").arg(text).arg(maximum);
+    }
+    void setValue(qint64 value) override { last = value; }
+    void end() override { told += "end"; }
+    QStringList told;
+    qint64 last = 0;
+};
+}  // namespace
+
+class BalancesTest : public BooksTest {
+  protected:
+    void addSaleOf(const QString& refNo, Currency total, const QDate& date = day(1)) {
+        write("INSERT INTO tblSalesMaster (RefNo, RefDate, ContactNo, TotalAmount) VALUES (?, ?, 'C1', ?)",
+              {refNo, date, bound(total)});
+    }
+    void addReceiptLine(const QString& refNo, const QVariant& paid, const QVariant& granted) {
+        write("INSERT INTO tblReceiptDetails (ZevRef, Reference, Amount, DiscountAmount) VALUES (?, ?, ?, ?)",
+              {++zevRef_, refNo, paid, granted});
+    }
+    void addReceipt(const QVariant& paid, const QVariant& granted) {
+        write(
+            "INSERT INTO tblReceiptMaster (PayNo, CustomerNo, PaymentAmount, TotalDiscAmount) VALUES (?, "
+            "'C1', ?, ?)",
+            {++zevRef_, paid, granted});
+    }
+    void addPurchaseOf(const QString& number, Currency total, const QDate& date = day(1)) {
+        write(
+            "INSERT INTO tblPurchaseMaster (PurchaseNo, PurchaseDate, ContactNo, PurchaseAmount) VALUES (?, "
+            "?, "
+            "'C1', ?)",
+            {number, date, bound(total)});
+    }
+    void addVoucherLine(const QString& purchase, Currency paid, bool direct) {
+        write(
+            "INSERT INTO tblDisbursementDetails (VoucherID, PuchaseID, PayAmount, DirectPayment) VALUES "
+            "('V1', ?, ?, "
+            "?)",
+            {purchase, bound(paid), direct});
+    }
+    void addDelivery(const QString& number, const QString& item, Currency quantity) {
+        write("INSERT INTO tblPurchaseDetails (Reference, ItemID, Delivered) VALUES (?, ?, ?)",
+              {number, item, bound(quantity)});
+    }
+    void addServed(const QString& refNo, const QString& item, Currency quantity) {
+        write("INSERT INTO tblSalesDetails (Reference, ItemID, Served) VALUES (?, ?, ?)",
+              {refNo, item, bound(quantity)});
+    }
+    Currency salesBalance(const QString& refNo) {
+        return currency("SELECT Balance AS v FROM tblSalesMaster WHERE RefNo = ?", {refNo});
+    }
+
+  private:
+    qint64 zevRef_ = 0;
+};
+
+TEST_F(BalancesTest, AReceivableIsTheSaleLessThePayment) {
+    const struct {
+        const char* name;
+        QVariant paid, granted;
+        double balance;
+    } cases[] = {
+        {"paid and discount", bound(amount(900)), bound(amount(100)), 0},
+        {"part paid", bound(amount(250.5)), bound(amount(0)), 749.5},
+        {"no receipt sums to null", {}, {}, 1000},
+        {"a null discount loses the whole payment", bound(amount(900)), QVariant(), 1000},
+        {"a null amount too", QVariant(), bound(amount(100)), 1000},
+        {"a negative payment counts as one", bound(amount(-300)), bound(amount(100)), 800},
+        {"overpaid", bound(amount(1500)), bound(amount(0)), -500},
+    };
+    for (const auto& [name, paid, granted, balance] : cases) {
+        write("DELETE FROM tblSalesMaster");
+        write("DELETE FROM tblReceiptDetails");
+        write("DELETE FROM tblReceiptMaster");
+        addSaleOf("S1", amount(1000));
+        addReceiptLine("S1", paid, granted);
+        addReceiptLine("other", bound(amount(1)), bound(amount(1)));
+        addReceipt(paid, granted);
+        EXPECT_EQ(SalesBalance(store, "S1"), amount(balance)) << name;
+        EXPECT_EQ(CustomerBalance(store, "C1"), amount(balance)) << name;
+    }
+}
+
+TEST_F(BalancesTest, AKeyWithoutRowsHasNoBalance) {
+    EXPECT_EQ(SalesBalance(store, "none"), Currency());
+    EXPECT_EQ(PurchaseBalance(store, "none"), Currency());
+    EXPECT_EQ(CustomerBalance(store, "none"), Currency());
+    EXPECT_EQ(SupplierBalance(store, "none"), Currency());
+    EXPECT_EQ(ItemBalance(store, "none"), Currency());
+    EXPECT_EQ(ServedOnOrder(store, "none", "none"), Currency());
+    EXPECT_EQ(ItemBalanceBetween(store, "none", day(1)), Currency());
+}
+
+TEST_F(BalancesTest, ADirectPaymentIsNoPaymentOfThePurchase) {
+    addPurchaseOf("P1", amount(500));
+    write("INSERT INTO tblDisbursementMaster (VoucherNo, ContactNo) VALUES ('V1', 'C1')");
+    addVoucherLine("P1", amount(120), false);
+    addVoucherLine("P1", amount(300), true);
+    EXPECT_EQ(PurchaseBalance(store, "P1"), amount(380));
+    EXPECT_EQ(SupplierBalance(store, "C1"), amount(380));
+    addVoucherLine("P1", amount(-20), false);
+    EXPECT_EQ(PurchaseBalance(store, "P1"), amount(400));
+}
+
+TEST_F(BalancesTest, StockCountsDeliveredLessServed) {
+    addItems({"A"});
+    addPurchaseOf("P1", amount(0), day(10));
+    addSaleOf("S1", amount(0), day(5));
+    addDelivery("P1", "a", amount(7.5));
+    addServed("S1", "A", amount(10));
+    addServed("S1", "A", amount(0.25));
+    addDelivery("gone", "A", amount(100));
+    EXPECT_EQ(ItemBalance(store, "A"), amount(97.25));
+    EXPECT_EQ(ServedOnOrder(store, "A", "S1"), amount(10.25));
+    EXPECT_EQ(ItemBalanceBetween(store, "A", day(4)), amount(0));
+    EXPECT_EQ(ItemBalanceBetween(store, "A", day(9)), amount(-10.25));
+    EXPECT_EQ(ItemBalanceBetween(store, "A", day(10)), amount(-2.75))
+        << "both ends inside, lines without a document not";
+}
+
+TEST_F(BalancesTest, StoringTellsAMissingKeyAndUpdatingDoesNot) {
+    const struct {
+        void (*store)(Connection&, const QString&, Boxes&);
+        void (*update)(Connection&, const QString&, Boxes&);
+        const char* text;
+    } cases[] = {
+        {StoreSalesBalance, UpdateSalesBalance, "Book Balance could not be Updated! Book Not Found!"},
+        {StorePurchaseBalance, UpdatePurchaseBalance, "Book Balance could not be Updated! Book Not Found!"},
+        {StoreItemBalance, UpdateItemBalance, "Inventory Balance could not be Updated! Item Not Found!"},
+    };
+    for (const auto& routines : cases) {
+        Boxes boxes;
+        routines.update(store, "none", boxes);
+        EXPECT_EQ(boxes, Boxes());
+        routines.store(store, "none", boxes);
+        EXPECT_EQ(boxes, Boxes{exclamation("Error!", routines.text)});
+    }
+}
+
+TEST_F(BalancesTest, StoredBalancesFollowTheBooks) {
+    Boxes boxes;
+    addItems({"A"});
+    addSaleOf("S1", amount(80));
+    addPurchaseOf("P1", amount(60));
+    addServed("S1", "A", amount(4));
+    UpdateSalesBalance(store, "s1", boxes);
+    UpdatePurchaseBalance(store, "P1", boxes);
+    UpdateItemBalance(store, "A", boxes);
+    EXPECT_EQ(salesBalance("S1"), amount(80));
+    EXPECT_EQ(currency("SELECT Balance AS v FROM tblPurchaseMaster"), amount(60));
+    EXPECT_EQ(currency("SELECT Balance AS v FROM tblItemMaster WHERE ItemCode = 'A'"), amount(-4));
+    EXPECT_EQ(boxes, Boxes());
+}
+
+TEST_F(BalancesTest, AnOverflowStopsNoOtherKey) {
+    for (const char* refNo : {"S1", "S2", "S3", "S4"}) {
+        addSaleOf(refNo, amount(100));
+        addReceiptLine(refNo, bound(amount(30)), bound(amount(0)));
+    }
+    addReceiptLine("S2", bound(most), bound(amount(0)));
+    addReceiptLine("S3", bound(most - amount(30)), bound(amount(30)));
+    EXPECT_EQ(SalesBalance(store, "S2"), amount(100)) << "a sum that fails counts 0";
+    EXPECT_EQ(SalesBalance(store, "S3"), amount(100)) << "and so does the sum of both";
+    RecomputeReceivableBalances(store, Progress::none());
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblSalesMaster ORDER BY RefNo"),
+              "700000 1000000 1000000 700000");
+}
+
+TEST_F(BalancesTest, RecomputingWritesOnlyWhatChanged) {
+    for (const char* refNo : {"S1", "S2", "S3"}) addSaleOf(refNo, amount(100));
+    addSaleOf("S4", amount(0));
+    write("UPDATE tblSalesMaster SET Balance = NULL WHERE RefNo = 'S4'");
+    RecomputeReceivableBalances(store, Progress::none());
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblSalesMaster ORDER BY RefNo"), "1000000 1000000 1000000 0");
+    int writes = 0;
+    Connection::setStatementHook([&](const QString& text) { writes += text.startsWith("UPDATE"); });
+    RecomputeReceivableBalances(store, Progress::none());
+    EXPECT_EQ(writes, 0);
+    addReceiptLine("S2", bound(amount(1)), bound(amount(0)));
+    writes = 0;
+    RecomputeReceivableBalances(store, Progress::none());
+    Connection::setStatementHook({});
+    EXPECT_EQ(writes, 1);
+    EXPECT_EQ(salesBalance("S2"), amount(99));
+}
+
+TEST_F(BalancesTest, EachPassShowsItsBox) {
+    addItems({"A", "B"});
+    const struct {
+        void (*recompute)(Connection&, Progress&);
+        const char* text;
+        int rows;
+    } cases[] = {
+        {RecomputeInventoryBalances, "Please Wait While System Computes for Inventory Balances... 2", 2},
+        {RecomputePayableBalances, "Please Wait While System Computes for Payable Balances... 0", 0},
+        {RecomputeReceivableBalances, "Please Wait While System Computes for Receivable Balances... 0", 0},
+    };
+    for (const auto& [recompute, text, rows] : cases) {
+        RecordedProgress progress;
+        recompute(store, progress);
+        EXPECT_EQ(progress.told, QStringList({text, "end"}));
+        EXPECT_EQ(progress.last, rows);
+    }
+}

@@ -1,0 +1,48 @@
+#include "books/books_test.h"
+
+#include "books/end_of_day.h"
+
+Boxes runEndOfDay(Connection& store) {
+    EndOfDayView view;
+    Boxes boxes;
+    const auto documents = LoadPostingQueue(store, Progress::none());
+    const auto items = LoadPostingItems(store, Progress::none());
+    EXPECT_EQ(PostStockValuation(store, documents, view, boxes), !documents.isEmpty());
+    EXPECT_EQ(InitializeStockValuation(store, items, view, boxes), !items.isEmpty());
+    return boxes;
+}
+
+void BooksTest::addItems(const QStringList& codes) {
+    for (const QString& code : codes) addItem(store, {code, "Item " + code});
+}
+
+void BooksTest::buy(const QString& number, int date, const std::vector<LineRow>& lines,
+                    const QString& contact) {
+    addPurchase(store, {number, day(date), contact, lines});
+}
+
+void BooksTest::sell(const QString& number, int date, const std::vector<LineRow>& lines) {
+    addSale(store, {number, day(date), "C1", lines});
+}
+
+void BooksTest::write(const QString& statement, const QVariantList& values) {
+    store.run({statement, values});
+}
+
+QString BooksTest::value(const QString& statement, const QVariantList& values) {
+    const Recordset row = store.execute({"SELECT v FROM (" + statement + ")", values});
+    if (row.eof()) return "none";
+    return row.isNull("v") ? "null" : row.text("v");
+}
+
+Currency BooksTest::currency(const QString& statement, const QVariantList& values) {
+    return Currency::fromTenThousandths(value(statement, values).toLongLong());
+}
+
+QString BooksTest::column(const QString& statement, const QVariantList& values) {
+    QStringList texts;
+    for (auto rows = store.execute({"SELECT v FROM (" + statement + ")", values}); !rows.eof();
+         rows.moveNext())
+        texts += rows.text("v");
+    return texts.join(u' ');
+}

@@ -1,0 +1,187 @@
+#include "books/end_of_day.h"
+
+#include "books/books_test.h"
+#include "books/posting_queue.h"
+#include "books/stock_valuation.h"
+
+namespace {
+struct RecordedView : EndOfDayView {
+    void status(const QString& text) override { statuses += text; }
+    void start(qint64 maximum) override { starts += maximum; }
+    void documentPosted(qsizetype index) override { posted += index; }
+    void itemCosted(qsizetype index) override { costed += index; }
+    QStringList statuses;
+    QList<qint64> starts;
+    QList<qsizetype> posted, costed;
+};
+}  // namespace
+
+class EndOfDayTest : public BooksTest {
+  protected:
+    void SetUp() override {
+        BooksTest::SetUp();
+        addItems({"A", "B"});
+    }
+    bool post(const QList<QueuedDocument>& documents) {
+        boxes.clear();
+        view = {};
+        return PostStockValuation(store, documents, view, boxes);
+    }
+    bool cost(const QList<QueuedItem>& items) {
+        boxes.clear();
+        view = {};
+        return InitializeStockValuation(store, items, view, boxes);
+    }
+    QString ledger() {
+        return column(
+            "SELECT BookID || ':' || Reference || ':' || ItemCode || ':' || Contact || ':' || TransDate || "
+            "':' "
+            "|| (StockIn + StockOut) || ':' || (InPrice + OutPrice) AS v FROM tblStockValuation ORDER BY "
+            "ZevRef");
+    }
+    QString queue() { return column("SELECT Reference AS v FROM tblForPosting ORDER BY 1"); }
+
+    RecordedView view;
+    Boxes boxes;
+};
+
+TEST_F(EndOfDayTest, PurchasesLoadBeforeSalesEachByDate) {
+    sell("S1", 2, {{"A", amount(1), amount(1)}});
+    buy("P2", 3, {{"B", amount(1), amount(1)}}, "nobody");
+    buy("P1", 1, {});
+    QStringList loaded;
+    for (const QueuedDocument& document : LoadPostingQueue(store, Progress::none()))
+        loaded +=
+            document.bookId + document.reference + document.date.toString(Qt::ISODate) + document.contactName;
+    EXPECT_EQ(loaded, QStringList({"PP12026-01-01Ana", "PP22026-01-03", "SS12026-01-02Ana"}));
+    const auto items = LoadPostingItems(store, Progress::none());
+    ASSERT_EQ(items.size(), 2);
+    EXPECT_EQ(items[0].itemCode + items[0].description, "AItem A");
+}
+
+TEST_F(EndOfDayTest, DocumentsBecomeRowsAndLeaveTheQueue) {
+    write("INSERT INTO tblStockKey (Server) VALUES ('7')");
+    buy("D1", 1, {{"A", amount(10), amount(100), amount(10)}, {"B", amount(0), amount(2)}});
+    sell("D1", 2, {{"A", amount(4), amount(150), amount(-10)}});
+    EXPECT_TRUE(post(LoadPostingQueue(store, Progress::none())));
+    EXPECT_EQ(ledger(),
+              "P:D1:A:C1:2026-01-01:100000:900000 P:D1:B:C1:2026-01-01:0:20000 "
+              "S:D1:A:C1:2026-01-02:40000:1350000");
+    EXPECT_EQ(column("SELECT ZevRef AS v FROM tblStockValuation"), "8 9 10");
+    EXPECT_EQ(queue(), "");
+    EXPECT_EQ(view.posted, QList<qsizetype>({0, 1}));
+    EXPECT_EQ(view.starts, QList<qint64>({2, 0}));
+    EXPECT_EQ(view.statuses,
+              QStringList({"Please Wait While System is Posting Stock Valuation...",
+                           "Posting Stock Valuation 1 of 2", "Posting Stock Valuation 2 of 2", ""}));
+    EXPECT_TRUE(cost(LoadPostingItems(store, Progress::none())));
+    EXPECT_EQ(currency("SELECT SalesCost AS v FROM tblStockValuation WHERE BookID = 'S'"), amount(360));
+    EXPECT_EQ(view.statuses[1], "Initializing Stock Valuation 1 of 2");
+    EXPECT_EQ(view.costed, QList<qsizetype>({0, 1}));
+    EXPECT_FALSE(HasPendingPosting(store));
+}
+
+TEST_F(EndOfDayTest, PostingTwiceGivesTheSameRows) {
+    buy("P1", 1, {{"A", amount(10), amount(5)}});
+    const auto documents = LoadPostingQueue(store, Progress::none());
+    EXPECT_TRUE(post(documents));
+    const QString once = ledger();
+    EXPECT_TRUE(post(documents));
+    EXPECT_EQ(ledger(), once);
+}
+
+TEST_F(EndOfDayTest, EmptyListsAreAProblem) {
+    EXPECT_FALSE(post({}));
+    EXPECT_FALSE(cost({}));
+    EXPECT_EQ(boxes, Boxes());
+    EXPECT_EQ(view.statuses, QStringList());
+}
+
+TEST_F(EndOfDayTest, ADocumentThatHasGoneLeavesTheQueue) {
+    sell("S1", 1, {{"A", amount(1), amount(1)}});
+    const auto documents = LoadPostingQueue(store, Progress::none());
+    write("DELETE FROM tblSalesDetails");
+    EXPECT_TRUE(post(documents));
+    EXPECT_EQ(ledger() + queue(), "");
+}
+
+TEST_F(EndOfDayTest, AListedDocumentThatIsEditedGetsItsCurrentLines) {
+    sell("S1", 1, {{"A", amount(1), amount(1)}});
+    const auto documents = LoadPostingQueue(store, Progress::none());
+    write("UPDATE tblSalesDetails SET Served = ?", {bound(amount(3))});
+    EXPECT_TRUE(post(documents));
+    EXPECT_EQ(ledger(), "S:S1:A:C1:2026-01-01:30000:10000");
+}
+
+TEST_F(EndOfDayTest, AFailedDocumentStopsTheRunAndASecondRunCompletesIt) {
+    for (int number = 1; number <= 3; ++number)
+        sell(QString("S%1").arg(number), number, {{"A", amount(number), amount(1)}});
+    write(
+        "CREATE TRIGGER refuse BEFORE INSERT ON tblStockValuation WHEN NEW.Reference = 'S2' BEGIN SELECT "
+        "RAISE(ABORT, "
+        "'refused here'); END");
+    const auto documents = LoadPostingQueue(store, Progress::none());
+    EXPECT_FALSE(post(documents));
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_EQ(boxes[0].title, "Error...");
+    EXPECT_TRUE(boxes[0].text.contains("refused here"));
+    EXPECT_EQ(view.posted, QList<qsizetype>({0}));
+    EXPECT_EQ(queue(), "S2 S3");
+    EXPECT_EQ(ledger(), "S:S1:A:C1:2026-01-01:10000:10000");
+    write("DROP TRIGGER refuse");
+    EXPECT_TRUE(post(LoadPostingQueue(store, Progress::none())));
+    EXPECT_EQ(value("SELECT COUNT(*) AS v FROM tblStockValuation"), "3");
+    EXPECT_EQ(queue(), "");
+}
+
+TEST_F(EndOfDayTest, AFailedItemStaysQueuedAsItWas) {
+    buy("P1", 1, {{"A", amount(2), amount(5)}, {"B", amount(2), amount(5)}});
+    EXPECT_TRUE(post(LoadPostingQueue(store, Progress::none())));
+    write(
+        "CREATE TRIGGER refuse BEFORE UPDATE ON tblStockValuation WHEN NEW.ItemCode = 'A' BEGIN SELECT "
+        "RAISE(ABORT, "
+        "'refused here'); END");
+    EXPECT_FALSE(cost(LoadPostingItems(store, Progress::none())));
+    EXPECT_EQ(boxes.size(), 1);
+    EXPECT_EQ(column("SELECT ItemID AS v FROM tblForPostingItem"), "A B");
+    write("DROP TRIGGER refuse");
+    EXPECT_TRUE(cost(LoadPostingItems(store, Progress::none())));
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation"), "20000 20000");
+    EXPECT_EQ(column("SELECT CostPrice AS v FROM tblItemMaster"), "50000 50000");
+}
+
+TEST_F(EndOfDayTest, ASalesCostBeyondTheRangeIsToldAndStopsNoItem) {
+    const Currency much = Currency::fromInteger(900000000000000);
+    buy("P1", 1, {{"A", amount(1), amount(5)}, {"B", amount(2), amount(5)}});
+    buy("P2", 2, {{"A", amount(1000), amount(0)}});
+    write("UPDATE tblPurchaseDetails SET UnitPrice = ? WHERE Reference = 'P2'", {bound(much)});
+    sell("S1", 3, {{"A", amount(1), amount(5)}});
+    sell("S2", 4, {{"A", amount(5), amount(5)}});
+    EXPECT_TRUE(post(LoadPostingQueue(store, Progress::none())));
+    EXPECT_TRUE(cost(LoadPostingItems(store, Progress::none())));
+    EXPECT_EQ(boxes, Boxes({exclamation("Error!", "Overflow"), exclamation("Error!", "Overflow")}));
+    EXPECT_EQ(column("SELECT SalesCost AS v FROM tblStockValuation WHERE BookID = 'S'"), "50000 0");
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'B'"), "20000");
+    EXPECT_FALSE(HasPendingPosting(store));
+}
+
+// A deletion queues no item: whoever queues it next gets the costs of its whole history.
+TEST_F(EndOfDayTest, AQueuedItemIsCostedFromItsWholeHistory) {
+    buy("P1", 1, {{"A", amount(10), amount(5)}});
+    buy("P2", 2, {{"A", amount(10), amount(6)}});
+    buy("P3", 5, {{"A", amount(4), amount(9)}});
+    sell("S1", 3, {{"A", amount(4), amount(9)}});
+    sell("S2", 4, {{"A", amount(8), amount(9)}});
+    sell("S3", 5, {{"A", amount(12), amount(9)}});
+    EXPECT_EQ(runEndOfDay(store), Boxes());
+    const char* const costs =
+        "SELECT SalesCost AS v FROM tblStockValuation WHERE BookID = 'S' ORDER BY TransDate";
+    EXPECT_EQ(column(costs), "200000 420000 840000");
+    RemoveStockValuation(store, "P", "P3");
+    for (const char* table : {"tblPurchaseDetails WHERE Reference", "tblPurchaseMaster WHERE PurchaseNo"})
+        write(QString("DELETE FROM %1 = 'P3'").arg(table));
+    EXPECT_FALSE(HasPendingPosting(store));
+    QueueItemForPosting(store, "A");
+    EXPECT_TRUE(cost(LoadPostingItems(store, Progress::none())));
+    EXPECT_EQ(column(costs), "200000 420000 480000");
+}

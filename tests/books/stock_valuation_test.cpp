@@ -1,0 +1,232 @@
+#include "books/stock_valuation.h"
+
+#include "books/books_test.h"
+
+#include <limits>
+
+namespace {
+const Currency most = Currency::fromTenThousandths(std::numeric_limits<qint64>::max());
+
+// A row of the ledger: the day, in at a price ("P") or out ("S").
+struct Row {
+    int day;
+    char book;
+    double quantity;
+    double price = 0;
+};
+
+struct CostingCase {
+    const char* name;
+    std::vector<Row> rows;   // as they were entered
+    const char* balances;    // by day, purchases first
+    const char* salesCosts;  // of the sales, by day
+    double value;            // of what is on hand
+};
+
+const CostingCase costingCases[] = {
+    {"first in, first out; the rest of the last sale costs nothing",
+     {{1, 'P', 10, 5}, {2, 'P', 10, 6}, {3, 'S', 4}, {4, 'S', 8}, {5, 'S', 12}},
+     "10 20 16 8 -4",
+     "20 42 48",
+     0},
+    {"a third purchase covers the last sale, whatever its date",
+     {{1, 'P', 10, 5}, {2, 'P', 10, 6}, {3, 'S', 4}, {4, 'S', 8}, {5, 'S', 12}, {9, 'P', 4, 7}},
+     "10 20 16 8 -4 0",
+     "20 42 76",
+     0},
+    {"the same day's purchase comes first", {{3, 'S', 2}, {3, 'P', 5, 2}}, "5 3", "4", 6},
+    {"a layer that is just used up",
+     {{1, 'P', 10, 5}, {2, 'P', 10, 6}, {3, 'S', 10}, {4, 'S', 1}},
+     "10 20 10 9",
+     "50 6",
+     54},
+    {"more sold than bought", {{1, 'P', 10, 5}, {2, 'S', 12}, {3, 'S', 1}}, "10 -2 -3", "50 0", 0},
+    {"never bought", {{1, 'S', 3}, {2, 'S', 4}}, "-3 -7", "0 0", 0},
+    {"never sold", {{1, 'P', 10, 5}, {2, 'P', 10, 6}}, "10 20", "", 110},
+    {"a sale before its purchase", {{1, 'S', 3}, {2, 'P', 5, 2.5}}, "-3 2", "7.5", 5},
+    {"layers of nothing and less are skipped",
+     {{1, 'P', 0, 9}, {2, 'P', -4, 9}, {3, 'P', 5, 3}, {4, 'S', 2}},
+     "0 -4 1 -1",
+     "6",
+     0},
+    {"a sale of less than nothing counts by its amount and costs nothing",
+     {{1, 'P', 5, 2}, {2, 'S', -3}, {3, 'S', 1}},
+     "5 2 1",
+     "0 2",
+     2},
+    {"newest layers are on hand", {{1, 'P', 10, 5}, {2, 'P', 10, 6}, {3, 'S', 15}}, "10 20 5", "80", 30},
+    {"and then older ones", {{1, 'P', 10, 5}, {2, 'P', 10, 6}, {3, 'S', 5}}, "10 20 15", "25", 85},
+    {"parts of a centavo round once for each layer",
+     {{1, 'P', 0.3333, 0.3335}, {2, 'P', 0.3333, 0.3335}, {3, 'S', 0.5}},
+     "0.3333 0.6666 0.1666",
+     "0.1668",
+     0.0556},
+};
+
+QString plain(const QString& tenThousandths) {
+    QStringList texts;
+    for (const QString& count : tenThousandths.split(u' ', Qt::SkipEmptyParts))
+        texts += Currency::fromTenThousandths(count.toLongLong()).toPlainText();
+    return texts.join(u' ');
+}
+}  // namespace
+
+class StockValuationTest : public BooksTest {
+  protected:
+    void addRow(const Row& row, const QString& item = "A") {
+        AddStockValuation(store, QString(QChar(row.book)), QString("D%1").arg(++documents_), "C1", item,
+                          day(row.day), amount(row.quantity), amount(row.price));
+    }
+    void addRows(const CostingCase& books) {
+        write("DELETE FROM tblStockValuation");
+        for (const Row& row : books.rows) addRow(row);
+    }
+    QString balances(const QString& item = "A") {
+        return plain(
+            column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = ? ORDER BY TransDate, "
+                   "BookID, ZevRef",
+                   {item}));
+    }
+    QString salesCosts(const QString& item = "A") {
+        return plain(
+            column("SELECT SalesCost AS v FROM tblStockValuation WHERE ItemCode = ? AND BookID = 'S' ORDER "
+                   "BY TransDate, ZevRef",
+                   {item}));
+    }
+    int writesOf(const std::function<void()>& pass) {
+        int writes = 0;
+        Connection::setStatementHook(
+            [&](const QString& text) { writes += text.startsWith("UPDATE tblStockValuation"); });
+        pass();
+        Connection::setStatementHook({});
+        return writes;
+    }
+
+  private:
+    int documents_ = 0;
+};
+
+TEST_F(StockValuationTest, OneItemIsCostedFirstInFirstOut) {
+    for (const CostingCase& books : costingCases) {
+        addRows(books);
+        ComputeStockBalances(store, "a");
+        EXPECT_EQ(balances(), books.balances) << books.name;
+        EXPECT_EQ(value("SELECT SUM(SalesCost) AS v FROM tblStockValuation"), "0") << books.name;
+        ComputeSalesCost(store, "a");
+        EXPECT_EQ(salesCosts(), books.salesCosts) << books.name;
+        EXPECT_EQ(ValuationCost(store, day(1), day(9), "A"), amount(books.value)) << books.name;
+        EXPECT_EQ(balances(), books.balances) << books.name;
+    }
+}
+
+TEST_F(StockValuationTest, AllItemsAreCostedAlike) {
+    addItems({"A"});
+    for (const CostingCase& books : costingCases) {
+        addRows(books);
+        RecomputeStockValuation(store, Progress::none());
+        EXPECT_EQ(balances(), books.balances) << books.name;
+        EXPECT_EQ(salesCosts(), books.salesCosts) << books.name;
+    }
+}
+
+TEST_F(StockValuationTest, OnlyRowsThatChangeAreWritten) {
+    addItems({"A"});
+    addRows(costingCases[0]);
+    EXPECT_EQ(writesOf([&] { RecomputeStockValuation(store, Progress::none()); }), 5);
+    EXPECT_EQ(writesOf([&] {
+                  RecomputeStockValuation(store, Progress::none());
+                  ComputeStockBalances(store, "A");
+                  ComputeSalesCost(store, "A");
+              }),
+              0);
+    addRow({9, 'P', 5, 7});
+    EXPECT_EQ(writesOf([&] { RecomputeStockValuation(store, Progress::none()); }), 2)
+        << "the new row, the last sale";
+}
+
+TEST_F(StockValuationTest, RowsOfAnItemThatHasGoneKeepTheirFigures) {
+    addItems({"A"});
+    addRow({1, 'P', 5, 2}, "gone");
+    addRow({1, 'P', 5, 2}, "A");
+    RecomputeStockValuation(store, Progress::none());
+    EXPECT_EQ(balances("gone"), "0");
+    EXPECT_EQ(balances("A"), "5");
+}
+
+TEST_F(StockValuationTest, AnOverflowingItemKeepsItsFiguresAndStopsNoOther) {
+    for (const char* item : {"A", "B", "C"}) {
+        addItems({item});
+        addRow({1, 'P', 2, 3}, item);
+        addRow({2, 'S', 1}, item);
+    }
+    AddStockValuation(store, "P", "big", "C1", "B", day(3), most, amount(2));
+    AddStockValuation(store, "S", "big", "C1", "B", day(3), most, amount(2));
+    EXPECT_THROW(ComputeStockBalances(store, "B"), OverflowError);
+    EXPECT_THROW(ComputeSalesCost(store, "B"), OverflowError);
+    RecomputeStockValuation(store, Progress::none());
+    EXPECT_EQ(balances("A") + '/' + balances("B") + '/' + balances("C"), "2 1/0 0 0 0/2 1");
+    EXPECT_EQ(salesCosts("A") + '/' + salesCosts("B") + '/' + salesCosts("C"), "3/0 0/3");
+}
+
+TEST_F(StockValuationTest, APeriodValuesOnlyItsLayers) {
+    addRows(costingCases[11]);  // 10 at 5 on the 1st, 10 at 6 on the 2nd, 5 out on the 3rd
+    ComputeStockBalances(store, "A");
+    ComputeSalesCost(store, "A");
+    const struct {
+        int from, to;
+        double value, cost;
+    } cases[] = {{1, 1, 50, 0}, {1, 2, 110, 0}, {2, 3, 60, 25}, {3, 3, 0, 25}, {4, 9, 0, 0}, {3, 1, 0, 0}};
+    for (const auto& [from, to, stockValue, cost] : cases) {
+        EXPECT_EQ(ValuationCost(store, day(from), day(to), "A"), amount(stockValue)) << from << " to " << to;
+        EXPECT_EQ(PeriodSalesCost(store, day(from), day(to), "A"), amount(cost)) << from << " to " << to;
+    }
+}
+
+TEST_F(StockValuationTest, CostPriceIsTheAverageOfWhatIsOnHand) {
+    const struct {
+        double sold;
+        const char* costPrice;
+    } cases[] = {{15, "6"}, {5, "5.6667"}, {20, "0"}, {0, "5.5"}, {25, "0"}};
+    addItems({"A"});
+    for (const auto& [sold, costPrice] : cases) {
+        for (const char* table :
+             {"tblPurchaseMaster", "tblPurchaseDetails", "tblSalesMaster", "tblSalesDetails"})
+            write(QString("DELETE FROM %1").arg(table));
+        buy("P1", 1, {{"A", amount(10), amount(5)}, {"A", amount(10), amount(6)}});
+        sell("S1", 2, {{"A", amount(sold), amount(9)}});
+        EXPECT_EQ(runEndOfDay(store), Boxes());
+        EXPECT_EQ(plain(column("SELECT CostPrice AS v FROM tblItemMaster")), costPrice) << sold << " sold";
+    }
+    Boxes boxes;
+    StoreCostPrice(store, "none", boxes);
+    EXPECT_EQ(boxes, Boxes{exclamation("Error!", "Inventory Balance could not be Updated! Item Not Found!")});
+}
+
+TEST_F(StockValuationTest, RowsTakeKeysAndStandByBook) {
+    AddStockValuation(store, "p", "D", "C1", "A", day(1), amount(2), amount(3));
+    AddStockValuation(store, "S", "D", "C1", "A", day(1), amount(4), amount(5));
+    EXPECT_EQ(column("SELECT ZevRef || ':' || StockIn || ':' || InPrice || ':' || StockOut || ':' || "
+                     "OutPrice || ':' || "
+                     "Balance || ':' || SalesCost AS v FROM tblStockValuation ORDER BY ZevRef"),
+              "1:20000:30000:0:0:0:0 2:0:0:40000:50000:0:0");
+    RemoveStockValuation(store, "P", "D");
+    EXPECT_EQ(column("SELECT ZevRef AS v FROM tblStockValuation"), "2");
+}
+
+TEST_F(StockValuationTest, DocumentsMoveTheMasterPrice) {
+    addItems({"A"});
+    const struct {
+        PriceKind kind;
+        const char* column;
+    } cases[] = {{PriceKind::Cost, "CostPrice"},
+                 {PriceKind::Sell, "SellingPrice"},
+                 {PriceKind::Whole, "WholesalePrice"}};
+    int price = 10;
+    for (const auto& [kind, name] : cases) {
+        UpdateItemPrice(store, "a", kind, Currency::fromInteger(++price));
+        EXPECT_EQ(currency(QString("SELECT %1 AS v FROM tblItemMaster").arg(name)),
+                  Currency::fromInteger(price));
+    }
+    UpdateItemPrice(store, "none", PriceKind::Cost, amount(1));
+    EXPECT_EQ(column("SELECT CostPrice AS v FROM tblItemMaster"), "110000");
+}
