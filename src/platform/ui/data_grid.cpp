@@ -71,8 +71,15 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_Delete) {
         event->setAccepted(plain && isSignalConnected(QMetaMethod::fromSignal(&DataGrid::deletePressed)));
         if (plain) emit deletePressed();
+    } else if (plain && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)) {
+        goToEnd(event->key() == Qt::Key_End);
     } else {
-        if (event->key() == Qt::Key_End) model_->fetchMore({});
         QTableView::keyPressEvent(event);
     }
+}
+
+// Home and End go to the first and the last row of all, fetched or not.
+void DataGrid::goToEnd(bool last) {
+    if (last) model_->fetchMore({});
+    if (!isEmpty()) selectRow(last ? model_->rowCount() - 1 : 0);
 }

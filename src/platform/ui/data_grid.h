@@ -55,6 +55,7 @@ class DataGrid : public QTableView {
   private:
     void setUpHeaders();
     int currentRow() const;
+    void goToEnd(bool last);
 
     GridModel* model_;
 };

@@ -172,7 +172,7 @@ QString GridModel::text(int row, const QString& column) const {
     if (isGone(row)) return {};
     const Row& found = rows_[static_cast<size_t>(row)];
     const GridColumn* own = columnNamed(columns_, column);
-    return trim(own ? shown(found, *own) : at(found).text(column));
+    return trim(own ? shown(found, *own) : plainText(at(found), column));
 }
 
 int GridModel::findFetched(const QString& column, const QString& value) const {
@@ -192,11 +192,21 @@ int GridModel::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(columns_.size());
 }
 
-static QString countText(const Recordset& row, const QString& column) {
-    const QVariant value = row.value(column);
-    if (value.metaType() == QMetaType::fromType<Currency>())
-        return formatNumber(value.value<Currency>(), mask::count);
+bool GridModel::isDeclared(const QString& column, const QString& type) const {
+    return store_->columnTypes(source_.keyTable).value(column.toLower()).contains(type);
+}
+
+// Counted things are whole numbers, or quantities of the currency type.
+QString GridModel::countText(const Recordset& row, const QString& column) const {
+    if (isDeclared(column, "CURRENCY")) return formatNumber(row.currency(column), mask::count);
     return formatCount(row.integer(column));
+}
+
+// A column that the grid does not show: a text as it is stored, amounts as plain digits.
+QString GridModel::plainText(const Recordset& row, const QString& column) const {
+    if (isDeclared(column, "CURRENCY")) return row.currency(column).toPlainText();
+    if (isDeclared(column, "DATE")) return formatDate(row.date(column));
+    return row.text(column);
 }
 
 QString GridModel::shown(const Row& row, const GridColumn& column) const {

@@ -45,6 +45,9 @@ class GridModel : public QAbstractTableModel {
     Sql keysOf(const DataGrid::Source& source) const;
     Sql pageOf(const std::vector<int>& rows) const;
     QString shown(const Row& row, const GridColumn& column) const;
+    QString countText(const Recordset& row, const QString& column) const;
+    QString plainText(const Recordset& row, const QString& column) const;
+    bool isDeclared(const QString& column, const QString& type) const;
     const Recordset& at(const Row& row) const;
     std::vector<Row> rowsOf(Recordset page, int pageNumber) const;
     void appendMissing(Recordset keys);

@@ -1,0 +1,376 @@
+#include "platform/ui/combo_box.h"
+#include "platform/ui/data_grid.h"
+#include "platform/ui/form.h"
+#include "platform/ui/grid_picker.h"
+#include "platform/ui/list_view.h"
+#include "platform/ui/screen_registry.h"
+#include "platform/ui/text_box.h"
+#include "support/box_script.h"
+#include "support/screen_driver.h"
+#include "support/test_store.h"
+
+#include <qabstractitemmodeltester.h>
+#include <QApplication>
+#include <QSet>
+#include <QSignalSpy>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QList<GridColumn> itemColumns = {{"Item Code", "ItemCode"},
+                                       {"Description", "Description", GridColumn::Text, 30},
+                                       {"Cost Price", "CostPrice", GridColumn::Amount},
+                                       {"Balance", "Balance", GridColumn::Count}};
+
+DataGrid::Source itemSource(const Sql& where = {}, const QString& order = " ORDER BY Description ASC") {
+    return {"*", "tblItemMaster", "tblItemMaster", where, order};
+}
+
+QString codeOf(int item) { return QString("I%1").arg(item, 5, 10, QLatin1Char('0')); }
+
+// Many items with few descriptions, so that the order has ties.
+void addItems(Connection& store, int count) {
+    std::vector<QVariantList> rows;
+    for (int item = 0; item < count; ++item)
+        rows.push_back({codeOf(item), QString("Kind %1").arg(item % 7), bound(Currency::fromInteger(item))});
+    store.runMany("INSERT INTO tblItemMaster (ItemCode, Description, CostPrice) VALUES (?, ?, ?)", rows);
+}
+
+QStringList column(const DataGrid& grid, int column) {
+    QStringList texts;
+    for (int row = 0; row < grid.model()->rowCount(); ++row)
+        texts += grid.model()->index(row, column).data().toString();
+    return texts;
+}
+
+class UiGrid : public testing::Test {
+  protected:
+    void open(int items) {
+        addItems(store.connection(), items);
+        grid.setSource(store.connection(), itemSource());
+    }
+    TestStore store;
+    DataGrid grid{"dbgItem", "adcItem", itemColumns};
+};
+
+}  // namespace
+
+TEST_F(UiGrid, OpensWithOnePageAndThenListsEveryRowOnceInOrder) {
+    open(350);
+    EXPECT_EQ(grid.model()->rowCount(), 100);
+    EXPECT_EQ(grid.recordCount(), 350);
+    const QAbstractItemModelTester tester(grid.model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    grid.fetchAll();
+    const QStringList codes = column(grid, 0);
+    EXPECT_EQ(codes.size(), 350);
+    EXPECT_EQ(QSet<QString>(codes.begin(), codes.end()).size(), 350);
+    EXPECT_TRUE(column(grid, 1) == [&] {
+        QStringList sorted = column(grid, 1);
+        sorted.sort();
+        return sorted;
+    }());
+}
+
+TEST_F(UiGrid, ScrollingFetchesWhatComesIntoView) {
+    open(350);
+    person::look(&grid);
+    grid.setFocus();
+    person::press(Qt::Key_End);
+    EXPECT_EQ(grid.currentText("Description"), "Kind 6");
+    EXPECT_EQ(column(grid, 0).last(), grid.currentText("ItemCode"));
+    EXPECT_EQ(column(grid, 0)[150], "") << "a page that nobody came to is fetched";
+    person::settle();
+    EXPECT_NE(column(grid, 0)[150], "") << "a page that was asked for is not fetched";
+}
+
+TEST_F(UiGrid, RowsWrittenWhileAPersonScrollsAreNeitherRepeatedNorLeftOut) {
+    open(350);
+    const QString shownFirst = grid.currentText("ItemCode");
+    store.connection().run({"DELETE FROM tblItemMaster WHERE ItemCode = ?", {shownFirst}});
+    store.connection().run(
+        "INSERT INTO tblItemMaster (ItemCode, Description, CostPrice) VALUES ('NEW', 'A first one', 0)");
+    grid.model()->fetchMore({});
+    EXPECT_EQ(grid.model()->rowCount(), 351);
+    store.connection().run({"DELETE FROM tblItemMaster WHERE ItemCode = ?", {codeOf(349)}});
+    grid.fetchAll();
+    const QStringList codes = column(grid, 0);
+    EXPECT_EQ(codes.count("(gone)"), 1);
+    EXPECT_EQ(codes.count("NEW"), 1);
+    EXPECT_EQ(codes.first(), shownFirst) << "what was on show stays until the list is read again";
+    EXPECT_EQ(QSet<QString>(codes.begin(), codes.end()).size(), 351);
+}
+
+TEST_F(UiGrid, ARowIsFetchedOnce) {
+    open(150);
+    grid.fetchAll();
+    const QStringList before = column(grid, 1);
+    store.connection().run("UPDATE tblItemMaster SET Description = 'changed'");
+    person::look(&grid);
+    grid.fetchAll();
+    EXPECT_EQ(column(grid, 1), before);
+}
+
+TEST_F(UiGrid, ShowsValuesByTheirKindAndNumbersAtTheRight) {
+    store.connection().run(
+        {"INSERT INTO tblItemMaster (ItemCode, Description, CostPrice, Balance) VALUES (?, ?, ?, ?)",
+         {"A1", "two\nlines", bound(amount(1234.5)), bound(amount(1200))}});
+    grid.setSource(store.connection(), itemSource());
+    EXPECT_EQ(grid.model()->index(0, 1).data(), "two lines");
+    EXPECT_EQ(grid.currentText("Description"), "two\nlines");
+    EXPECT_EQ(grid.model()->index(0, 2).data(), "1,234.50");
+    EXPECT_EQ(grid.model()->index(0, 3).data(), "1,200");
+    EXPECT_EQ(grid.currentText("SellingPrice"), "0");
+    EXPECT_EQ(grid.currentText("DateUpdate"), "");
+    EXPECT_TRUE(grid.model()->index(0, 2).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+}
+
+TEST_F(UiGrid, TheCurrentRowIsTheFirstUntilAPersonMoves) {
+    EXPECT_FALSE(grid.hasCurrent());
+    EXPECT_EQ(grid.currentText("ItemCode"), "");
+    open(20);
+    EXPECT_TRUE(grid.hasCurrent());
+    EXPECT_EQ(grid.currentText("ItemCode"), column(grid, 0)[0]);
+    person::look(&grid);
+    grid.setFocus();
+    person::press(Qt::Key_Down);
+    EXPECT_EQ(grid.currentText("ItemCode"), column(grid, 0)[1]);
+    grid.selectKey("ItemCode", codeOf(13));
+    EXPECT_EQ(grid.currentText("ItemCode"), codeOf(13));
+    grid.clearRows();
+    EXPECT_FALSE(grid.hasCurrent());
+}
+
+TEST_F(UiGrid, AStatementThatFailsLeavesWhatItShowed) {
+    open(5);
+    EXPECT_THROW(grid.setSource(store.connection(), itemSource("WHERE Nonsense = 1")), StoreError);
+    EXPECT_EQ(grid.model()->rowCount(), 5);
+    EXPECT_TRUE(grid.hasCurrent());
+}
+
+TEST_F(UiGrid, APageThatCannotBeReadIsToldOnce) {
+    open(150);
+    grid.model()->fetchMore({});
+    store.connection().run("ALTER TABLE tblItemMaster RENAME TO tblElsewhere");
+    BoxScript boxes;
+    boxes.expect("Error...");
+    person::look(&grid);
+    grid.scrollToBottom();
+    person::settle();
+    EXPECT_EQ(grid.model()->rowCount(), 150);
+}
+
+TEST_F(UiGrid, EnterDoubleClickDeleteAndHeadersAreTold) {
+    open(20);
+    person::look(&grid);
+    const QSignalSpy picked(&grid, &DataGrid::picked);
+    const QSignalSpy deleted(&grid, &DataGrid::deletePressed);
+    const QSignalSpy header(&grid, &DataGrid::headerClicked);
+    grid.setFocus();
+    person::press(Qt::Key_Return);
+    person::doubleClickRow(&grid, 3);
+    EXPECT_EQ(picked.count(), 2);
+    EXPECT_EQ(grid.currentText("ItemCode"), column(grid, 0)[3]);
+    person::press(Qt::Key_Delete);
+    person::press(Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(deleted.count(), 1) << "Shift+Del is the frame's";
+    person::clickHeader(&grid, 2);
+    ASSERT_EQ(header.count(), 1);
+    EXPECT_EQ(header[0][0].toInt(), 2);
+}
+
+// ---------------------------------------------------------------------------------------------------------
+
+namespace {
+
+// A screen with a field that a picker fills.
+class Opener : public ChildScreen {
+  public:
+    Opener() : ChildScreen("frmOpener", "Opener") {
+        auto* layout = new QGridLayout(this);
+        form::row(layout, 0, 0, "&Item :", item);
+        form::row(layout, 1, 0, "&Remarks :", remarks);
+    }
+    void activated() override { events += "activated"; }
+    void deactivated() override { events += "deactivated"; }
+    TextBox* item = new TextBox("txtItem");
+    TextBox* remarks = new TextBox("txtRemarks");
+    QStringList events;
+};
+
+class UiPicker : public UiGrid {
+  protected:
+    void SetUp() override {
+        open(30);
+        opener = new Opener;
+        ScreenRegistry::instance().show(opener);
+        person::look(opener);
+    }
+    void TearDown() override {
+        delete picker;
+        delete opener;
+        person::settle();
+    }
+    void openPicker() {
+        picker = new GridPicker("frmFound", "Item Search...", itemColumns,
+                                {" ORDER BY ItemCode ASC", " ORDER BY Description DESC"},
+                                [this](const GridPicker::Row& row) {
+                                    ++picks;
+                                    opener->item->setText(row("ItemCode"));
+                                    opener->activateWindow();
+                                    opener->remarks->setFocus();
+                                    person::settle();
+                                });
+        QObject::connect(picker, &ChildScreen::unloaded, opener, [this] { ++unloads; });
+        picker->list(store.connection(), itemSource());
+        ScreenRegistry::instance().show(picker);
+        person::settle();
+        ASSERT_TRUE(picker->isActiveWindow());
+    }
+    QPointer<Opener> opener;
+    QPointer<GridPicker> picker;
+    int picks = 0;
+    int unloads = 0;
+};
+
+}  // namespace
+
+TEST_F(UiPicker, APickFillsAndUnloadsOnceAlthoughTheFillMovesTheFocus) {
+    openPicker();
+    person::press(Qt::Key_Down);
+    const QString code = picker->grid()->currentText("ItemCode");
+    person::press(Qt::Key_Return);
+    EXPECT_FALSE(picker);
+    EXPECT_EQ(opener->item->text(), code);
+    EXPECT_EQ(person::focusName(), "txtRemarks");
+    EXPECT_EQ(picks, 1);
+    EXPECT_EQ(unloads, 1);
+    EXPECT_EQ(opener->events, QStringList("activated")) << "its own picker is no other part";
+}
+
+TEST_F(UiPicker, EscAndTheLossOfTheFocusUnloadWithoutAPick) {
+    openPicker();
+    person::press(Qt::Key_Escape);
+    EXPECT_FALSE(picker);
+    EXPECT_TRUE(opener->isActiveWindow());
+    openPicker();
+    opener->activateWindow();
+    opener->item->setFocus();
+    person::settle();
+    EXPECT_FALSE(picker);
+    EXPECT_EQ(picks, 0);
+    EXPECT_EQ(unloads, 2);
+    EXPECT_EQ(opener->events, QStringList("activated"));
+}
+
+TEST_F(UiPicker, AClickOnAHeaderListsAgainInItsOrder) {
+    openPicker();
+    person::clickHeader(picker->grid(), 0);
+    EXPECT_EQ(picker->grid()->currentText("ItemCode"), codeOf(0));
+    person::clickHeader(picker->grid(), 1);
+    EXPECT_EQ(picker->grid()->currentText("Description"), "Kind 6");
+    person::clickHeader(picker->grid(), 2);
+    EXPECT_EQ(picker->grid()->currentText("Description"), "Kind 6")
+        << "a header without an order does nothing";
+}
+
+// ---------------------------------------------------------------------------------------------------------
+
+namespace {
+
+struct SortCase {
+    const char* name;
+    int column;
+    QStringList ascending;
+    QStringList descending;
+};
+
+QStringList firsts(const ListView& list) {
+    QStringList texts;
+    for (const QStringList& row : list.rows()) texts += row.first();
+    return texts;
+}
+
+const QList<QStringList> someRows = {{"b", "1,000.00", "02/03/2026"},
+                                     {"A", "9.5", "12/31/2025"},
+                                     {"c", "-3", "01/01/2026"},
+                                     {"a", "9.50", "02/03/2026"},
+                                     {"d", "none", ""}};
+
+}  // namespace
+
+TEST(UiList, SortsByKindStablyInBothDirections) {
+    const SortCase cases[] = {
+        {"texts without regard to case", 0, {"A", "a", "b", "c", "d"}, {"d", "c", "b", "A", "a"}},
+        {"amounts as numbers", 1, {"d", "c", "A", "a", "b"}, {"b", "A", "a", "c", "d"}},
+        {"dates as dates", 2, {"d", "A", "c", "b", "a"}, {"b", "a", "c", "A", "d"}},
+    };
+    for (const SortCase& row : cases) {
+        ListView list("lvwItems",
+                      {{"Code"}, {"Total", 12, ListColumn::Number}, {"Date", 12, ListColumn::Date}});
+        const QAbstractItemModelTester tester(list.model(),
+                                              QAbstractItemModelTester::FailureReportingMode::Fatal);
+        list.setRows(someRows);
+        list.setCurrentRow(0);
+        list.toggleSort(row.column);
+        EXPECT_EQ(firsts(list), row.ascending) << row.name;
+        EXPECT_EQ(list.text(list.currentRow(), 0), "b") << "the selected row stays selected";
+        list.setRows(someRows);
+        list.toggleSort(row.column);
+        EXPECT_EQ(firsts(list), row.descending) << row.name;
+        EXPECT_EQ(list.sortOrder(), Qt::DescendingOrder);
+    }
+}
+
+TEST(UiList, TheTextsAreTheData) {
+    ListView list("lvwItems", {{"Code"}, {"Total", 12, ListColumn::Number}});
+    const QAbstractItemModelTester tester(list.model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QString endless(100000, u'x');
+    EXPECT_EQ(list.addRow({"A"}), 0);
+    list.addRow({"two\nlines", "1,234.50"});
+    list.setText(0, 1, endless);
+    EXPECT_EQ(list.row(0), QStringList({"A", endless}));
+    EXPECT_LT(list.model()->index(0, 1).data().toString().size(), 1000) << "the screen shows its beginning";
+    EXPECT_EQ(list.text(1, 0), "two\nlines");
+    EXPECT_EQ(list.model()->index(1, 0).data(), "two lines");
+    EXPECT_EQ(list.findRow(0, "TWO\nLINES"), 1);
+    EXPECT_EQ(list.findRow(0, "no"), -1);
+    list.removeRow(0);
+    EXPECT_EQ(list.rowCount(), 1);
+    EXPECT_EQ(list.text(5, 5), "");
+}
+
+TEST(UiList, TellsItsKeysToWhoeverWaitsForThem) {
+    ListView list("lvwItems", {{"Code"}});
+    list.setRows({{"A"}, {"B"}});
+    person::look(&list);
+    list.setFocus();
+    list.setCurrentRow(1);
+    QStringList told;
+    QObject::connect(&list, &ListView::entered, &list,
+                     [&](int row) { told += QString("enter %1").arg(row); });
+    QObject::connect(&list, &ListView::insertPressed, &list, [&] { told += "insert"; });
+    QObject::connect(&list, &ListView::deletePressed, &list, [&] { told += "delete"; });
+    QObject::connect(&list, &ListView::editPressed, &list, [&] { told += "edit"; });
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Insert, Qt::Key_Delete, Qt::Key_F2}) person::press(key);
+    person::press(Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(told, QStringList({"enter 1", "insert", "delete", "edit"}));
+}
+
+TEST(UiList, TenThousandRowsAreShownAndSortedAtOnce) {
+    ListView list("lvwItems", {{"Code"}, {"Total", 12, ListColumn::Number}});
+    QList<QStringList> rows;
+    for (int row = 0; row < 10000; ++row) rows += {codeOf(row), QString::number((row * 7919) % 10000)};
+    person::look(&list);
+    QElapsedTimer timer;
+    timer.start();
+    list.setRows(rows);
+    list.toggleSort(1);
+    person::settle();
+    EXPECT_LT(timer.elapsed(), 500);
+    EXPECT_EQ(list.text(0, 1), "0");
+    EXPECT_EQ(list.text(9999, 1), "9999");
+}
