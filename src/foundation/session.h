@@ -6,15 +6,16 @@
 
 // The session values: they live for the process, and are written only by the routines named beside them.
 struct Session {
-    bool StoreOpen = false;      // OpenDatabase
-    QString CurrentUserCode;     // cmdOK of frmOpening: as typed or chosen, untrimmed
-    QString CurrentUserName;     // the login validation; "ADMIN" after the master login
-    QString CurrentUserCaption;  // load of mdiMain
-    QString ReportPrinterKind;   // ReadPrinterIni: "D" dot matrix, "L" laser or inkjet
-    QString CheckPrinterKind;    // ReadCheckPrinterIni
-    QString ReceiptPrinterKind;  // ReadReceiptPrinterIni
-    QString CheckBookFormat;     // ReadCheckIni: "C" commercial, "P" personal checks
-    QString ReceiptFormat;       // ReadReceiptIni
+    bool StoreOpen = false;        // OpenDatabase
+    QString CurrentUserCode;       // cmdOK of frmOpening: as typed or chosen, untrimmed
+    QString CurrentUserName;       // the login validation; "ADMIN" after the master login
+    QString CurrentUserCaption;    // load of mdiMain
+    QString ReportPrinterKind;     // ReadPrinterIni: "D" dot matrix, "L" laser or inkjet
+    QString CheckPrinterKind;      // ReadCheckPrinterIni
+    QString ReceiptPrinterKind;    // ReadReceiptPrinterIni
+    QString CheckBookFormat;       // ReadCheckIni: "C" commercial, "P" personal checks
+    QString ReceiptFormat;         // ReadReceiptIni
+    bool ClockOffsetTold = false;  // setClock of login.h: the user knows that the machine's clock stays
 };
 
 Session& session();

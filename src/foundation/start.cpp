@@ -1,0 +1,68 @@
+#include "foundation/start.h"
+
+#include "foundation/schema.h"
+#include "foundation/session.h"
+#include "foundation/setting_files.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/screen_registry.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTimer>
+
+namespace {
+
+std::function<void()>& endDoor() {
+    static std::function<void()> door;
+    return door;
+}
+
+std::function<QSize()>& sizeDoor() {
+    static std::function<QSize()> door;
+    return door;
+}
+
+QSize screenSize() {
+    if (sizeDoor()) return sizeDoor()();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? screen->size() : QSize();
+}
+
+}  // namespace
+
+bool OpenDatabase() {
+    try {
+        StoreConnection().open(programFolder().filePath(storeFileName), storePassword);
+        return session().StoreOpen = true;
+    } catch (const StoreError& error) {
+        showBox(exclamation("Connection Error", error.text()));
+        return session().StoreOpen = false;
+    }
+}
+
+bool Main() {
+    registerSchema();
+    if (!OpenDatabase()) {
+        showBox(exclamation(
+            "Database Not Found!",
+            "Database not found!, Please Place the Database with the Same Path as the .EXE File"));
+        return false;
+    }
+    ReadPrinterIni();
+    ScreenRegistry::instance().open("frmOpening");
+    return true;
+}
+
+void endProcess() {
+    if (endDoor()) return endDoor()();
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+}
+
+bool CheckResolution() {
+    const QSize size = screenSize();
+    return size.width() >= 1024 && size.height() >= 768;
+}
+
+void setEndProcessDoor(std::function<void()> door) { endDoor() = std::move(door); }
+void setScreenSizeDoor(std::function<QSize()> door) { sizeDoor() = std::move(door); }

@@ -1,0 +1,14 @@
+#pragma once
+#include <QDialog>
+
+// A modal screen: Enter moves to the next field (or presses the button that has the focus), Esc unloads.
+class ModalForm : public QDialog {
+    Q_OBJECT
+  public:
+    ModalForm(const QString& name, const QString& caption);
+    // Shows it over the active window, until it unloads.
+    void showModal();
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
