@@ -4,9 +4,10 @@
 
 // What a screen is opened with.
 struct ScreenArguments {
-    QString kind;     // "PO", "R", ...
-    QString key;      // of the record to show; empty: a new one, or none
-    QString caption;  // empty: the screen's own
+    QString kind;         // "PO", "R", ...
+    QString key;          // of the record to show; empty: a new one, or none
+    QString caption;      // empty: the screen's own
+    QString choice = {};  // the option button that is set: "optSummary"; empty: the screen's own
     bool operator==(const ScreenArguments&) const = default;
 };
 
