@@ -1,0 +1,46 @@
+#include "shell/company_document.h"
+
+#include "platform/masks.h"
+#include "platform/parsing.h"
+#include "platform/store/transaction.h"
+
+const std::vector<CompanyField>& companyFields() {
+    static const std::vector<CompanyField> fields{
+        {"txtCompanyName", "Company &Name :", "CompanyName"},
+        {"txtCompanyAddress", "Company &Address :", "CompanyAddress"},
+        {"txtCompanyTelNo", "Company &Tel. No. :", "CompanyTelNo"},
+        {"txtCompanyEmail", "Company &eMail :", "CompanyEmail"},
+        {"txtCompanyLogo", "Company &Logo :", "CompanyLogo"},
+        {"txtTIN", "Company T&IN No. :", "CompanyTIN"},
+        {"txtPrepare", "&Prepared By :", "Prepared"},
+        {"txtChecked", "C&hecked By :", "Checked"},
+        {"txtApproved", "App&roved By :", "Approved"},
+    };
+    return fields;
+}
+
+CompanyProfile loadCompany(Connection& store) {
+    const Recordset row = store.execute("SELECT * FROM tblSystemProfile");
+    CompanyProfile profile;
+    if (row.eof()) return profile;
+    for (const CompanyField& field : companyFields()) profile.texts[field.column] = row.trimmed(field.column);
+    profile.tax = formatNumber(row.currency("ValueTax"), mask::price);
+    return profile;
+}
+
+Outcome saveCompany(Connection& store, const CompanyProfile& profile) {
+    if (profile.texts["CompanyName"].isEmpty())
+        return Fault{exclamation("Error!", "Please Enter Company Name!"), "txtCompanyName"};
+    const auto tax = parseNumber(profile.tax);
+    if (!tax)
+        return Fault{exclamation("Error!", "Please Enter Numeric Value for Value Added Tax!"), "txtTax"};
+    Transaction save(store);
+    Recordset row = store.openTable("tblSystemProfile", "WHERE 1 = 1");
+    if (row.eof()) row.addNew();
+    for (const CompanyField& field : companyFields())
+        row.set(field.column, trim(profile.texts[field.column]));
+    row.set("ValueTax", *tax);
+    row.update();
+    save.commit();
+    return Done{{information("Saved!", "Record Successfully Saved!")}};
+}

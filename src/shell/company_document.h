@@ -1,0 +1,25 @@
+#pragma once
+#include "platform/outcome.h"
+#include "platform/store/connection.h"
+
+#include <QString>
+#include <vector>
+
+// One text of the firm's row in tblSystemProfile, with the box that it is typed into.
+struct CompanyField {
+    const char* control;
+    const char* label;
+    const char* column;
+};
+const std::vector<CompanyField>& companyFields();
+
+// The firm's details as typed.
+struct CompanyProfile {
+    QHash<QString, QString> texts;  // by column
+    QString tax;                    // as typed; read as "#,##0.0000"
+};
+
+// Empty texts from a store that has no row.
+CompanyProfile loadCompany(Connection& store);
+// Writes the one row, or adds it. Throws StoreError.
+Outcome saveCompany(Connection& store, const CompanyProfile& profile);

@@ -1,0 +1,148 @@
+#include "shell/frmCompanySetup.h"
+
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/file_dialogs.h"
+#include "platform/ui/form.h"
+#include "platform/ui/text_box.h"
+
+#include <QImageReader>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr const char* logoColumn = "CompanyLogo";
+constexpr QSize logoSize(220, 160);
+
+}  // namespace
+
+frmCompanySetup::frmCompanySetup()
+    : RecordScreen("frmCompanySetup", "Company Parameter Setup", FillsFrame),
+      txtTax(makeBox("txtTax")),
+      imgLogo(new QLabel) {
+    build();
+    guarded([this] { load(); });
+}
+
+TextBox* frmCompanySetup::makeBox(const QString& name) {
+    auto* box = new TextBox(name);
+    box->setKeyFilter(keys::freeText());
+    connect(box, &TextBox::textChanged, this, [this] { mblnUpdated = true; });
+    return box;
+}
+
+void frmCompanySetup::build() {
+    auto* grid = new QGridLayout;
+    grid->setColumnStretch(1, 1);
+    grid->setVerticalSpacing(8);
+    for (const CompanyField& field : companyFields()) makeField(grid, field);
+    txtTax->setAlignment(Qt::AlignRight);
+    txtTax->setMaximumWidth(form::charactersWide(txtTax, 18));
+    boxes_[logoColumn]->setReadOnly(true);
+
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(grid, 1);
+    columns->addSpacing(16);
+    columns->addLayout(makeLogo());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 20);
+    layout->addLayout(columns);
+    layout->addStretch();
+}
+
+void frmCompanySetup::makeField(QGridLayout* grid, const CompanyField& field) {
+    // The tax stands in front of the signature lines.
+    if (field.column == QLatin1StringView("Prepared"))
+        form::row(grid, grid->rowCount(), 0, "&Value Added Tax :", txtTax);
+    TextBox* box = makeBox(field.control);
+    box->setMinimumWidth(form::charactersWide(box, 30));
+    boxes_[field.column] = box;
+    form::row(grid, grid->rowCount(), 0, field.label, box);
+}
+
+QLayout* frmCompanySetup::makeLogo() {
+    imgLogo->setObjectName("imgLogo");
+    imgLogo->setAccessibleName("Company Logo");
+    imgLogo->setFixedSize(logoSize);
+    imgLogo->setAlignment(Qt::AlignCenter);
+    imgLogo->setFrameShape(QFrame::StyledPanel);
+    QPushButton* search = form::button("cmdSearch1", "&Browse...");
+    QPushButton* clear = form::button("cmdClear", "Clea&r Logo");
+    search->setAutoDefault(true);
+    clear->setAutoDefault(true);
+    connect(search, &QPushButton::clicked, this, &frmCompanySetup::cmdSearch1_Click);
+    connect(clear, &QPushButton::clicked, this, &frmCompanySetup::cmdClear_Click);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(search);
+    buttons->addWidget(clear);
+    auto* column = new QVBoxLayout;
+    column->addWidget(imgLogo);
+    column->addLayout(buttons);
+    column->addStretch();
+    return column;
+}
+
+void frmCompanySetup::load() {
+    const CompanyProfile profile = loadCompany(StoreConnection());
+    for (auto box = boxes_.begin(); box != boxes_.end(); ++box)
+        box.value()->setText(profile.texts.value(box.key()));
+    txtTax->setText(profile.tax);
+    showLogo();
+    mblnUpdated = false;
+}
+
+CompanyProfile frmCompanySetup::typed() const {
+    CompanyProfile profile;
+    for (auto box = boxes_.begin(); box != boxes_.end(); ++box)
+        profile.texts[box.key()] = box.value()->text();
+    profile.tax = txtTax->text();
+    return profile;
+}
+
+// A file that cannot be read leaves the picture empty.
+void frmCompanySetup::showLogo() {
+    const QString path = boxes_[logoColumn]->text();
+    const QPixmap picture =
+        path.isEmpty() ? QPixmap() : QPixmap::fromImageReader(std::make_unique<QImageReader>(path).get());
+    imgLogo->clear();
+    if (!picture.isNull())
+        imgLogo->setPixmap(picture.scaled(logoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+bool frmCompanySetup::SaveRecord() {
+    try {
+        const Outcome outcome = saveCompany(StoreConnection(), typed());
+        if (const auto* fault = std::get_if<Fault>(&outcome)) {
+            showFault(*fault, this);
+            return false;
+        }
+        mblnUpdated = false;
+        showBoxes(std::get<Done>(outcome).boxes);
+        return true;
+    } catch (const StoreError& error) {
+        showBox(saveErrorBox(error));
+        return false;
+    }
+}
+
+bool frmCompanySetup::queryUnload() {
+    if (!mblnUpdated) return true;
+    const BoxAnswer answer =
+        showBox({"Confirm Update Record!", "Current Record has been Updated.  Save Changes then Exit?",
+                 BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes});
+    return answer == BoxAnswer::Yes ? SaveRecord() : answer == BoxAnswer::No;
+}
+
+void frmCompanySetup::cmdSearch1_Click() {
+    TextBox* box = boxes_[logoColumn];
+    const QString path = desk::openFile(this, "Select Company Logo", box->text(), "*.*");
+    if (path.isEmpty()) return;
+    box->setText(path);
+    showLogo();
+}
+
+void frmCompanySetup::cmdClear_Click() {
+    boxes_[logoColumn]->clear();
+    showLogo();
+}
