@@ -1,0 +1,126 @@
+#include "shell/frmRecordLock.h"
+
+#include "platform/ui/combo_box.h"
+#include "platform/ui/text_box.h"
+#include "support/box_script.h"
+#include "support/test_store.h"
+#include "support/users.h"
+
+#include <QGroupBox>
+#include <QPushButton>
+#include <QTest>
+
+namespace {
+
+constexpr const char* sure = "Are you Sure?";
+
+QString questionOf(const QString& beginning) {
+    return beginning + "! Please Make Sure That There is No One Editing or Printing Record at the Moment!";
+}
+
+class RecordLockTest : public SessionTest {
+  protected:
+    void SetUp() override {
+        SessionTest::SetUp();
+        store().run("INSERT INTO tblSalesMaster (RefNo, RecordLock) VALUES ('11-1001-2026', True)");
+        store().run("INSERT INTO tblSalesMaster (RefNo, RecordLock) VALUES ('11-1002-2026', False)");
+        store().run("INSERT INTO tblReceiptMaster (PayNo, RecordLock) VALUES (7, False)");
+        screen = new frmRecordLock;
+        screen->show();
+    }
+    void TearDown() override {
+        delete screen;
+        SessionTest::TearDown();
+    }
+    template <class Control>
+    Control* control(const char* name) {
+        return screen->findChild<Control*>(name);
+    }
+    void pick(const QString& number) {
+        control<ComboBox>("cboSelection")->setText(number);
+        emit control<ComboBox>("cboSelection")->picked();
+    }
+    void pickJournal(const QString& journal) {
+        control<ComboBox>("cboJournal")->setText(journal);
+        emit control<ComboBox>("cboJournal")->picked();
+    }
+    QPair<bool, bool> buttons() {
+        return {control<QPushButton>("cmdLock")->isEnabled(), control<QPushButton>("cmdUnlock")->isEnabled()};
+    }
+    qint64 locked(const QString& table) {
+        return store()
+            .execute("SELECT COUNT(*) AS Ihap FROM " + table + " WHERE RecordLock = True")
+            .integer("Ihap");
+    }
+
+    QPointer<frmRecordLock> screen;
+    BoxScript boxes;
+};
+
+TEST_F(RecordLockTest, ALockedDocumentIsReleasedAfterTheOneQuestion) {
+    EXPECT_EQ(control<QGroupBox>("fraSelection")->title(), "Enter Delivery Receipt No. :");
+    EXPECT_EQ(control<ComboBox>("cboSelection")->count(), 2);
+    EXPECT_EQ(buttons(), qMakePair(true, true));
+    pick("11-1001-2026");
+    EXPECT_EQ(buttons(), qMakePair(false, true));
+    const QString words = questionOf("This will Lock D.R. No. 11-1001-2026");
+    boxes.expect(sure, words, BoxAnswer::No);
+    control<QPushButton>("cmdUnlock")->click();
+    EXPECT_EQ(locked("tblSalesMaster"), 1);
+    boxes.expect(sure, words, BoxAnswer::Yes).expect("Released!", "Record Successfully Released!");
+    control<QPushButton>("cmdUnlock")->click();
+    EXPECT_EQ(locked("tblSalesMaster"), 0);
+    EXPECT_EQ(control<ComboBox>("cboSelection")->text(), "");
+    EXPECT_EQ(buttons(), qMakePair(true, true));
+}
+
+TEST_F(RecordLockTest, OnlyTheChosenDocumentOfTheChosenJournalIsLocked) {
+    pickJournal("Payments Receipt Entry");
+    EXPECT_EQ(control<QGroupBox>("fraSelection")->title(), "Enter Payment No. :");
+    pick("7");
+    EXPECT_EQ(buttons(), qMakePair(true, false));
+    boxes.expect(sure, questionOf("This will Lock Payment No. 7"), BoxAnswer::Yes).expect("Locked!");
+    control<QPushButton>("cmdLock")->click();
+    EXPECT_EQ(locked("tblReceiptMaster"), 1);
+    EXPECT_EQ(locked("tblSalesMaster"), 1);
+}
+
+TEST_F(RecordLockTest, WhatIsNotThereIsToldAndNothingIsWritten) {
+    boxes.expect("No Record!", "Please Select a Record to Lock!");
+    control<QPushButton>("cmdLock")->click();
+    boxes.expect("No Record!", "Please Select a Record to UnLock!");
+    control<QPushButton>("cmdUnlock")->click();
+    const struct {
+        const char* journal;
+        const char* missing;
+    } cases[] = {{"Sales Order Entry", "Delivery Receipt No. Does Not Exist!"},
+                 {"Payments Receipt Entry", "Payment No. Does Not Exist!"},
+                 {"Purchase Order Entry", "Purchase Order No. Does Not Exist!"},
+                 {"Disbursement Entry", "Voucher No. Does Not Exist!"}};
+    for (const auto& row : cases) {
+        pickJournal(row.journal);
+        control<ComboBox>("cboSelection")->setText("x' OR '1'='1");
+        boxes.expect("Error!", row.missing);
+        control<QPushButton>("cmdLock")->click();
+    }
+    boxes.expect("Error!", "Voucher No. Does Not Exist!");
+    pick("nothing");
+    EXPECT_EQ(locked("tblSalesMaster"), 1);
+}
+
+TEST_F(RecordLockTest, LeavingTheNumberReadsItsStatus) {
+    auto* number = control<ComboBox>("cboSelection");
+    number->setFocus();
+    QTest::qWait(1);
+    number->setText("11-1002-2026");
+    control<QPushButton>("cmdLock")->setFocus();
+    QTest::qWait(1);
+    EXPECT_EQ(buttons(), qMakePair(true, false));
+}
+
+TEST_F(RecordLockTest, AnUnknownJournalIsRefused) {
+    const Outcome outcome = changeLock(store(), LockChange::Lock, "Bad Order Entry", "1", true);
+    EXPECT_EQ(std::get<Fault>(outcome).box.text, "Please Select Transaction Journal First!");
+}
+
+}  // namespace
