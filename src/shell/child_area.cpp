@@ -1,0 +1,104 @@
+#include "shell/child_area.h"
+
+#include "platform/ui/icons.h"
+#include "shell/window_arrangement.h"
+
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QResizeEvent>
+
+namespace {
+
+ChildScreen* screenIn(const QMdiSubWindow* window) {
+    return window ? qobject_cast<ChildScreen*>(window->widget()) : nullptr;
+}
+
+QMdiSubWindow* windowOf(ChildScreen* screen) { return qobject_cast<QMdiSubWindow*>(screen->parentWidget()); }
+
+// The keys of a child window's own menu would take Ctrl+W from the record commands.
+void freeKeys(const QMdiSubWindow* window) {
+    if (const QMenu* menu = window->systemMenu())
+        for (QAction* action : menu->actions()) action->setShortcuts(QList<QKeySequence>());
+}
+
+}  // namespace
+
+ChildArea::ChildArea(QWidget* frame) : QMdiArea(frame) {
+    setObjectName("MDIClient");
+    setAccessibleName("Open screens");
+    setBackground(palette().brush(QPalette::Dark));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setOption(DontMaximizeSubWindowOnActivation);
+    connect(this, &QMdiArea::subWindowActivated, this, &ChildArea::childrenChanged);
+}
+
+void ChildArea::host(ChildScreen* screen) {
+    QMdiSubWindow* window = addSubWindow(screen);
+    window->setWindowIcon(bundledIcon("bird"));
+    freeKeys(window);
+    // Told when it has gone, not while it goes.
+    connect(screen, &ChildScreen::unloaded, this, &ChildArea::childrenChanged, Qt::QueuedConnection);
+    window->setGeometry(placeFor(screen, window->sizeHint()));
+    window->show();
+    setActiveSubWindow(window);
+    emit childrenChanged();
+}
+
+QRect ChildArea::placeFor(const ChildScreen* screen, const QSize& wanted) const {
+    const QRect room = viewport()->rect();
+    if (screen->placement() == ChildScreen::FillsFrame) return room;
+    QRect place(QPoint(0, 0), wanted.boundedTo(room.size()));
+    place.moveCenter(room.center());
+    return place;
+}
+
+void ChildArea::bringForward(ChildScreen* screen) {
+    QMdiSubWindow* window = windowOf(screen);
+    if (!window) return;
+    if (window->isMinimized()) window->showNormal();
+    setActiveSubWindow(window);
+}
+
+ChildScreen* ChildArea::activeChild() const { return screenIn(currentSubWindow()); }
+
+QList<ChildScreen*> ChildArea::children() const {
+    QList<ChildScreen*> screens;
+    for (const QMdiSubWindow* window : subWindowList(CreationOrder))
+        if (ChildScreen* screen = screenIn(window)) screens << screen;
+    return screens;
+}
+
+QList<QMdiSubWindow*> ChildArea::shown(bool minimized) const {
+    QList<QMdiSubWindow*> windows;
+    for (QMdiSubWindow* window : subWindowList(CreationOrder))
+        if (window->isVisible() && window->isMinimized() == minimized) windows << window;
+    return windows;
+}
+
+void ChildArea::tile(Qt::Orientation orientation) {
+    const QList<QMdiSubWindow*> windows = shown(false);
+    const QList<QRect> places = tiled(viewport()->rect(), static_cast<int>(windows.size()), orientation);
+    for (qsizetype i = 0; i < windows.size(); ++i) {
+        windows[i]->showNormal();
+        windows[i]->setGeometry(places[i]);
+    }
+}
+
+void ChildArea::cascade() { cascadeSubWindows(); }
+
+void ChildArea::arrangeIcons() {
+    const QList<QMdiSubWindow*> icons = shown(true);
+    if (icons.isEmpty()) return;
+    const QList<QRect> places =
+        alongBottom(viewport()->rect(), static_cast<int>(icons.size()), icons.first()->size());
+    for (qsizetype i = 0; i < icons.size(); ++i) icons[i]->move(places[i].topLeft());
+}
+
+// A screen that fills the frame goes on filling it.
+void ChildArea::resizeEvent(QResizeEvent* event) {
+    const QSize before = event->oldSize();
+    QMdiArea::resizeEvent(event);
+    for (QMdiSubWindow* window : shown(false))
+        if (window->geometry() == QRect(QPoint(0, 0), before)) window->setGeometry(viewport()->rect());
+}

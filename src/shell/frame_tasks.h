@@ -1,0 +1,18 @@
+#pragma once
+#include "platform/store/connection.h"
+
+// What menu items do by themselves, without a screen.
+
+// Asks, and rebuilds every balance behind the shared progress box.
+void recomputeBalances();
+
+// The question before a report that rests on the end of day, while rows are waiting for it. True: go on.
+bool goesOnWithPendingRows();
+
+// The sets of the reports that have no selection screen. Nothing in them: the box "Nothing to Print!".
+void printReceivableDueChecks();
+void printPayableDueChecks();
+void printContactList();
+
+// Reminds of the end of day when rows are waiting for it.
+void remindOfEndOfDay();

@@ -1,0 +1,60 @@
+#include "shell/screen_opening.h"
+
+#include "foundation/session.h"
+#include "platform/parsing.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/file_dialogs.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace {
+
+constexpr const char* supportFile = "Support.ini";
+
+QString supportAddress() {
+    QFile file(programFolder().filePath(supportFile));
+    if (!file.open(QIODevice::ReadOnly)) return {};
+    return QString::fromUtf8(file.readLine(1000)).trimmed();
+}
+
+void openOrTell(const QString& fileOrUrl, const QString& name) {
+    if (!desk::openWithDesktop(fileOrUrl))
+        showBox(exclamation("Zevrin!", QString("Nothing on this computer opens %1.").arg(name)));
+}
+
+}  // namespace
+
+void openChosenScreen(const QString& screen, const ScreenArguments& arguments, const QString& name) {
+    if (ScreenRegistry::instance().knows(screen))
+        ScreenRegistry::instance().open(screen, arguments);
+    else
+        tellNotYet(name);
+}
+
+void openIfKnown(const QString& screen) {
+    if (ScreenRegistry::instance().knows(screen)) ScreenRegistry::instance().open(screen);
+}
+
+void tellNotYet(const QString& name) {
+    showBox(information("Zevrin!", QString("\"%1\" is not part of this version yet.").arg(name)));
+}
+
+void openProgramFile(const QString& fileName) {
+    const QString path = programFolder().filePath(fileName);
+    if (QFileInfo::exists(path))
+        openOrTell(path, fileName);
+    else
+        showBox(exclamation("Zevrin!", QString("The file %1 is not in the folder of the program, %2.")
+                                           .arg(fileName, programFolder().absolutePath())));
+}
+
+void contactSupport() {
+    const QString address = supportAddress();
+    if (address.isEmpty())
+        showBox(information("Zevrin!", QString("No support address is set. Write it into the file %1 in the "
+                                               "folder of the program.")
+                                           .arg(supportFile)));
+    else
+        openOrTell("mailto:" + address, address);
+}

@@ -1,0 +1,376 @@
+#include "shell/frame_fixture.h"
+
+#include "books/posting_queue.h"
+#include "shell/child_area.h"
+#include "shell/frmShortcuts.h"
+#include "shell/menu_catalogue.h"
+#include "shell/screen_opening.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QStatusBar>
+#include <QTest>
+#include <QToolButton>
+
+namespace {
+
+constexpr const char* stillWaiting =
+    "There are Still Transactions for Posting! Do you still want to Continue?";
+constexpr const char* longTime = "It May Take a Long Time to Re-Compute Balances! Do you want to Continue?";
+
+// All that a person can reach by menu: the items that are seen and enabled, under menus that are.
+QStringList reachable(const mdiMain* frame) {
+    QStringList names;
+    for (const QMenu* menu : frame->findChildren<QMenu*>()) {
+        if (!menu->menuAction()->isEnabled()) continue;
+        for (const QAction* action : menu->actions())
+            if (action->isEnabled() && action->isVisible() && !action->isSeparator() && !action->menu())
+                names << action->objectName();
+    }
+    return names;
+}
+
+QStringList itemsWithARight() {
+    QStringList names;
+    for (const MenuTable& menu : menuCatalogue())
+        for (const MenuItem& row : menu.rows)
+            if (row.right) names << QString("%1_%2").arg(menu.items).arg(row.index);
+    return names;
+}
+
+QStringList panelKeys(const mdiMain* frame) {
+    const auto* list = frame->findChild<QListWidget*>("lvMenu");
+    QStringList keys;
+    for (int row = 0; row < list->count(); ++row) keys << list->item(row)->data(Qt::UserRole).toString();
+    return keys;
+}
+
+void waitForTimers() { QTest::qWait(150); }
+
+QLabel* panel(const mdiMain* frame, const QString& key) {
+    return frame->findChild<QLabel*>("sbrMain_" + key);
+}
+
+TEST_F(FrameTest, AUserReachesWhatTheirRowsGrantAndNothingElse) {
+    addUser(store(), "clerk", "abc", {100, 101, 106, 305, 402, 777});
+    logIn("clerk");
+    const QStringList items = reachable(frame);
+    QStringList granted;
+    for (const QString& name : itemsWithARight())
+        if (items.contains(name)) granted << name;
+    // 402 without 400, and 305 without 300, lie under menus that stay shut.
+    EXPECT_EQ(granted, (QStringList{"mnuTransactionItem_2", "mnuManageCheckItem_1"}));
+    EXPECT_FALSE(item("mnuFileItem_0")->isEnabled());
+    EXPECT_FALSE(item("mnuMaintenanceItem_6")->isEnabled());
+    EXPECT_FALSE(item("mnuAdminItem_2")->isVisible());
+    EXPECT_FALSE(item("mnuAdminItem_1")->isVisible());
+    EXPECT_EQ(panelKeys(frame), (QStringList{"frmSalesGrid", "frmCompanySetup", "frmSearch", "frmCalculator",
+                                             "frmHelp", "Switch", "Exit"}));
+    EXPECT_EQ(panel(frame, "UserName")->text(), "Current User : clerk - Administrator");
+}
+
+TEST_F(FrameTest, NoKeyAndNoToolReachesAnItemThatIsShut) {
+    addUser(store(), "nobody", "abc");
+    logIn("nobody");
+    ScreenRegistry::instance().opened("frmReorder")->unload();
+    for (const QAction* action : frame->findChildren<QAction*>())
+        if (!action->shortcut().isEmpty()) {
+            EXPECT_FALSE(itemsWithARight().contains(action->objectName())) << "a key";
+            QTest::keySequence(frame, action->shortcut());
+        }
+    for (const ToolRow& tool : toolCatalogue())
+        EXPECT_FALSE(itemsWithARight().contains(tool.item)) << tool.key;
+    QStringList screens;
+    for (const ChildScreen* screen : ScreenRegistry::instance().openScreens())
+        screens << screen->objectName();
+    EXPECT_EQ(screens, QStringList{"frmSearch"});
+}
+
+TEST_F(FrameTest, TheAdministratorGetsTheRecordLockInPlaceOfTheHiddenItem) {
+    logIn();
+    EXPECT_EQ(item("mnuAdminItem_2")->text(), "&Transaction Record Lock...");
+    EXPECT_TRUE(item("mnuAdminItem_2")->isVisible());
+    EXPECT_TRUE(item("mnuAdminItem_1")->isVisible());
+    EXPECT_TRUE(item("mnuFileItem_0")->isEnabled());
+    ScreenRegistry::instance().add("frmRecordLock", [] { return new TestScreen("frmRecordLock"); });
+    choose("mnuAdminItem_2");
+    EXPECT_TRUE(opened("frmRecordLock"));
+}
+
+TEST_F(FrameTest, AUserWithoutARowGetsNoMainWindow) {
+    session().CurrentUserCode = "ghost";
+    showMain();
+    EXPECT_EQ(ended, 1);
+    EXPECT_EQ(ScreenRegistry::instance().host(), nullptr);
+}
+
+TEST_F(FrameTest, TrailingBlanksOfATypedCodeDoNotCostTheRights) {
+    logIn("admin ");
+    EXPECT_TRUE(item("mnuFileItem_0")->isEnabled());
+    EXPECT_TRUE(item("mnuReportItem_30")->isEnabled());
+}
+
+TEST_F(FrameTest, TheFirstScreensComeByThemselves) {
+    store().run("UPDATE tblSystemProfile SET CompanyName = 'Zevrin'");
+    logIn();
+    EXPECT_EQ(windows, QStringList{"frmDateChecker"});
+    EXPECT_TRUE(opened("frmCompanySetup"));
+    EXPECT_TRUE(opened("frmReorder"));
+}
+
+TEST_F(FrameTest, CommandsGoToTheActiveChildByNameAndMissOnesDoNothing) {
+    BoxScript noBoxes;
+    logIn();
+    TestScreen* first = open("frmItem");
+    TestScreen* second = open("frmContacts");
+    for (const char* name : {"mnuRecordItem_0", "mnuRecordItem_2", "mnuRecordItem_3", "mnuRecordItem_4",
+                             "mnuRecordItem_7", "mnuRecordItem_10", "mnuViewItem_3"})
+        choose(name);
+    for (const char* key : {"New", "Save", "Next", "Print", "Refresh"})
+        frame->findChild<QToolButton*>(QString("tbrMain_%1").arg(key))->click();
+    EXPECT_EQ(second->calls, (QStringList{"NewRecord", "EditRecord", "DeleteRecord", "RefreshRecord",
+                                          "NewRecord", "PrintRecord", "RefreshRecord"}));
+    EXPECT_EQ(first->calls, QStringList());
+    choose("mnuRecordItem_5");
+    EXPECT_FALSE(opened("frmContacts"));
+    choose("mnuRecordItem_0");
+    EXPECT_EQ(first->calls, QStringList{"NewRecord"});
+}
+
+TEST_F(FrameTest, KeysWorkFromATextBox) {
+    logIn();
+    TestScreen* screen = open("frmItem");
+    auto* field = screen->findChild<QLineEdit*>("txtField");
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(field->text(), "typed text");
+    QTest::keyClick(field, Qt::Key_N, Qt::ControlModifier);
+    QTest::keyClick(field, Qt::Key_F5);
+    EXPECT_EQ(screen->calls, (QStringList{"DeleteRecord", "NewRecord", "RefreshRecord"}));
+    QTest::keyClick(field, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(opened("frmSearch"));
+    ScreenRegistry::instance().open("frmItem");
+    QTest::qWait(1);
+    QTest::keyClick(field, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(opened("frmItem"));
+}
+
+TEST_F(FrameTest, WithoutTheRightToDeleteNeitherMenuToolNorKeyDeletes) {
+    logIn();
+    TestScreen* screen = open("frmSalesGrid");
+    screen->mayDelete = false;
+    TestScreen* other = open("frmItem");
+    ScreenRegistry::instance().open("frmSalesGrid");
+    QTest::qWait(1);
+    EXPECT_FALSE(item("mnuRecordItem_3")->isEnabled());
+    EXPECT_FALSE(frame->findChild<QToolButton*>("tbrMain_Delete")->isEnabled());
+    choose("mnuRecordItem_3");
+    QTest::keyClick(screen->findChild<QLineEdit*>("txtField"), Qt::Key_Delete, Qt::ShiftModifier);
+    EXPECT_EQ(screen->calls, QStringList());
+    screen->unload();
+    QTest::qWait(1);
+    EXPECT_TRUE(item("mnuRecordItem_3")->isEnabled());
+    choose("mnuRecordItem_3");
+    EXPECT_EQ(other->calls, QStringList{"DeleteRecord"});
+}
+
+TEST_F(FrameTest, AReportScreenHidesTheReportsAsLongAsItIsOpen) {
+    logIn();
+    QAction* reports = frame->findChild<QMenu*>("mnuReport")->menuAction();
+    ScreenRegistry::instance().add("frmPrint", [] {
+        auto* screen = new TestScreen("frmPrint");
+        screen->hidesReports = true;
+        return screen;
+    });
+    open("frmPrint");
+    EXPECT_FALSE(reports->isVisible());
+    open("frmItem");
+    EXPECT_FALSE(reports->isVisible());
+    opened("frmPrint")->unload();
+    QTest::qWait(1);
+    EXPECT_TRUE(reports->isVisible());
+}
+
+TEST_F(FrameTest, TheStatusBarMirrorsTheFlagsAndKeepsItsLastText) {
+    logIn();
+    TestScreen* screen = open("frmItem");
+    screen->mblnAddmode = true;
+    waitForTimers();
+    EXPECT_EQ(panel(frame, "EditMode")->text(), "New");
+    EXPECT_EQ(panel(frame, "Status")->text(), "Up to date");
+    choose("mnuViewItem_1");
+    EXPECT_FALSE(frame->statusBar()->isVisible());
+    screen->mblnAddmode = false;
+    screen->mblnUpdated = true;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    waitForTimers();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    screen->unload();
+    waitForTimers();
+    EXPECT_EQ(panel(frame, "EditMode")->text(), "Edit");
+    EXPECT_EQ(panel(frame, "Status")->text(), "Editing...");
+}
+
+TEST_F(FrameTest, ThePanelLiesOverTheEmptyFrameOnly) {
+    logIn();
+    auto* shortcuts = frame->findChild<frmShortcuts*>();
+    EXPECT_FALSE(shortcuts->isVisible());
+    opened("frmReorder")->unload();
+    waitForTimers();
+    EXPECT_TRUE(shortcuts->isVisible());
+    EXPECT_TRUE(shortcuts->property("mblnFocus").toBool());
+    EXPECT_EQ(panelKeys(frame).first(), "frmSalesGrid");
+    QTest::keyClick(frame->findChild<QListWidget*>("lvMenu"), Qt::Key_Return);
+    ASSERT_TRUE(opened("frmSalesGrid"));
+    EXPECT_FALSE(shortcuts->isVisible());
+    EXPECT_TRUE(opened("frmSalesGrid")->isVisible());
+}
+
+TEST_F(FrameTest, CloseAllStopsAtTheFirstScreenThatStays) {
+    logIn();
+    opened("frmReorder")->unload();
+    open("frmItem");
+    open("frmContacts")->leaves = false;
+    open("frmUnitGrid");
+    choose("mnuWindowItem_4");
+    EXPECT_FALSE(opened("frmItem"));
+    EXPECT_TRUE(opened("frmContacts"));
+    EXPECT_TRUE(opened("frmUnitGrid"));
+    EXPECT_TRUE(frame->isVisible());
+}
+
+TEST_F(FrameTest, LogoffAndExitStopAfterACancelAndRemindOfTheEndOfDay) {
+    logIn();
+    QueueBookForPosting(store(), "S", "11-1001-2026", "1", QDate(2026, 3, 2));
+    BoxScript boxes;
+    open("frmItem")->leaves = false;
+    choose("mnuFileItem_8");
+    choose("mnuFileItem_9");
+    EXPECT_TRUE(frame->isVisible());
+    EXPECT_EQ(ended, 0);
+    EXPECT_FALSE(windows.contains("frmOpening"));
+    opened("frmItem")->leaves = true;
+    boxes.expect("Zevrin!", "Please Don't Forget to Process End of Day Transactions!");
+    choose("mnuFileItem_8");
+    EXPECT_TRUE(windows.contains("frmOpening"));
+    EXPECT_FALSE(frame && frame->isVisible());
+}
+
+TEST_F(FrameTest, ExitEndsTheProcessWithoutAReminderWhenNothingWaits) {
+    BoxScript noBoxes;
+    logIn();
+    frame->findChild<QToolButton*>("tbrMain_Exit")->click();
+    EXPECT_EQ(ended, 1);
+}
+
+TEST_F(FrameTest, ReportsThatRestOnCostingAskWhileRowsAreWaiting) {
+    logIn();
+    QueueBookForPosting(store(), "S", "11-1001-2026", "1", QDate(2026, 3, 2));
+    BoxScript boxes;
+    for (const char* name : {"mnuReportItem_20", "mnuReportItem_23", "mnuReportItem_24"}) {
+        boxes.expect("Zevrin!", stillWaiting, BoxAnswer::No);
+        choose(name);
+    }
+    EXPECT_FALSE(opened("frmPrintTransactions"));
+    boxes.expect("Zevrin!", stillWaiting, BoxAnswer::Yes);
+    choose("mnuReportItem_23");
+    EXPECT_TRUE(opened("frmPrintStockCard"));
+    choose("mnuReportItem_15");
+    EXPECT_EQ(opened("frmPrintTransactions")->windowTitle(), "Print Sales Report...");
+}
+
+TEST_F(FrameTest, ListsWithoutRowsSayThatThereIsNothingToPrint) {
+    logIn();
+    BoxScript boxes;
+    for (const char* name : {"mnuReportItem_9", "mnuReportItem_13", "mnuReportItem_25"}) {
+        boxes.expect("Nothing to Print!", "No Records to Print...");
+        choose(name);
+    }
+    store().run("INSERT INTO tblContactMaster (ContactID, ContactName) VALUES ('1', 'Anna')");
+    boxes.expect("Zevrin!", "\"Print Contact Directory Listing\" is not part of this version yet.");
+    choose("mnuReportItem_25");
+}
+
+TEST_F(FrameTest, AScreenOfALaterVersionSaysSoOnlyToWhoeverAsksForIt) {
+    BoxScript boxes;
+    openIfKnown("frmNoSuchScreen");
+    boxes.expect("Zevrin!", "\"Print Bar Code\" is not part of this version yet.");
+    openChosenScreen("frmNoSuchScreen", {}, "Print Bar Code");
+}
+
+TEST_F(FrameTest, TheBalancesAreRecomputedOnlyAfterAYes) {
+    logIn();
+    store().run("INSERT INTO tblItemMaster (ItemCode, Description, Balance) VALUES ('A', 'NAIL', 70000)");
+    const auto balance = [this] {
+        return store().execute("SELECT Balance FROM tblItemMaster WHERE ItemCode = 'A'").currency("Balance");
+    };
+    BoxScript boxes;
+    boxes.expect("Continue?", longTime, BoxAnswer::No);
+    choose("mnuFileItem_2");
+    EXPECT_EQ(balance(), Currency::fromInteger(7));
+    boxes.expect("Continue?", longTime, BoxAnswer::Yes);
+    choose("mnuFileItem_2");
+    EXPECT_EQ(balance(), Currency());
+}
+
+TEST_F(FrameTest, WindowsAreTiledListedAndBroughtForward) {
+    logIn();
+    opened("frmReorder")->unload();
+    open("frmItem");
+    open("frmContacts");
+    choose("mnuWindowItem_1");
+    const auto windowOf = [this](const char* name) { return opened(name)->parentWidget()->geometry(); };
+    EXPECT_EQ(windowOf("frmItem").top(), windowOf("frmContacts").top());
+    EXPECT_LT(windowOf("frmItem").right(), windowOf("frmContacts").left());
+    choose("mnuWindowItem_2");
+    EXPECT_NE(windowOf("frmItem").topLeft(), windowOf("frmContacts").topLeft());
+
+    auto* menu = frame->findChild<QMenu*>("mnuWindow");
+    emit menu->aboutToShow();
+    EXPECT_EQ(item("mnuWindowList_1")->text(), "&1 Screen frmItem R&&D");
+    item("mnuWindowList_1")->trigger();
+    EXPECT_EQ(frame->findChild<ChildArea*>()->activeChild(), opened("frmItem"));
+    emit menu->aboutToShow();
+    EXPECT_TRUE(item("mnuWindowList_1")->isChecked());
+    EXPECT_EQ(item("mnuWindowList_3"), nullptr);
+}
+
+TEST_F(FrameTest, TheFrameIsActivatedFromOutsideOnly) {
+    logIn();
+    opened("frmReorder")->unload();
+    const auto goOutside = [](int milliseconds) {
+        emit qApp->applicationStateChanged(Qt::ApplicationInactive);
+        QTest::qWait(milliseconds);
+        emit qApp->applicationStateChanged(Qt::ApplicationActive);
+        QTest::qWait(20);
+    };
+    goOutside(5);
+    EXPECT_FALSE(opened("frmReorder")) << "the moment between two windows of the program";
+    goOutside(250);
+    EXPECT_TRUE(opened("frmReorder"));
+    opened("frmReorder")->unload();
+    QDialog dialog(frame);
+    dialog.setModal(true);
+    dialog.show();
+    goOutside(250);
+    EXPECT_FALSE(opened("frmReorder")) << "a dialog is open";
+}
+
+TEST_F(FrameTest, TheEditItemsWorkOnTheTextBoxThatHasTheFocus) {
+    logIn();
+    auto* field = open("frmItem")->findChild<QLineEdit*>("txtField");
+    field->setFocus();
+    choose("mnuEditItem_7");
+    EXPECT_EQ(field->selectedText(), "typed text");
+    choose("mnuEditItem_2");
+    EXPECT_EQ(field->text(), "");
+    choose("mnuEditItem_4");
+    frame->findChild<QToolButton*>("tbrMain_Paste")->click();
+    EXPECT_EQ(field->text(), "typed texttyped text");
+}
+
+}  // namespace
