@@ -29,7 +29,7 @@ ChildArea::ChildArea(QWidget* frame) : QMdiArea(frame) {
     setBackground(palette().brush(QPalette::Dark));
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    setOption(DontMaximizeSubWindowOnActivation);
+    setActivationOrder(ActivationHistoryOrder);
     connect(this, &QMdiArea::subWindowActivated, this, &ChildArea::childrenChanged);
 }
 

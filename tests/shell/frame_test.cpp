@@ -197,6 +197,7 @@ TEST_F(FrameTest, AReportScreenHidesTheReportsAsLongAsItIsOpen) {
 
 TEST_F(FrameTest, TheStatusBarMirrorsTheFlagsAndKeepsItsLastText) {
     logIn();
+    opened("frmReorder")->unload();
     TestScreen* screen = open("frmItem");
     screen->mblnAddmode = true;
     waitForTimers();

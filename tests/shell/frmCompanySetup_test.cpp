@@ -8,6 +8,7 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QTest>
 
 namespace {
 
@@ -66,7 +67,7 @@ TEST_F(CompanyTest, AFaultKeepsTheScreenAndGoesToItsField) {
     } cases[] = {{"txtTax", "twelve", "Please Enter Numeric Value for Value Added Tax!"},
                  {"txtTax", "", "Please Enter Numeric Value for Value Added Tax!"},
                  {"txtCompanyName", "", "Please Enter Company Name!"}};
-    screen->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(screen));
     for (const auto& row : cases) {
         box(row.field)->setText(row.text);
         boxes.expect("Error!", row.words);
