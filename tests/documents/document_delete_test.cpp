@@ -1,0 +1,149 @@
+#include "documents/document_delete.h"
+#include "books/balances.h"
+#include "books/end_of_day.h"
+#include "books/posting_queue.h"
+#include "documents/journal_book.h"
+#include "foundation/shared_routines.h"
+#include "purchases/frmPurchaseGrid.h"
+#include "sales/frmSalesGrid.h"
+#include "support/test_store.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+struct Side {
+    const char* name;
+    const JournalBook& (*book)();
+};
+
+void PrintTo(const Side& side, std::ostream* out) { *out << side.name; }
+
+// One side's books with a document "A" of one line, queued, and with a valuation row as after an end of day.
+class Deletion : public SessionTest, public ::testing::WithParamInterface<Side> {
+  protected:
+    void SetUp() override {
+        SessionTest::SetUp();
+        store().run(
+            {"INSERT INTO tblItemMaster (ItemCode, Description, Balance) VALUES ('I1', 'Rice', 990000)"});
+        insertDocument("A");
+        insertDocument("B");
+    }
+
+    const DeletionRules& rules() const { return GetParam().book().deletion; }
+    const OrderBook& orders() const { return rules().orders; }
+
+    void insertDocument(const QString& key) {
+        Recordset master = store().openTable(orders().master.table);
+        master.addNew();
+        master.set(orders().master.key, key);
+        master.set(orders().dateColumn, QDate(2026, 3, 3));
+        master.set("ContactNo", "C1");
+        master.set(orders().amountColumn, Currency::fromInteger(50));
+        master.update();
+        Recordset line = store().openTable(orders().detailTable);
+        line.addNew();
+        line.set("Reference", key);
+        line.set("ItemID", "I1");
+        line.set(orders().quantityColumn, Currency::fromInteger(5));
+        line.set("Total", Currency::fromInteger(50));
+        line.update();
+        QueueBookForPosting(store(), orders().bookId, key, "C1", QDate(2026, 3, 3));
+        QueueItemForPosting(store(), "I1");
+        AddStockValuation(store(), orders().bookId, key, "C1", "I1", QDate(2026, 3, 3),
+                          Currency::fromInteger(5), Currency::fromInteger(10));
+    }
+
+    void pay(const QString& key) {
+        Recordset payment = store().openTable(rules().paymentTable);
+        payment.addNew();
+        if (orders().sells) payment.set("ZevRef", 1);
+        payment.set(rules().paymentColumn, key);
+        payment.update();
+    }
+
+    // The rows of document A in the master, its lines, the valuation and the queue, then the queued items.
+    QList<qint64> rowsLeft() {
+        const auto count = [this](const QString& from) {
+            return store().execute(Sql{"SELECT COUNT(*) AS Ihap FROM " + from}).integer("Ihap");
+        };
+        return {count(QString("%1 WHERE %2 = 'A'")
+                          .arg(QString(orders().master.table), QString(orders().master.key))),
+                count(QString("%1 WHERE Reference = 'A'").arg(QString(orders().detailTable))),
+                count("tblStockValuation WHERE Reference = 'A'"),
+                count("tblForPosting WHERE Reference = 'A'"), count("tblForPostingItem")};
+    }
+};
+
+TEST_P(Deletion, TakesTheDocumentOutOfEveryTableAndLeavesTheItemsQueued) {
+    EXPECT_TRUE(isDone(deleteDocument(store(), rules(), "A")));
+    EXPECT_EQ(rowsLeft(), (QList<qint64>{0, 0, 0, 0, 1}));
+    EXPECT_TRUE(RecordFound(store(), orders().master.table, orders().master.key, "B"));
+    EXPECT_TRUE(RecordFound(store(), "tblStockValuation", "Reference", "B"));
+    EXPECT_TRUE(HasPendingPosting(store()));
+}
+
+TEST_P(Deletion, SparesTheOtherBookWithTheSameNumber) {
+    const char* other = orders().sells ? "P" : "S";
+    QueueBookForPosting(store(), other, "A", "C1", QDate(2026, 3, 3));
+    AddStockValuation(store(), other, "A", "C1", "I1", QDate(2026, 3, 3), Currency::fromInteger(1),
+                      Currency());
+    deleteDocument(store(), rules(), "A");
+    EXPECT_EQ(rowsLeft(), (QList<qint64>{0, 0, 1, 1, 1}));
+}
+
+TEST_P(Deletion, RefusesADocumentWithAPaymentOfNothing) {
+    pay("A");
+    const Outcome outcome = deleteDocument(store(), rules(), "A");
+    const auto* fault = std::get_if<Fault>(&outcome);
+    ASSERT_TRUE(fault);
+    EXPECT_EQ(fault->box, exclamation("Error!", rules().paidMessage));
+    EXPECT_EQ(rowsLeft(), (QList<qint64>{1, 1, 1, 1, 1}));
+    EXPECT_TRUE(isDone(deleteDocument(store(), rules(), "B")));
+}
+
+TEST_P(Deletion, DeletesALockedDocument) {
+    setRecordLock(store(), orders().master, "A", true);
+    EXPECT_TRUE(isDone(deleteDocument(store(), rules(), "A")));
+    EXPECT_EQ(rowsLeft().first(), 0);
+}
+
+TEST_P(Deletion, WritesInTheToldOrder) {
+    QStringList written;
+    Connection::setStatementHook([&](const QString& statement) {
+        if (statement.startsWith("DELETE")) written += statement.section(' ', 2, 2);
+    });
+    deleteDocument(store(), rules(), "A");
+    Connection::setStatementHook({});
+    EXPECT_EQ(written, (QStringList{"tblStockValuation", "tblForPosting", orders().detailTable,
+                                    orders().master.table}));
+}
+
+TEST_P(Deletion, FailingAnywhereLeavesTheDocumentWhole) {
+    const QStringList tables{"tblStockValuation", "tblForPosting", orders().detailTable,
+                             orders().master.table};
+    for (const QString& table : tables) {
+        Connection::setStatementHook([&](const QString& statement) {
+            if (statement.startsWith("DELETE FROM " + table))
+                throw StoreError(StoreError::general, "disk full");
+        });
+        EXPECT_THROW(deleteDocument(store(), rules(), "A"), StoreError) << qPrintable(table);
+        Connection::setStatementHook({});
+        EXPECT_EQ(rowsLeft(), (QList<qint64>{1, 1, 1, 1, 1})) << qPrintable(table);
+    }
+}
+
+TEST_P(Deletion, BringsTheBalancesToWhatIsLeft) {
+    deleteDocument(store(), rules(), "A");
+    recomputeAfterDeletion(store(), rules(), Progress::none());
+    const Recordset other =
+        store().execute({QString("SELECT Balance FROM %1").arg(QString(orders().master.table))});
+    EXPECT_EQ(other.currency("Balance"), Currency::fromInteger(50));
+    const Recordset item = store().execute({"SELECT Balance FROM tblItemMaster WHERE ItemCode = 'I1'"});
+    EXPECT_EQ(item.currency("Balance"), Currency::fromInteger(orders().sells ? -5 : 5));
+}
+
+INSTANTIATE_TEST_SUITE_P(Journals, Deletion,
+                         ::testing::Values(Side{"Sales", salesJournal}, Side{"Purchases", purchaseJournal}),
+                         [](const auto& side) { return std::string(side.param.name); });
+}  // namespace

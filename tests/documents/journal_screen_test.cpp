@@ -1,0 +1,367 @@
+#include "books/posting_queue.h"
+#include "documents/journal.h"
+#include "foundation/shared_routines.h"
+#include "platform/ui/combo_box.h"
+#include "platform/ui/screen_registry.h"
+#include "platform/ui/text_box.h"
+#include "purchases/frmPurchaseGrid.h"
+#include "sales/frmSalesGrid.h"
+#include "support/box_script.h"
+#include "support/test_store.h"
+
+#include <QAbstractButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+// Stands in for the entry screen: notes what it is opened with, and refuses when told to.
+class StubEntry : public RecordScreen {
+  public:
+    explicit StubEntry(const QString& name) : RecordScreen(name, "Entry") {}
+    bool receive(const ScreenArguments& arguments) override {
+        if (refuses) return false;
+        received += arguments;
+        mblnAddmode = arguments.key.isEmpty();
+        setProperty("mstrPrimary", arguments.key);
+        return true;
+    }
+    static inline bool refuses = false;
+    static inline QList<ScreenArguments> received;
+};
+
+class JournalScreen : public SessionTest {
+  protected:
+    void SetUp() override {
+        SessionTest::SetUp();
+        for (const char* entry : {"frmSalesEntry", "frmPurchaseEntry"})
+            ScreenRegistry::instance().add(entry, [entry] { return new StubEntry(entry); });
+        StubEntry::refuses = false;
+        StubEntry::received.clear();
+        store().run(
+            "INSERT INTO tblContactMaster (ContactID, ContactName) VALUES ('C1', 'Reyes Trading'),"
+            " ('C2', 'cruz Store'), ('C3', 'Abad Sari-Sari')");
+        sale("3", "C1", {2026, 3, 1}, 300, false);
+        sale("1", "C2", {2026, 3, 3}, 100, false);
+        sale("2", "C3", {2026, 3, 2}, 200, true);
+    }
+    void TearDown() override {
+        journal.reset();
+        for (ChildScreen* screen : ScreenRegistry::instance().openScreens()) delete screen;
+        SessionTest::TearDown();
+    }
+
+    void sale(const char* number, const char* contact, QDate date, int amount, bool printed) {
+        Recordset row = store().openTable("tblSalesMaster");
+        row.addNew();
+        row.set("RefNo", number);
+        row.set("RefDate", date);
+        row.set("ContactNo", contact);
+        row.set("TotalAmount", Currency::fromInteger(amount));
+        row.set("Remarks", QString("note ") + number);
+        row.set("Printed", printed);
+        row.set("UpdatedBy", printed ? "ADMIN" : "CLERK");
+        row.set("DateUpdate", QDateTime(date, QTime(8, 0)));
+        row.update();
+    }
+
+    void open() { journal = std::make_unique<frmSalesGrid>(); }
+    template <class Control>
+    Control* control(const QString& name) const {
+        return journal->findChild<Control*>(name);
+    }
+    DataGrid* grid() const { return control<DataGrid>("dbgMyGrid"); }
+    void press(const char* button) const { control<QAbstractButton>(button)->click(); }
+    void search(const char* category, const char* text) const {
+        control<ComboBox>("cboSearch")->setText(category);
+        control<TextBox>("txtSearch")->setText(text);
+        press("cmdSearch");
+    }
+    // The numbers of the listed documents, from the top.
+    QString listed() const {
+        grid()->fetchAll();
+        QString numbers;
+        for (int row = 0; row < grid()->model()->rowCount(); ++row)
+            numbers += grid()->model()->index(row, 0).data().toString();
+        return numbers;
+    }
+    // The number in a row, as a person sees it who scrolls there.
+    QString scrolledTo(int row) const {
+        QAbstractItemModel* rows = grid()->model();
+        if (row + 1 == rows->rowCount() && rows->canFetchMore({})) rows->fetchMore({});
+        if (rows->index(row, 0).data().toString().isEmpty()) QCoreApplication::processEvents();
+        return rows->index(row, 0).data().toString();
+    }
+    bool lockedInStore(const QString& number) {
+        return FlagFieldSet(store(), "tblSalesMaster", "RefNo", number, "RecordLock");
+    }
+    void select(const char* number) const { grid()->selectKey("RefNo", number); }
+
+    BoxScript boxes;
+    std::unique_ptr<Journal> journal;
+};
+
+TEST_F(JournalScreen, OpensOnWhatIsNotPrintedInTheOrderOfTheStore) {
+    open();
+    EXPECT_EQ(listed(), "31");
+    EXPECT_TRUE(control<QAbstractButton>("optUnPrinted")->isChecked());
+    EXPECT_TRUE(control<QAbstractButton>("optAny")->isChecked());
+    EXPECT_EQ(control<ComboBox>("cboSearch")->text(), QString("Customer Name"));
+    EXPECT_EQ(journal->windowTitle(), QString("Sales Journal Data Grid . . ."));
+    EXPECT_EQ(journal->objectName(), QString("frmSalesGrid"));
+}
+
+TEST_F(JournalScreen, EveryOptionAndEveryHeaderListsInItsOrder) {
+    open();
+    const QList<std::pair<const char*, QString>> options{{"optPackNo", "123"},   {"optCustomer", "213"},
+                                                         {"optPackDate", "321"}, {"optTotalAmount", "123"},
+                                                         {"optPrinted", "2"},    {"optUnPrinted", "31"}};
+    for (const auto& [name, numbers] : options) {
+        press(name);
+        EXPECT_EQ(listed(), numbers) << name;
+    }
+    setRecordLock(store(), salesBook, "3", true);
+    const QStringList headers{"123", "321", "213", "123", "312", "231", "231", "321"};
+    for (int column = 0; column < headers.size(); ++column) {
+        emit grid()->headerClicked(column);
+        EXPECT_EQ(listed(), headers[column]) << column;
+    }
+}
+
+TEST_F(JournalScreen, ASearchKeepsTheFilterItWasOpenedWith) {
+    open();
+    search("Customer Name", "a");
+    EXPECT_EQ(listed(), "3");
+    press("optPrinted");
+    EXPECT_EQ(listed(), "2");
+    press("optPackNo");
+    EXPECT_EQ(listed(), "23");
+}
+
+TEST_F(JournalScreen, EverySearchFindsItsDocuments) {
+    open();
+    press("optPackNo");
+    const struct {
+        const char *category, *text;
+        bool exact;
+        const char* found;
+    } cases[] = {{"Delivery No.", "2", true, "2"},
+                 {"Delivery Date", "3/2/2026", false, "2"},
+                 {"Customer Name", "CRUZ", false, "1"},
+                 {"Customer Name", "CRUZ", true, ""},
+                 {"Customer Name", "CRUZ STORE ", true, "1"},
+                 {"Total Amount", "200.00", false, "2"},
+                 {"Remarks", "note", false, "123"},
+                 {"Remarks", "note", true, ""},
+                 {"Who Updated", "clerk", true, "13"},
+                 {"Remarks", "%", false, "123"},
+                 {"Remarks", "x' OR '1'='1", false, ""}};
+    for (const auto& row : cases) {
+        press(row.exact ? "optExact" : "optAny");
+        search(row.category, row.text);
+        EXPECT_EQ(listed(), row.found) << row.category << ' ' << row.text;
+    }
+}
+
+TEST_F(JournalScreen, ClearedTextShowsTheLastResultInItsSort) {
+    open();
+    press("optPackDate");
+    search("Who Updated", "CLERK");
+    EXPECT_EQ(listed(), "31");
+    search("Who Updated", "");
+    EXPECT_EQ(listed(), "31");
+    press("optPackNo");
+    EXPECT_EQ(listed(), "13");
+}
+
+TEST_F(JournalScreen, AFilterWithoutATextBehindAFormerSearchIsTheErrorOfTheStore) {
+    open();
+    search("Who Updated", "CLERK");
+    control<TextBox>("txtSearch")->clear();
+    boxes.expect("Error...");
+    press("optPrinted");
+    EXPECT_EQ(listed(), "31");
+    search("Who Updated", "ADMIN");
+    EXPECT_EQ(listed(), "2");
+}
+
+TEST_F(JournalScreen, WhatDoesNotConvertIsShownAndKept) {
+    open();
+    boxes.expect("Error...");
+    search("Delivery Date", "31/31/2026");
+    boxes.expect("Error...");
+    search("Total Amount", "1.2.3");
+    boxes.expect("Error!", "Criteria does not exist!");
+    search("Colour", "red");
+    EXPECT_EQ(control<TextBox>("txtSearch")->text(), QString("red"));
+    EXPECT_EQ(listed(), "31");
+}
+
+TEST_F(JournalScreen, SearchTextTakesTheKeysOfItsCategory) {
+    open();
+    auto* text = control<TextBox>("txtSearch");
+    const QList<std::pair<const char*, QString>> cases{
+        {"Delivery Date", "12/-"}, {"Total Amount", "12."}, {"Remarks", "1a2/-."}};
+    for (const auto& [category, kept] : cases) {
+        control<ComboBox>("cboSearch")->setText(category);
+        text->clear();
+        QTest::keyClicks(text, "1a'2/-.");
+        EXPECT_EQ(text->text(), kept) << category;
+    }
+}
+
+TEST_F(JournalScreen, KeysOfTheSearchText) {
+    open();
+    journal->show();
+    auto* text = control<TextBox>("txtSearch");
+    text->setText("cruz");
+    QTest::keyClick(text, Qt::Key_Return);
+    EXPECT_EQ(listed(), "1");
+    QTest::keyClick(text, Qt::Key_Down);
+    EXPECT_EQ(journal->focusWidget(), grid());
+    QSignalSpy closed(journal.get(), &ChildScreen::unloaded);
+    journal->setAttribute(Qt::WA_DeleteOnClose, false);
+    QTest::keyClick(text, Qt::Key_Escape);
+    EXPECT_EQ(closed.size(), 1);
+}
+
+TEST_F(JournalScreen, EditTakesTheLockAndOpensTheDocument) {
+    open();
+    select("1");
+    for (const char* way : {"cmdEdit", "picked"}) {
+        if (way == QString("picked"))
+            emit grid()->picked();
+        else
+            press(way);
+        EXPECT_EQ(StubEntry::received.size(), 1) << way;
+        EXPECT_EQ(StubEntry::received.last().key, QString("1")) << way;
+        EXPECT_TRUE(lockedInStore("1")) << way;
+    }
+    EXPECT_FALSE(lockedInStore("3"));
+}
+
+TEST_F(JournalScreen, EditOfALockedGoneOrMissingDocument) {
+    open();
+    select("1");
+    setRecordLock(store(), salesBook, "1", true);
+    const Box locked = critical(
+        "Record Lock!",
+        "Record is Being Locked! You Cannot Edit This Record! Please Ask Administrator to Unlock Record!");
+    boxes.expect(locked);
+    journal->EditRecord();
+    const Box nothing =
+        exclamation("Error!", "Please select proper record to EDIT! There's nothing to EDIT!");
+    store().run("DELETE FROM tblSalesMaster");
+    boxes.expect(nothing);
+    journal->EditRecord();
+    journal->RefreshRecord();
+    boxes.expect(nothing);
+    journal->EditRecord();
+    EXPECT_TRUE(StubEntry::received.isEmpty());
+}
+
+TEST_F(JournalScreen, AnEntryThatStaysWithItsDocumentLeavesNoLock) {
+    open();
+    select("3");
+    StubEntry::refuses = true;
+    journal->EditRecord();
+    EXPECT_FALSE(lockedInStore("3"));
+}
+
+TEST_F(JournalScreen, NewOpensTheEntryWithoutAKey) {
+    open();
+    press("cmdNew");
+    ASSERT_EQ(StubEntry::received.size(), 1);
+    EXPECT_EQ(StubEntry::received[0], ScreenArguments());
+}
+
+const Box confirm =
+    question("Confirm Delete", "Confirm Deletion of this Record. Delete Record Now?", BoxAnswer::No);
+
+TEST_F(JournalScreen, DeleteAsksRemovesAndLists) {
+    open();
+    select("1");
+    QueueBookForPosting(store(), "S", "1", "C2", QDate(2026, 3, 3));
+    boxes.expect(confirm, BoxAnswer::No);
+    press("cmdDelete");
+    EXPECT_EQ(listed(), "31");
+    select("1");
+    boxes.expect(confirm, BoxAnswer::Yes);
+    press("cmdDelete");
+    EXPECT_EQ(listed(), "3");
+    EXPECT_FALSE(HasPendingPosting(store()));
+}
+
+TEST_F(JournalScreen, DeleteOfAPaidDocumentAndOfNothing) {
+    open();
+    select("3");
+    store().run("INSERT INTO tblReceiptDetails (ZevRef, Reference, Amount) VALUES (1, '3', 0)");
+    boxes.expect(confirm, BoxAnswer::Yes);
+    boxes.expect(
+        "Error!",
+        "You Cannot Delete This Sales Order, You have Tag Payment with This Order! Remove Payment First!");
+    journal->DeleteRecord();
+    EXPECT_EQ(listed(), "31");
+    search("Delivery No.", "none");
+    boxes.expect(confirm, BoxAnswer::Yes);
+    boxes.expect("Nothing to Delete!", "Can't You See There is Nothing to Delete!");
+    journal->DeleteRecord();
+}
+
+TEST_F(JournalScreen, AFailedDeletionShowsTheStoresText) {
+    open();
+    Connection::setStatementHook([](const QString& statement) {
+        if (statement.startsWith("DELETE")) throw StoreError(StoreError::general, "disk full");
+    });
+    boxes.expect(confirm, BoxAnswer::Yes);
+    boxes.expect("Error...", "disk full");
+    journal->DeleteRecord();
+    Connection::setStatementHook({});
+    EXPECT_EQ(listed(), "31");
+}
+
+TEST_F(JournalScreen, WithoutRightsNothingIsDeletedOrPrinted) {
+    store().run("UPDATE tblUserMaster SET PrintDRAccess = False, DeleteDRAccess = False");
+    open();
+    EXPECT_FALSE(control<QWidget>("cmdDelete")->isEnabled());
+    EXPECT_FALSE(control<QWidget>("cmdPrint")->isEnabled());
+    EXPECT_FALSE(journal->property("deleteAllowed").toBool());
+    boxes.expect(critical("Access Denied!", "You don't have Permission to Delete Record!"));
+    journal->DeleteRecord();
+    boxes.expect(critical("Access Denied!", "You don't have Permission to Print Record!"));
+    journal->PrintRecord();
+    journal = std::make_unique<frmPurchaseGrid>();
+    EXPECT_TRUE(journal->property("deleteAllowed").toBool());
+}
+
+TEST_F(JournalScreen, PrintOfNothing) {
+    open();
+    search("Delivery No.", "none");
+    boxes.expect("Nothing to Print!", "No Records to Print...");
+    press("cmdPrint");
+}
+
+TEST_F(JournalScreen, ScrollingLeavesOutAndRepeatsNoRow) {
+    store().run(
+        {"INSERT INTO tblSalesMaster (RefNo, RefDate, ContactNo, TotalAmount, Printed) WITH RECURSIVE"
+         " n(i) AS (SELECT 10 UNION ALL SELECT i + 1 FROM n WHERE i < ?) SELECT '#' || i, '2026-03-05',"
+         " 'C' || (i % 3 + 1), i % 7, 0 FROM n",
+         {2009}});
+    open();
+    for (int column = -1; column < 8; ++column) {
+        if (column >= 0) emit grid()->headerClicked(column);
+        const int documents = column < 0 ? 2002 : 2003;
+        // Written while the person scrolls: what was listed stays in its place.
+        store().run(
+            "UPDATE tblSalesMaster SET TotalAmount = TotalAmount + 1, DateUpdate = '2026-03-06 10:00:00'"
+            " WHERE RefNo = '#1500'");
+        QSet<QString> seen;
+        int row = 0;
+        for (; row < grid()->model()->rowCount(); ++row) seen += scrolledTo(row);
+        EXPECT_EQ(row, documents) << column;
+        EXPECT_EQ(seen.size(), documents) << column;
+    }
+}
+}  // namespace

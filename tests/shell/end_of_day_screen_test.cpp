@@ -1,0 +1,192 @@
+#include "books/posting_queue.h"
+#include "documents/order_document.h"
+#include "foundation/session.h"
+#include "platform/ui/list_view.h"
+#include "platform/ui/screen_registry.h"
+#include "purchases/purchase_document.h"
+#include "sales/sales_document.h"
+#include "shell/frmForUpload.h"
+#include "shell/register.h"
+#include "support/box_script.h"
+#include "support/test_store.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QToolButton>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+const Box already = information("Zevrin!", "Transactions Already Uploaded!");
+const Box success = information("Zevrin!", "End of Day Transactions Successfully Uploaded!");
+const Box postingProblem = exclamation(
+    "Error!",
+    "There seems to be a problem Posting Stock Valuation transactions! Sales Record might be Deleted!");
+const Box initializingProblem = exclamation(
+    "Error!", "There seems to be a problem Initializing Stock Valuation transactions! Please Try Again!");
+
+class EndOfDayScreen : public SessionTest {
+  protected:
+    void SetUp() override {
+        SessionTest::SetUp();
+        addContact(store(), {"C1", "Reyes Trading"});
+        addItem(store(), {"I1", "Goods I1"});
+        addItem(store(), {"I2", "Goods I2"});
+    }
+    void TearDown() override {
+        delete ScreenRegistry::instance().opened("frmForUpload");
+        SessionTest::TearDown();
+    }
+
+    frmForUpload* open() {
+        ScreenRegistry::instance().add("frmForUpload", [] { return new frmForUpload; });
+        return static_cast<frmForUpload*>(ScreenRegistry::instance().open("frmForUpload"));
+    }
+
+    void save(const OrderBook& book, const QString& code, const char* date, const char* item, int quantity,
+              int price) {
+        OrderDocument document;
+        document.code = code;
+        document.serial = "1001";
+        document.date = date;
+        document.contactName = "Reyes Trading";
+        document.lines = {makeOrderLine(item, item, "PC", Currency::fromInteger(quantity),
+                                        Currency::fromInteger(quantity), Currency::fromInteger(price), {})};
+        ASSERT_TRUE(isDone(saveOrder(store(), book, document)));
+    }
+    void buyAndSell() {
+        save(purchaseOrders, "P1", "03/04/2026", "I1", 10, 5);
+        save(salesOrders, "S1", "03/03/2026", "I1", 4, 9);
+    }
+    qint64 count(const char* table) {
+        return store().execute(Sql{QString("SELECT COUNT(*) AS Ihap FROM ") + table}).integer("Ihap");
+    }
+    Currency salesCost(const QString& reference) {
+        return store().execute(
+                {"SELECT SalesCost FROM tblStockValuation WHERE BookID = 'S' AND Reference = ?", {reference}})
+            .currency("SalesCost");
+    }
+    static void press(QWidget* screen, const char* button) {
+        screen->findChild<QToolButton*>(button)->click();
+    }
+
+    BoxScript boxes;
+};
+
+TEST_F(EndOfDayScreen, WithNothingQueuedSaysSoRebasesTheKeyAndDoesNotOpen) {
+    store().run("UPDATE tblStockKey SET Server = '77'");
+    boxes.expect(already);
+    EXPECT_EQ(open(), nullptr);
+    EXPECT_EQ(store().execute("SELECT Server FROM tblStockKey").text("Server"), QString("1"));
+}
+
+TEST_F(EndOfDayScreen, ListsPurchasesFirstAndEachBookByDate) {
+    save(purchaseOrders, "P2", "03/05/2026", "I2", 1, 5);
+    buyAndSell();
+    save(salesOrders, "S0", "03/02/2026", "I1", 1, 9);
+    QPointer screen = open();
+    ASSERT_TRUE(screen);
+    const QList<QStringList> documents{{"P", "P1", "03/04/2026", "Reyes Trading"},
+                                       {"P", "P2", "03/05/2026", "Reyes Trading"},
+                                       {"S", "S0", "03/02/2026", "Reyes Trading"},
+                                       {"S", "S1", "03/03/2026", "Reyes Trading"}};
+    EXPECT_EQ(screen->findChild<ListView*>("lvwTransaction")->rows(), documents);
+    EXPECT_THAT(screen->findChild<ListView*>("lvwItems")->rows(),
+                ::testing::UnorderedElementsAre(QStringList{"I1", "Goods I1", "Ready for Processing"},
+                                                QStringList{"I2", "Goods I2", "Ready for Processing"}));
+    EXPECT_EQ(screen->findChild<QLabel*>("lblStatus")->text(), QString("2"));
+}
+
+TEST_F(EndOfDayScreen, CostsASaleFromALaterPurchaseAndCloses) {
+    buyAndSell();
+    QPointer screen = open();
+    boxes.expect(success);
+    press(screen, "imgUpload");
+    EXPECT_EQ(salesCost("S1"), Currency::fromInteger(20));
+    EXPECT_FALSE(HasPendingPosting(store()));
+    EXPECT_EQ(ScreenRegistry::instance().opened("frmForUpload"), nullptr);
+}
+
+TEST_F(EndOfDayScreen, OnlyItemsQueuedShowsTheFirstProblemAndStillCosts) {
+    buyAndSell();
+    store().run("DELETE FROM tblForPosting");
+    QPointer screen = open();
+    boxes.expect(postingProblem);
+    boxes.expect(success);
+    press(screen, "imgUpload");
+    EXPECT_EQ(count("tblForPostingItem"), 0);
+}
+
+TEST_F(EndOfDayScreen, OnlyDocumentsQueuedShowsTheSecondProblem) {
+    buyAndSell();
+    store().run("DELETE FROM tblForPostingItem");
+    QPointer screen = open();
+    boxes.expect(initializingProblem);
+    boxes.expect(already);
+    boxes.expect(success);
+    press(screen, "imgUpload");
+    EXPECT_EQ(count("tblStockValuation"), 2);
+    EXPECT_EQ(ScreenRegistry::instance().opened("frmForUpload"), nullptr);
+}
+
+TEST_F(EndOfDayScreen, AFailedDocumentStopsThePassThereAndSuccessIsSaidAllTheSame) {
+    save(purchaseOrders, "P1", "03/04/2026", "I1", 10, 5);
+    save(purchaseOrders, "P2", "03/05/2026", "I2", 10, 5);
+    save(purchaseOrders, "P3", "03/06/2026", "I2", 10, 5);
+    QPointer screen = open();
+    int documents = 0;
+    Connection::setStatementHook([&](const QString& statement) {
+        if (statement.startsWith("DELETE FROM tblForPosting ") && ++documents == 2)
+            throw StoreError(StoreError::general, "disk full");
+    });
+    boxes.expect("Error...", "disk full");
+    boxes.expect(postingProblem);
+    boxes.expect(success);
+    press(screen, "imgUpload");
+    Connection::setStatementHook({});
+    const Recordset left = store().execute("SELECT Reference FROM tblForPosting ORDER BY Reference");
+    EXPECT_EQ(left.rowCount(), 2);
+    EXPECT_EQ(left.text("Reference"), QString("P2"));
+    EXPECT_EQ(count("tblStockValuation"), 1);
+    EXPECT_EQ(count("tblForPostingItem"), 0);
+}
+
+TEST_F(EndOfDayScreen, ADocumentDeletedAfterBeingListedAddsNoRowsAndLeavesTheQueue) {
+    buyAndSell();
+    QPointer screen = open();
+    store().run("DELETE FROM tblSalesDetails");
+    store().run("DELETE FROM tblSalesMaster");
+    boxes.expect(success);
+    press(screen, "imgUpload");
+    EXPECT_EQ(count("tblStockValuation"), 1);
+    EXPECT_EQ(count("tblForPosting"), 0);
+}
+
+TEST_F(EndOfDayScreen, ADocumentSavedAfterTheListsWaitsForTheNextRun) {
+    buyAndSell();
+    QPointer screen = open();
+    save(purchaseOrders, "P9", "03/09/2026", "I2", 3, 7);
+    boxes.expect(success);
+    press(screen, "imgUpload");
+    EXPECT_EQ(count("tblForPosting"), 1);
+    EXPECT_EQ(count("tblForPostingItem"), 1);
+    screen = open();
+    boxes.expect(success);
+    press(screen, "imgUpload");
+    EXPECT_FALSE(HasPendingPosting(store()));
+}
+
+TEST_F(EndOfDayScreen, RefreshReloadsAndClosesWhenNothingIsLeft) {
+    buyAndSell();
+    QPointer screen = open();
+    save(purchaseOrders, "P9", "03/09/2026", "I2", 3, 7);
+    press(screen, "imgRefresh");
+    EXPECT_EQ(screen->findChild<ListView*>("lvwTransaction")->rowCount(), 3);
+    store().run("DELETE FROM tblForPosting");
+    store().run("DELETE FROM tblForPostingItem");
+    boxes.expect(already);
+    press(screen, "imgRefresh");
+    EXPECT_EQ(ScreenRegistry::instance().opened("frmForUpload"), nullptr);
+}
+}  // namespace
