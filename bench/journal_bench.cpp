@@ -1,0 +1,153 @@
+// The first screenful of a journal and of the pickers, against the bare query with a limit of 100 on the
+// driver's handle.
+//
+//     journal_bench [documents = 1000] [rows of a picker = 50000]
+#include "bench/bare.h"
+#include "foundation/schema.h"
+#include "foundation/session.h"
+#include "masters/frmContactFound.h"
+#include "masters/frmFound.h"
+#include "platform/store/transaction.h"
+#include "purchases/frmPurchaseGrid.h"
+#include "sales/frmSalesGrid.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+namespace {
+// The numbers from 1 to a bound one, as the table n(i).
+const QString counted = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < ?) ";
+
+void fill(const QString& insert, qint64 rows) { StoreConnection().run({counted + insert, {rows}}); }
+
+// One document in five hundred is still to be printed.
+void fillDocuments(const char* table, const char* key, const char* date, const char* amount, qint64 rows) {
+    fill(QString(
+             "INSERT INTO %1 (%2, %3, ContactNo, %4, Remarks, Printed, RecordLock, Balance, UpdatedBy,"
+             " DateUpdate) SELECT substr('0' || (i % 12 + 1), -2) || '-' || (1000 + i) || '-2026',"
+             " date('2024-01-01', (i / 300) || ' days'), 1000000001 + i * 7919 % 2000, i * 77777 % 99990000,"
+             " 'Deliver before noon', CASE WHEN i % 500 = 0 THEN 0 ELSE -1 END, 0, 0,"
+             " CASE i % 3 WHEN 0 THEN 'ADMIN' ELSE 'CLERK' || (i % 3) END,"
+             " datetime('2024-01-01', (i / 300) || ' days', (i % 300) || ' minutes') FROM n")
+             .arg(QString(table), QString(key), QString(date), QString(amount)),
+         rows);
+}
+
+void fillMasters(qint64 rows) {
+    fill(
+        "INSERT INTO tblContactMaster (ContactID, ContactName, Address, TelNo, Terms, IsCustomer, IsSupplier)"
+        " SELECT 1000000000 + i, 'Trader ' || (i * 7919 % 100003), i || ' Rizal Street', '555-' || i, 30,"
+        " -(i % 3 > 0), -(i % 3 = 0) FROM n",
+        rows);
+    fill(
+        "INSERT INTO tblItemMaster (ItemCode, Description, Unit, Locator, SupplierCode, CostPrice,"
+        " SellingPrice, Balance) SELECT 1000000000 + i, 'Goods ' || (i * 7919 % 100003), 'PC', 'A' || i,"
+        " 1000000000 + i % 2000, 100000, 120000, 0 FROM n",
+        rows);
+}
+
+void makeStore(const QString& path, qint64 documents, qint64 masters) {
+    registerSchema();
+    makeDeliveredStore(path);
+    StoreConnection().open(path, storePassword);
+    Transaction unit(StoreConnection());
+    fillMasters(masters);
+    fillDocuments("tblSalesMaster", "RefNo", "RefDate", "TotalAmount", documents);
+    fillDocuments("tblPurchaseMaster", "PurchaseNo", "PurchaseDate", "PurchaseAmount", documents);
+    unit.commit();
+}
+
+struct View {
+    QString name;
+    DataGrid::Source source;
+};
+
+View viewOf(const JournalBook& book, const JournalQuery& query, const QString& name) {
+    return {QString(book.screen) + ' ' + name,
+            {query.columns(), query.from(), book.tables.table, query.where(), query.order()}};
+}
+
+QList<View> filteredViews(const JournalBook& book) {
+    JournalQuery unprinted(book.tables);
+    unprinted.setPrintedFilter(false, false);
+    JournalQuery printed(book.tables);
+    printed.setPrintedFilter(true, false);
+    return {viewOf(book, unprinted, "as it opens"), viewOf(book, printed, "printed")};
+}
+
+QList<View> sortedViews(const JournalBook& book) {
+    QList<View> views;
+    for (const JournalColumn& column : book.columns) {
+        JournalQuery query(book.tables);
+        query.setOrder(column.order);
+        views += viewOf(book, query, "by " + column.grid.heading);
+    }
+    return views;
+}
+
+View searchedView(const JournalBook& book, const QString& category, const QString& text, bool exact,
+                  bool unprinted) {
+    JournalQuery query(book.tables);
+    if (unprinted) query.setPrintedFilter(false, true);
+    query.search(category, text, exact);
+    return viewOf(
+        book, query,
+        QString("%1 %2 \"%3\"%4").arg(category, exact ? "=" : "like", text, unprinted ? ", unprinted" : ""));
+}
+
+QList<View> searchedViews(const JournalBook& book) {
+    QList<View> views;
+    for (const bool unprinted : {false, true}) {
+        views += searchedView(book, book.tables.categories[0].name, "99", false, unprinted);
+        views += searchedView(book, book.tables.categories[1].name, "2/1/2024", true, unprinted);
+        views += searchedView(book, book.initialCategory, "1", false, unprinted);
+        views += searchedView(book, book.initialCategory, "Trader 7919", true, unprinted);
+        views += searchedView(book, "Total Amount", "7.7777", true, unprinted);
+        views += searchedView(book, "Remarks", "noon", false, unprinted);
+        views += searchedView(book, "Who Updated", "ADMIN", true, unprinted);
+    }
+    return views;
+}
+
+QList<View> pickerViews() {
+    QList<View> views;
+    for (const char* text : {"", "7"}) {
+        views += {QString("frmFound description \"%1\"").arg(text), itemFoundSource(text, "D")};
+        views += {QString("frmFound code \"%1\"").arg(text), itemFoundSource(text, "P")};
+        views += {QString("frmContactFound all \"%1\"").arg(text), contactFoundSource(text, "")};
+        views += {QString("frmContactFound customers \"%1\"").arg(text), contactFoundSource(text, "C")};
+    }
+    return views;
+}
+
+Sql firstRows(const DataGrid::Source& source) {
+    Sql query = Sql{"SELECT " + source.columns + " FROM " + source.from} + source.where;
+    query.text.replace("= True", "= -1").replace("= False", "= 0");
+    return query + Sql{source.order + " LIMIT 100"};
+}
+
+void measure(const QList<View>& views) {
+    Connection& store = StoreConnection();
+    DataGrid grid("dbgMyGrid", "adcMyControl", {{"Remarks", "Remarks"}});
+    for (const View& view : views) {
+        const Sql first = firstRows(view.source);
+        const double bareTime = bare::median([&] { bare::readAll(store.handle(), first); });
+        const double gridTime = bare::median([&] { grid.setSource(store, view.source); });
+        bare::report(view.name, gridTime, bareTime);
+    }
+}
+}  // namespace
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    const QTemporaryDir folder;
+    makeStore(folder.filePath(storeFileName), argc > 1 ? atoll(argv[1]) : 1000,
+              argc > 2 ? atoll(argv[2]) : 50000);
+    for (const JournalBook* book : {&salesJournal(), &purchaseJournal()}) {
+        measure(filteredViews(*book));
+        measure(sortedViews(*book));
+        measure(searchedViews(*book));
+    }
+    measure(pickerViews());
+}
