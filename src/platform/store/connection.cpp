@@ -56,17 +56,6 @@ QString Connection::path() const { return d_->path; }
 
 sqlite3* Connection::handle() const { return d_->engine(); }
 
-static std::vector<QVariantList> readRows(QSqlQuery& query, qsizetype columnCount) {
-    std::vector<QVariantList> rows;
-    while (query.next()) {
-        QVariantList row;
-        row.reserve(columnCount);
-        for (int i = 0; i < columnCount; ++i) row += query.value(i);
-        rows.push_back(std::move(row));
-    }
-    return rows;
-}
-
 Recordset Connection::execute(const Sql& statement) {
     requireUnit();
     const auto started = d_->start(statement);
@@ -74,9 +63,7 @@ Recordset Connection::execute(const Sql& statement) {
     set.connection_ = this;
     set.columns_ = started->columns;
     set.columnCount_ = started->columnCount;
-    set.rows_ = readRows(started->query, started->columnCount);
-    if (started->query.lastError().isValid()) d_->fail(*started);
-    started->query.finish();
+    set.rows_ = d_->readRows(*started);
     return set;
 }
 

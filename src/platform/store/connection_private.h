@@ -33,6 +33,8 @@ struct Connection::Private {
     std::shared_ptr<PreparedStatement> prepare(const QString& text);
     // BEGIN, COMMIT and their kin, waiting for other workstations.
     void control(const QByteArray& statement);
+    // The rows of a statement that was started, to their end.
+    std::vector<QVariantList> readRows(PreparedStatement& statement) const;
     [[noreturn]] void fail(PreparedStatement& statement) const;
     bool tryStart(PreparedStatement& statement, const Sql& sql);
 };

@@ -52,6 +52,38 @@ sqlite3_stmt* engineStatementOf(const QSqlQuery& query) {
     return *static_cast<sqlite3_stmt* const*>(handle.constData());
 }
 
+QVariant textOf(sqlite3_stmt* statement, int column) {
+    const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
+    return QString::fromUtf8(text, sqlite3_column_bytes(statement, column));
+}
+
+QVariant bytesOf(sqlite3_stmt* statement, int column) {
+    const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
+    return QByteArray(bytes, sqlite3_column_bytes(statement, column));
+}
+
+QVariant valueOf(sqlite3_stmt* statement, int column) {
+    switch (sqlite3_column_type(statement, column)) {
+        case SQLITE_INTEGER:
+            return qlonglong{sqlite3_column_int64(statement, column)};
+        case SQLITE_FLOAT:
+            return sqlite3_column_double(statement, column);
+        case SQLITE_NULL:
+            return QVariant(QMetaType::fromType<QString>());
+        case SQLITE_BLOB:
+            return bytesOf(statement, column);
+        default:
+            return textOf(statement, column);
+    }
+}
+
+QVariantList rowOf(sqlite3_stmt* statement, int columnCount) {
+    QVariantList row;
+    row.reserve(columnCount);
+    for (int column = 0; column < columnCount; ++column) row.emplaceBack(valueOf(statement, column));
+    return row;
+}
+
 QString uri(const QString& file, const char* mode) {
     QUrl url = QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
     url.setQuery(QString("mode=") + mode);
@@ -169,6 +201,19 @@ std::shared_ptr<PreparedStatement> Connection::Private::start(const Sql& sql) {
         waitOrThrow(engine(), wait);
         if (statement) statement->query.finish();
     }
+}
+
+// Straight from the engine, where the driver has stopped at the first row: through the driver every value
+// costs several times as much.
+std::vector<QVariantList> Connection::Private::readRows(PreparedStatement& statement) const {
+    sqlite3_stmt* const handle = engineStatementOf(statement.query);
+    std::vector<QVariantList> rows;
+    int code = sqlite3_data_count(handle) > 0 ? SQLITE_ROW : SQLITE_DONE;
+    for (; code == SQLITE_ROW; code = sqlite3_step(handle))
+        rows.push_back(rowOf(handle, statement.columnCount));
+    if (code != SQLITE_DONE) fail(statement);
+    statement.query.finish();
+    return rows;
 }
 
 void Connection::Private::fail(PreparedStatement& statement) const {
