@@ -440,6 +440,7 @@ TEST_F(StoreTest, StatementsWithTooFewOrWrongValuesFail) {
     const Sql two{"SELECT ? AS A, ? AS B", {1, 2}};
     EXPECT_EQ(store.execute(two).integer("B"), 2);
     EXPECT_EQ(numberThrown([&] { store.execute({two.text, {1}}); }), StoreError::general);
+    EXPECT_EQ(numberThrown([&] { BulkReader(store, {two.text, {1}}); }), StoreError::general);
     EXPECT_EQ(numberThrown([&] { store.execute("SELECT nonsense"); }), StoreError::general);
     const qint64 most = std::numeric_limits<qint64>::max();
     const Sql sum{"SELECT SUM(n) AS S FROM (SELECT ? AS n UNION ALL SELECT 1)", {most}};

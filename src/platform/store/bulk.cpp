@@ -32,13 +32,22 @@ void bindValue(sqlite3_stmt* statement, int position, const QVariant& value) {
         sqlite3_bind_int64(statement, position, value.toLongLong());
 }
 
-// One step; true when it gave a row. A step that met another workstation's lock starts over.
+void bindAll(sqlite3_stmt* statement, const QVariantList& values) {
+    if (sqlite3_bind_parameter_count(statement) != values.size())
+        throw StoreError(StoreError::general, "The statement has other values than it asks for.");
+    for (int i = 0; i < values.size(); ++i) bindValue(statement, i + 1, storedValue(values[i]));
+}
+
+// One step; true when it gave a row. A first step that met another workstation's lock is tried again; later
+// ones hold a lock of their own.
 bool stepped(sqlite3_stmt* statement) {
     sqlite3* const engine = sqlite3_db_handle(statement);
+    const bool underWay = sqlite3_stmt_busy(statement) != 0;
     BusyWait wait;
     for (;;) {
         const int code = sqlite3_step(statement);
         if (code == SQLITE_ROW || code == SQLITE_DONE) return code == SQLITE_ROW;
+        if (underWay) throw engineError(engine);
         sqlite3_reset(statement);
         waitOrThrow(engine, wait);
     }
@@ -47,8 +56,12 @@ bool stepped(sqlite3_stmt* statement) {
 
 BulkReader::BulkReader(Connection& store, const Sql& statement)
     : statement_(prepareBulk(store, statement.text)) {
-    for (int i = 0; i < statement.values.size(); ++i)
-        bindValue(statement_, i + 1, storedValue(statement.values[i]));
+    try {
+        bindAll(statement_, statement.values);
+    } catch (...) {
+        sqlite3_finalize(statement_);
+        throw;
+    }
 }
 
 BulkReader::~BulkReader() { sqlite3_finalize(statement_); }
