@@ -56,8 +56,8 @@ void frmAddItem::makeFields() {
     txtUnit = new TextBox("txtUnit");
     txtUnit->setCapacity(width::unit);
     txtUnit->setKeyFilter(keys::freeText());
-    lblServe = namedLabel("lblServe", QString(owner_.lineWords().lblServe) + " :", txtServe);
-    lblPrice = namedLabel("lblPrice", QString(owner_.lineWords().lblPrice) + " :", txtCost);
+    lblServe = namedLabel("lblServe", owner_.lineWords().lblServe, txtServe);
+    lblPrice = namedLabel("lblPrice", owner_.lineWords().lblPrice, txtCost);
     cmdSave = form::button("cmdSave", "&OK", "save");
     cmdCancel = form::button("cmdCancel", "&Close", "close");
 }
@@ -211,7 +211,7 @@ bool frmAddItem::CheckCode() {
 }
 
 void frmAddItem::leaveCode() {
-    if (closing_ || CheckCode() || cboItemCode->text().isEmpty()) return;
+    if (closing_ || telling_ || CheckCode() || cboItemCode->text().isEmpty()) return;
     // Who leaves for the button that closes does not look for an item.
     if (!cmdCancel->hasFocus()) findItem(cboItemCode->text(), "P");
 }
@@ -225,13 +225,21 @@ void frmAddItem::compute(const std::function<void(LineEntry&)>& rule) {
 
 // A figure beyond the range leaves the fields as they are: saving the line refuses it.
 void frmAddItem::computeOrTell(const std::function<std::optional<Fault>(LineEntry&)>& rule) {
+    if (telling_) return;
     LineEntry typed = entry();
     try {
         const auto fault = rule(typed);
         showEntry(typed);
-        if (fault && !closing_) tellFault(*fault, this);
+        if (fault && !closing_) tell(*fault);
     } catch (const OverflowError&) {
     }
+}
+
+// The fields that the focus passes on its way back to the one at fault have nothing to say.
+void frmAddItem::tell(const Fault& fault) {
+    telling_ = true;
+    tellFault(fault, this);
+    telling_ = false;
 }
 
 void frmAddItem::typeServed() {
@@ -245,7 +253,7 @@ void frmAddItem::typeServed() {
 
 void frmAddItem::leaveUnit() {
     txtUnit->setText(txtUnit->text().toUpper());
-    if (!closing_) completeUnit(txtUnit);
+    if (!closing_ && !telling_) completeUnit(txtUnit);
 }
 
 void frmAddItem::findItem(const QString& typed, const QString& kind) {
@@ -289,7 +297,7 @@ bool frmAddItem::save() {
     showEntry(typed);
     if (!ran) return false;
     if (const auto* fault = std::get_if<Fault>(&outcome)) {
-        tellFault(*fault, this);
+        tell(*fault);
         if (closes) {
             SkipResave = true;
             closeDialog();

@@ -49,6 +49,7 @@ class frmAddItem : public ChildScreen {
     void showEntry(const LineEntry& entry);
     void compute(const std::function<void(LineEntry&)>& rule);
     void computeOrTell(const std::function<std::optional<Fault>(LineEntry&)>& rule);
+    void tell(const Fault& fault);
     void leaveCode();
     void typeServed();
     void leaveUnit();
@@ -63,6 +64,7 @@ class frmAddItem : public ChildScreen {
 
     LineOwner& owner_;
     QPointer<GridPicker> picker_;
+    bool telling_ = false;
     bool closing_ = false;  // by its own button, not by the control box
 
     ComboBox* cboItemCode;

@@ -153,6 +153,7 @@ void OrderControls::showNewDocument(bool isNew) {
 
 void OrderControls::showSortArrow(int column, Qt::SortOrder order) {
     arrowColumn_ = column;
+    lvwItems->header()->setSortIndicatorShown(false);
     const int size = lvwItems->fontMetrics().height();
     imgArrow->setPixmap(
         bundledIcon(order == Qt::AscendingOrder ? "arrow-up" : "arrow-down").pixmap(size, size));

@@ -1,0 +1,416 @@
+#include "sales/frmSalesEntry.h"
+#include "documents/order_books.h"
+#include "platform/ui/list_view.h"
+#include "platform/ui/screen_registry.h"
+#include "support/box_script.h"
+#include "support/screen_checks.h"
+#include "support/screen_driver.h"
+
+#include <QCheckBox>
+
+using person::press;
+using person::read;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+namespace {
+// The screen over the small firm's books, with 10 pieces of rice and of sugar bought on the 1st.
+class SalesEntry : public OrderBooks {
+  protected:
+    void SetUp() override {
+        OrderBooks::SetUp();
+        ScreenRegistry::instance().add("frmSalesEntry", [] { return new frmSalesEntry; });
+        saved(purchaseOrders, {line("I1", "10", "10", "10"), line("I2", "10", "10", "4")}, "03/01/2026");
+        mayPrint(false);
+    }
+    void TearDown() override {
+        if (screen) screen->mblnUpdated = false;
+        for (ChildScreen* open : ScreenRegistry::instance().openScreens())
+            if (open != dialog()) open->unload();
+        person::settle();
+        OrderBooks::TearDown();
+    }
+
+    void mayPrint(bool may) {
+        store.run({"UPDATE tblUserMaster SET PrintDRAccess = ? WHERE UserCode = 'ADMIN'", {may}});
+    }
+    void open(const QString& key = {}) {
+        screen = static_cast<frmSalesEntry*>(
+            ScreenRegistry::instance().open("frmSalesEntry", ScreenArguments{{}, key, {}}));
+        person::look(screen);
+    }
+    // Takes the lock, as the journal does before it opens a document.
+    void edit(const QString& key) {
+        ASSERT_EQ(takeRecordLock(store, salesBook, key), LockResult::Taken);
+        open(key);
+    }
+    ChildScreen* dialog() { return ScreenRegistry::instance().opened("frmAddItem"); }
+    ChildScreen* popup() { return ScreenRegistry::instance().opened("frmInputInList"); }
+    ListView* list() { return person::find<ListView>(screen, "lvwItems"); }
+    std::vector<std::string> lines() {
+        std::vector<std::string> texts;
+        for (const QStringList& row : list()->rows())
+            texts.push_back(OrderLine::fromTexts(row).texts().join(" | ").toStdString());
+        return texts;
+    }
+    bool locked(const QString& key) {
+        return FlagFieldSet(store, "tblSalesMaster", "RefNo", key, "RecordLock");
+    }
+
+    // Adds a line with keys from the open dialog; leaves it open.
+    void typeLine(const QString& code, const QString& order, const QString& serve) {
+        person::fill(dialog(), "cboItemCode", code);
+        press(Qt::Key_Return);
+        EXPECT_EQ(person::focusName(), "txtCost") << "a code that is found goes on to its price";
+        for (int i = 0; i < 3; ++i) press(Qt::Key_Return);
+        EXPECT_EQ(person::focusName(), "txtOrder");
+        person::type(order);
+        press(Qt::Key_Return);
+        person::type(serve);
+        press(Qt::Key_Return);
+    }
+    void closeDialog() {
+        person::click(dialog(), "cmdCancel");
+        EXPECT_EQ(dialog(), nullptr);
+    }
+
+    BoxScript boxes;
+    QPointer<frmSalesEntry> screen;
+};
+
+TEST_F(SalesEntry, RecordsASaleWithKeys) {
+    mayPrint(true);
+    open();
+    EXPECT_EQ(read(screen, "txtCode"), "03-1001-2026");
+    EXPECT_EQ(person::focusName(), "cboCustomer");
+    person::type("nen");
+    press(Qt::Key_Return);
+    ASSERT_TRUE(ScreenRegistry::instance().opened("frmContactFound"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(read(screen, "cboCustomer"), "Nena");
+    EXPECT_EQ(read(screen, "txtTerm"), "30 Days");
+    EXPECT_EQ(read(screen, "txtCustomerBalance"), "0.00");
+    EXPECT_EQ(person::focusName(), "txtRemarks");
+    press(Qt::Key_Return);
+    ASSERT_TRUE(dialog());
+    typeLine("I1", "5", "4");
+    EXPECT_EQ(person::focusName(), "cboItemCode") << "the dialog is ready for the next line";
+    typeLine("i2", "2", "0");
+    closeDialog();
+    EXPECT_THAT(lines(), ElementsAre("I1 | Rice | 5 | 4 | PC | 15.0000 | 12.5000 | 13.1250 | 52.50",
+                                     "I2 | Sugar | 2 | 0 | PC | 6.0000 | 12.5000 | 5.2500 | 0.00"));
+    EXPECT_EQ(read(screen, "txtAmount"), "52.50");
+    EXPECT_EQ(read(screen, "txtCount"), "2");
+    boxes.expect("", "Do you want to Print Delivery Receipt for this Sales Transaction?", BoxAnswer::Yes)
+        .expect("Zevrin!")
+        .expect("Saved!", "Record Successfully Saved!");
+    EXPECT_TRUE(screen->SaveRecord());
+    EXPECT_EQ(read(screen, "txtCode"), "03-1002-2026");
+    EXPECT_FALSE(screen->mblnUpdated);
+    EXPECT_THAT(lines(), IsEmpty());
+    EXPECT_EQ(loadOrder(store, salesOrders, "03-1001-2026").balance, "52.50");
+}
+
+TEST_F(SalesEntry, KeepsWhatWasTypedWhenTheSaveIsRefused) {
+    open();
+    person::fill(screen, "txtRemarks", "rush");
+    boxes.expect("No Customer!", "Please Select Customer!");
+    EXPECT_FALSE(screen->SaveRecord());
+    EXPECT_EQ(person::focusName(), "cboCustomer");
+    EXPECT_EQ(read(screen, "txtRemarks"), "rush");
+    EXPECT_TRUE(screen->mblnAddmode && screen->mblnUpdated);
+}
+
+TEST_F(SalesEntry, ComposesItsNumberFromThreeBoxes) {
+    open();
+    person::fill(screen, "txtSerialCode", "12a3");
+    EXPECT_EQ(read(screen, "txtCode"), "03-123-2026");
+    EXPECT_TRUE(screen->mblnUpdated);
+    press(Qt::Key_Return);
+    EXPECT_EQ(person::focusName(), "txtYearCode");
+    person::type("25");
+    press(Qt::Key_Return);
+    EXPECT_EQ(person::focusName(), "txtRefDate");
+    EXPECT_EQ(read(screen, "txtCode"), "03-123-25");
+    StoreSalesSerial(store, "1040");
+    person::click(screen, "cmdIncrement");
+    EXPECT_EQ(read(screen, "txtCode"), "03-1041-25");
+}
+
+TEST_F(SalesEntry, NeedsACustomerForALine) {
+    open();
+    boxes.expect("Error!", "Please Select Customer First!")
+        .expect("Does not exist!",
+                "Customer Does Not Exist, Please Add This To Customer Master File First...")
+        .expect("Does not exist!", "Customer does not exist, please add this to Contact Master File...");
+    press(Qt::Key_Insert);
+    person::type("Somebody");
+    person::click(screen, "cmdAdd");
+    person::click(screen, "cmdEdit");
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(SalesEntry, ShowsAStoredDocumentAndLetsGoOfItsLock) {
+    const QString key = saved(salesOrders, {line("I1", "2", "1", "15", "10")});
+    edit(key);
+    EXPECT_EQ(read(screen, "txtCode"), key);
+    EXPECT_EQ(read(screen, "cboCustomer"), "Nena");
+    EXPECT_EQ(read(screen, "txtBalance"), "13.50");
+    EXPECT_EQ(read(screen, "txtTerm"), "30 Days");
+    EXPECT_THAT(lines(), ElementsAre("I1 | Rice | 2 | 1 | PC | 15.0000 | 10.0000 | 13.5000 | 13.50"));
+    for (const char* name : {"txtCode", "txtRefDate", "cboCustomer"})
+        EXPECT_FALSE(person::control(screen, name)->isEnabled()) << name;
+    for (const char* name : {"lblReference", "txtSerialCode", "cmdIncrement", "chkWholesale"})
+        EXPECT_FALSE(person::control(screen, name)->isVisible()) << name;
+    EXPECT_TRUE(locked(key));
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(screen) << "nothing changed, nothing asked";
+    EXPECT_FALSE(locked(key));
+}
+
+TEST_F(SalesEntry, ClosesThroughItsQuestion) {
+    const QString key = saved(salesOrders, {line("I1", "2", "1", "15")});
+    edit(key);
+    person::fill(screen, "txtRemarks", "later");
+    boxes.expect("Confirm Update Record!", "Current Record has been Updated.  Save Changes then Exit?",
+                 BoxAnswer::Cancel);
+    EXPECT_FALSE(screen->unload());
+    EXPECT_TRUE(locked(key)) << "after a Cancel it stays";
+    store.run("DELETE FROM tblContactMaster");
+    boxes.expect("Confirm Update Record!", "", BoxAnswer::Yes).expect("Does not exist!");
+    EXPECT_FALSE(screen->unload()) << "a refused save keeps the screen";
+    EXPECT_TRUE(locked(key));
+    addContact(store, {.id = "C1", .name = "Nena"});
+    boxes.expect("Confirm Update Record!", "", BoxAnswer::Yes).expect("Saved!");
+    EXPECT_TRUE(screen->unload());
+    EXPECT_EQ(loadOrder(store, salesOrders, key).document.remarks, "later");
+    EXPECT_FALSE(locked(key));
+}
+
+TEST_F(SalesEntry, AsksBeforeItShowsAnotherDocument) {
+    const QString first = saved(salesOrders, {line("I1", "2", "1", "15")});
+    const QString second = saved(salesOrders, {line("I2", "2", "1", "6")});
+    edit(first);
+    person::fill(screen, "txtRemarks", "x");
+    ASSERT_EQ(takeRecordLock(store, salesBook, second), LockResult::Taken);
+    boxes.expect("Confirm Update Record!", "", BoxAnswer::Cancel);
+    EXPECT_EQ(ScreenRegistry::instance().open("frmSalesEntry", ScreenArguments{{}, second, {}}), nullptr);
+    EXPECT_EQ(read(screen, "txtCode"), first);
+    EXPECT_TRUE(locked(first));
+    boxes.expect("Confirm Update Record!", "", BoxAnswer::No);
+    ScreenRegistry::instance().open("frmSalesEntry", ScreenArguments{{}, second, {}});
+    EXPECT_EQ(read(screen, "txtCode"), second);
+    EXPECT_FALSE(locked(first));
+    EXPECT_TRUE(locked(second));
+}
+
+TEST_F(SalesEntry, LeavesALockThatIsNotItsOwn) {
+    const QString key = saved(salesOrders, {line("I1", "2", "1", "15")});
+    edit(key);
+    boxes.expect("Saved!");
+    EXPECT_TRUE(screen->SaveRecord());
+    EXPECT_FALSE(locked(key));
+    ASSERT_EQ(takeRecordLock(store, salesBook, key), LockResult::Taken);  // another workstation
+    screen->unload();
+    EXPECT_TRUE(locked(key));
+}
+
+TEST_F(SalesEntry, WritesALineUnderChangeBackWhenTheDialogIsClosed) {
+    edit(saved(salesOrders, {line("I1", "5", "4", "15", "10"), line("I2", "1", "1", "6")}));
+    list()->setFocus();
+    list()->setCurrentRow(0);
+    press(Qt::Key_F2);
+    ASSERT_TRUE(dialog());
+    EXPECT_TRUE(screen->mblnUpdated);
+    EXPECT_EQ(lines().size(), 1U) << "it has left the list";
+    EXPECT_EQ(read(screen, "txtAmount"), "6.00");
+    EXPECT_EQ(read(dialog(), "txtDiscount"), "10.0000");
+    person::fill(dialog(), "txtServe", "5");
+    closeDialog();
+    EXPECT_THAT(lines(), ElementsAre("I2 | Sugar | 1 | 1 | PC | 6.0000 | 0.0000 | 6.0000 | 6.00",
+                                     "I1 | Rice | 5 | 5 | PC | 15.0000 | 10.0000 | 13.5000 | 67.50"));
+}
+
+TEST_F(SalesEntry, LosesALineWhoseWriteBackIsRefused) {
+    edit(saved(salesOrders, {line("I1", "5", "4", "15")}));
+    list()->setCurrentRow(0);
+    person::click(screen, "cmdEdit");
+    person::fill(dialog(), "txtServe", "11");
+    boxes.expect("Error!",
+                 "Purchase This Item First! Inventory Balance For This Sales Period is Less Than your Served "
+                 "Item!");
+    person::click(dialog(), "cmdCancel");
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_THAT(lines(), IsEmpty());
+    boxes.expect("Net Amount!", "There is No Order Made for this Record! Please Add Item to Order!");
+    EXPECT_FALSE(screen->SaveRecord());
+}
+
+TEST_F(SalesEntry, DropsTheDiscountWhenTheCodeIsLeftDuringAChange) {
+    edit(saved(salesOrders, {line("I1", "5", "4", "15", "10")}));
+    list()->setCurrentRow(0);
+    person::click(screen, "cmdEdit");
+    person::goTo(dialog(), "cboItemCode");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(read(dialog(), "txtDiscount"), "0.0000");
+    EXPECT_EQ(read(dialog(), "txtNetPrice"), "15.0000");
+    closeDialog();
+}
+
+TEST_F(SalesEntry, HoldsTheFrontWhileTheLineDialogIsOpen) {
+    open();
+    person::type("Nena");
+    person::click(screen, "cmdAdd");
+    ASSERT_TRUE(dialog());
+    boxes.expect("Lost Focus!", "Please Click on Close Button to Exit!");
+    screen->activateWindow();
+    screen->setFocus();
+    person::settle();
+    EXPECT_TRUE(dialog()->isActiveWindow());
+    boxes.expect("Please Don't Press X Button!",
+                 "You cannot Press X mark, please click on Cancel Button to exit without saving!");
+    dialog()->close();
+    EXPECT_TRUE(dialog());
+    boxes.expect("Lost Focus!");
+    EXPECT_FALSE(screen->SaveRecord()) << "a line may be in the dialog's hands";
+    boxes.expect("Lost Focus!");
+    EXPECT_FALSE(screen->unload());
+    closeDialog();
+}
+
+TEST_F(SalesEntry, FindsAnItemThatWasTypedWrong) {
+    open();
+    person::type("Nena");
+    person::click(screen, "cmdAdd");
+    person::fill(dialog(), "cboItemCode", "I");
+    press(Qt::Key_Tab);
+    ASSERT_TRUE(ScreenRegistry::instance().opened("frmFound"));
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    ASSERT_FALSE(ScreenRegistry::instance().opened("frmFound"));
+    EXPECT_EQ(read(dialog(), "cboItemCode") + read(dialog(), "cboDescription"), "I2Sugar");
+    EXPECT_EQ(read(dialog(), "txtCost"), "6.0000");
+    EXPECT_EQ(person::focusName(), "txtCost");
+    closeDialog();
+}
+
+TEST_F(SalesEntry, RefusesAnItemEnteredTwiceAndClosesTheDialog) {
+    edit(saved(salesOrders, {line("I1", "5", "4", "15")}));
+    person::click(screen, "cmdAdd");
+    boxes.expect("Error!",
+                 "Rice Had Already Been Entered Below! You May Click on Edit Button to Modify Record!");
+    typeLine("I1", "1", "1");
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_EQ(lines().size(), 1U);
+}
+
+TEST_F(SalesEntry, KeepsTheFieldAtFaultInTheDialog) {
+    open();
+    person::type("Nena");
+    person::click(screen, "cmdAdd");
+    person::fill(dialog(), "cboItemCode", "I1");
+    press(Qt::Key_Return);
+    boxes.expect("Error!", "Discount Percentage should not be Equal or Greater than 100%");
+    person::fill(dialog(), "txtDiscount", "100");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(person::focusName(), "txtDiscount");
+    person::fill(dialog(), "txtDiscount", "99.9999");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(read(dialog(), "txtNetPrice"), "0.0000");
+    boxes.expect("Please enter value!", "Please Enter Numeric for Order Ouantity!");
+    person::fill(dialog(), "txtOrder", "1.2.3");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(person::focusName(), "txtOrder");
+    person::fill(dialog(), "txtOrder", "3");
+    closeDialog();
+}
+
+TEST_F(SalesEntry, ServesALineFromTheList) {
+    edit(saved(salesOrders, {line("I1", "5", "1", "15", "10")}));
+    list()->setFocus();
+    list()->setCurrentRow(0);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(popup());
+    EXPECT_EQ(read(popup(), "lblTitle") + read(popup(), "txtOrder") + read(popup(), "txtValue") +
+                  read(popup(), "txtPrice") + read(popup(), "lblServed"),
+              "Rice5113.5000Served :");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_EQ(list()->text(0, 3), "1");
+    EXPECT_TRUE(screen->mblnUpdated);
+    press(Qt::Key_Return);
+    person::type("6");
+    boxes.expect("Error!", "Item Served is Greater Than Ordered By the Customer! Do You Wish to Continue?",
+                 BoxAnswer::No);
+    press(Qt::Key_Return);
+    EXPECT_EQ(person::focusName(), "txtValue");
+    boxes.expect("Error!", "", BoxAnswer::Yes);
+    press(Qt::Key_Return);
+    EXPECT_EQ(popup(), nullptr);
+    EXPECT_THAT(lines(), ElementsAre("I1 | Rice | 5 | 6 | PC | 15.0000 | 10.0000 | 13.5000 | 81.00"));
+    EXPECT_EQ(read(screen, "txtAmount"), "81.00");
+}
+
+TEST_F(SalesEntry, RemovesALineAfterItsQuestion) {
+    open();
+    person::type("Nena");
+    auto* wholesale = person::find<QCheckBox>(screen, "chkWholesale");
+    wholesale->setChecked(true);
+    person::click(screen, "cmdAdd");
+    typeLine("I1", "1", "1");
+    closeDialog();
+    EXPECT_EQ(list()->text(0, 5), "13.0000") << "the wholesale price";
+    EXPECT_FALSE(wholesale->isEnabled());
+    list()->setCurrentRow(0);
+    list()->setFocus();
+    const Box asked = question("Confirm Delete", "Confirm Deletion of this Record.  Delete Record Now?");
+    boxes.expect(asked);  // Enter is No
+    press(Qt::Key_Delete);
+    EXPECT_EQ(read(screen, "txtCount"), "1");
+    boxes.expect(asked, BoxAnswer::Yes);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(read(screen, "txtCount"), "0");
+    EXPECT_EQ(read(screen, "txtAmount"), "0.00");
+    EXPECT_TRUE(wholesale->isEnabled());
+}
+
+TEST_F(SalesEntry, SortsByAClickOnAHeading) {
+    edit(saved(salesOrders, {line("I1", "9", "1", "15"), line("I2", "10", "1", "6")}));
+    person::clickHeader(list(), OrderLine::Ordered);
+    EXPECT_EQ(list()->text(0, 0), "I1");
+    EXPECT_TRUE(person::control(screen, "imgArrow")->isVisible());
+    EXPECT_FALSE(person::control(screen, "lblNotice")->isVisible());
+    person::clickHeader(list(), OrderLine::Ordered);
+    EXPECT_EQ(list()->text(0, 0), "I2");
+    EXPECT_FALSE(screen->mblnUpdated);
+}
+
+TEST_F(SalesEntry, DoesNotPauseOverTenThousandLines) {
+    open();
+    person::type("Nena");
+    QList<QStringList> rows(10000, line("I2", "1", "1", "6").texts());
+    for (int i = 0; i < rows.size(); ++i) rows[i][0] = QString::number(i);
+    list()->setRows(rows);
+    QElapsedTimer timer;
+    timer.start();
+    screen->addLine(line("I1", "1", "1", "15"));
+    list()->setCurrentRow(5000);
+    boxes.expect("Confirm Delete", "", BoxAnswer::Yes);
+    person::click(screen, "cmdRemove");
+    EXPECT_LT(timer.elapsed(), 500);
+    EXPECT_EQ(read(screen, "txtCount"), "10000");
+    EXPECT_EQ(read(screen, "txtAmount"), "60,009.00");
+}
+
+TEST_F(SalesEntry, ReadsWellAtTheSmallestSize) {
+    open();
+    screen->resize(1000, 620);
+    EXPECT_THAT(check::faults(screen), IsEmpty());
+    person::type("Nena");
+    person::click(screen, "cmdAdd");
+    EXPECT_THAT(check::faults(dialog()), IsEmpty());
+    person::takePicture(screen, "/tmp/o_sales.png");
+    person::takePicture(dialog(), "/tmp/o_add.png");
+    closeDialog();
+}
+}  // namespace
