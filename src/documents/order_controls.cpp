@@ -17,7 +17,7 @@ OrderControls::OrderControls(const OrderScreen& words, QWidget* screen) {
     column->addLayout(listTitle());
     column->addWidget(lvwItems, 1);
     column->addLayout(foot());
-    orderTabs(screen);
+    orderTabs();
     form::setAccessibleFromTexts(screen);
 }
 
@@ -61,6 +61,8 @@ static QList<ListColumn> listColumns(const OrderScreen& words) {
 void OrderControls::makeList(const OrderScreen& words) {
     lvwItems = new ListView("lvwItems", listColumns(words));
     lvwItems->setSortsByHeader(true);
+    lvwItems->header()->setStretchLastSection(false);
+    lvwItems->header()->setSectionResizeMode(OrderLine::Description, QHeaderView::Stretch);
     lvwItems->setAccessibleName("Orders");
     lblNotice = form::label("Click on Column Header to Sort.");
     lblNotice->setObjectName("lblNotice");
@@ -131,20 +133,27 @@ QLayout* OrderControls::foot() const {
     return grid;
 }
 
-void OrderControls::orderTabs(QWidget* screen) const {
+void OrderControls::orderTabs() const {
     QList<QWidget*> order{
         txtCode,   number->txtMonthCode, number->txtSerialCode, number->txtYearCode, number->cmdIncrement,
         txtRefDate};
     if (chkWholesale) order << chkWholesale;
     order << cboCustomer << cmdSearch << txtRemarks << lvwItems << cmdAdd << cmdEdit << cmdRemove << cmdServe;
     for (qsizetype i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
-    Q_UNUSED(screen);
+}
+
+// What a stored document cannot change is still there to be read.
+static void enableReadably(QWidget* field, bool enabled) {
+    QPalette colours = QGuiApplication::palette();
+    colours.setColor(QPalette::Disabled, QPalette::Text, colours.color(QPalette::Active, QPalette::Text));
+    field->setPalette(colours);
+    field->setEnabled(enabled);
 }
 
 void OrderControls::showNewDocument(bool isNew) {
     number->setVisible(isNew);
     for (QWidget* field : QList<QWidget*>{txtCode, txtRefDate, cboCustomer, cmdSearch})
-        field->setEnabled(isNew);
+        enableReadably(field, isNew);
     if (!chkWholesale) return;
     chkWholesale->setVisible(isNew);
     chkWholesale->setEnabled(true);

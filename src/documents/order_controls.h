@@ -50,7 +50,7 @@ class OrderControls {
     QLayout* contact() const;
     QLayout* listTitle() const;
     QLayout* foot() const;
-    void orderTabs(QWidget* screen) const;
+    void orderTabs() const;
     void placeArrow();
 
     int arrowColumn_ = -1;

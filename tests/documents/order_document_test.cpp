@@ -1,6 +1,7 @@
 #include "books/posting_queue.h"
 #include "documents/order_books.h"
 #include "platform/store/transaction.h"
+#include "support/crash_runner.h"
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
@@ -250,6 +251,27 @@ TEST_P(Order, IsSavedWholeOrNotAtAll) {
         }
         EXPECT_GT(refused, 15) << "statements of a save of two lines";
         EXPECT_NE(everything(), before) << "saving again is a fresh try";
+    }
+}
+
+// Killed at any statement, a save leaves the books as before it or, once it is done, as after it.
+TEST_P(Order, SurvivesASuddenEndAtEveryStatement) {
+    const QString key = saved(book(), {line("I1", "2", "2", "10")});
+    OrderDocument edited = reopened(book(), key);
+    edited.lines = {line("I2", "7", "3", "5.5"), line("I1", "1", "1", "12")};
+    const OrderDocument fresh = order(book(), edited.lines);
+    for (const OrderDocument& document : {edited, fresh}) {
+        const auto before = everything();
+        store.close();
+        const auto save = [&](Connection& own) { EXPECT_TRUE(isDone(saveOrder(own, book(), document))); };
+        const int statements =
+            crashAtEveryStatement(storePath(), save, [&](Connection&, const CrashPoint& point) {
+                EXPECT_EQ(everything() != before, point.acknowledged) << "at " << point.statement;
+                if (point.acknowledged) return;
+                EXPECT_EQ(said(saveOrder(store, book(), document)), "done") << "a second try goes through";
+            });
+        EXPECT_GT(statements, 15);
+        store.open(storePath(), storePassword);
     }
 }
 
