@@ -46,6 +46,7 @@ class ChildScreen : public QWidget {
     virtual bool receive(const ScreenArguments& arguments);
     // Closes the screen through its closing question. False when it stays.
     bool unload();
+    bool hasUnloaded() const { return state_ == Unloaded; }
     // The told Form_QueryUnload: false keeps the screen open. Asked once for each attempt to close.
     virtual bool queryUnload() { return true; }
     // The told Form_Activate and Form_Deactivate. Deactivated means another part of this program came to the

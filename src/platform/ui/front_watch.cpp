@@ -73,7 +73,10 @@ void FrontWatch::settle() {
     // A window without a field of its own still comes to the front.
     if (!now) now = QApplication::activeWindow();
     if (outsideTheWork(now)) return;
-    if (ChildScreen* screen = screenOf(now))
+    ChildScreen* screen = screenOf(now);
+    // The focus of a closing screen has yet to go somewhere.
+    if (screen && screen->hasUnloaded()) return;
+    if (screen)
         bringToFront(screen);
     else if (!front_ || front_->window() != now->window())
         bringToFront(nullptr);

@@ -1,0 +1,347 @@
+#include "platform/ui/boxes.h"
+#include "platform/ui/child_screen.h"
+#include "platform/ui/file_dialogs.h"
+#include "platform/ui/form.h"
+#include "platform/ui/frmStatus.h"
+#include "platform/ui/icons.h"
+#include "platform/ui/list_view.h"
+#include "platform/ui/screen_registry.h"
+#include "platform/ui/text_box.h"
+#include "support/box_script.h"
+#include "support/screen_checks.h"
+#include "support/screen_driver.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QProgressBar>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// What happened to the screens, in order.
+QStringList happened;
+
+class Sample : public ChildScreen {
+  public:
+    explicit Sample(const QString& name, Kind kind = Child) : ChildScreen(name, name, Centred, kind) {
+        auto* layout = new QGridLayout(this);
+        form::row(layout, 0, 0, "&Name :", field);
+        form::row(layout, 1, 0, "&Remarks :", new TextBox("txtRemarks"));
+        layout->addWidget(form::button("cmdSave", "&Save", "save"), 2, 1);
+    }
+    bool receive(const ScreenArguments& arguments) override {
+        if (refusesArguments) return false;
+        happened += objectName() + " receives " + arguments.key;
+        return ChildScreen::receive(arguments);
+    }
+    bool queryUnload() override {
+        happened += objectName() + " asks";
+        if (question) question();
+        return leaves;
+    }
+    void activated() override { happened += objectName() + " activated"; }
+    void deactivated() override { happened += objectName() + " deactivated"; }
+    void unloading() override { happened += objectName() + " unloads"; }
+
+    TextBox* field = new TextBox("txtName");
+    bool leaves = true;
+    bool refusesArguments = false;
+    std::function<void()> question;
+};
+
+class Frame : public QMainWindow, public ScreenHost {
+  public:
+    Frame() {
+        setCentralWidget(area);
+        resize(1024, 768);
+    }
+    void host(ChildScreen* screen) override {
+        QMdiSubWindow* window = area->addSubWindow(screen);
+        window->show();
+        area->setActiveSubWindow(window);
+    }
+    void bringForward(ChildScreen* screen) override {
+        area->setActiveSubWindow(qobject_cast<QMdiSubWindow*>(screen->parentWidget()));
+    }
+    QMdiArea* area = new QMdiArea;
+};
+
+class UiScreens : public testing::Test {
+  protected:
+    void SetUp() override {
+        ScreenRegistry::instance().setHost(&frame);
+        for (const char* name : {"frmOne", "frmTwo"})
+            ScreenRegistry::instance().add(name, [name] { return new Sample(name); });
+        person::look(&frame);
+        happened.clear();
+    }
+    void TearDown() override {
+        for (ChildScreen* screen : ScreenRegistry::instance().openScreens()) delete screen;
+        ScreenRegistry::instance().setHost(nullptr);
+        person::settle();
+    }
+    static Sample* open(const QString& name, const QString& key = {}) {
+        auto* screen = static_cast<Sample*>(ScreenRegistry::instance().open(name, {{}, key, {}}));
+        person::settle();
+        return screen;
+    }
+    static QStringList takeHappened() { return std::exchange(happened, {}); }
+    Frame frame;
+};
+
+}  // namespace
+
+TEST_F(UiScreens, AreSingleInstancesInTheOrderOfTheirOpening) {
+    Sample* one = open("frmOne", "A");
+    EXPECT_EQ(takeHappened(), QStringList({"frmOne receives A", "frmOne activated"}));
+    Sample* two = open("frmTwo");
+    EXPECT_EQ(open("frmOne", "B"), one);
+    EXPECT_EQ(ScreenRegistry::instance().openScreens(), QList<ChildScreen*>({one, two}));
+    EXPECT_EQ(takeHappened(), QStringList({"frmTwo receives ", "frmOne deactivated", "frmTwo activated",
+                                           "frmOne receives B", "frmTwo deactivated", "frmOne activated"}));
+    one->refusesArguments = true;
+    EXPECT_EQ(open("frmOne", "C"), nullptr);
+    EXPECT_EQ(ScreenRegistry::instance().opened("frmOne"), one);
+    EXPECT_EQ(open("frmNowhere"), nullptr);
+    EXPECT_FALSE(ScreenRegistry::instance().knows("frmNowhere"));
+}
+
+TEST_F(UiScreens, AskOnceForEachAttemptToClose) {
+    QPointer<Sample> one = open("frmOne");
+    one->leaves = false;
+    takeHappened();
+    EXPECT_FALSE(one->unload());
+    person::press(Qt::Key_Escape);
+    one->parentWidget()->close();
+    EXPECT_EQ(takeHappened(), QStringList({"frmOne asks", "frmOne asks", "frmOne asks"}));
+    EXPECT_TRUE(one->isVisible());
+
+    one->question = [&] { EXPECT_FALSE(one->unload()) << "an attempt while the question is open"; };
+    one->leaves = true;
+    const QSignalSpy unloaded(one, &ChildScreen::unloaded);
+    EXPECT_TRUE(one->unload());
+    EXPECT_EQ(unloaded.count(), 1);
+    person::settle();
+    EXPECT_FALSE(one);
+    EXPECT_EQ(takeHappened(), QStringList({"frmOne asks", "frmOne unloads"}));
+    EXPECT_TRUE(frame.area->subWindowList().isEmpty()) << "its child window stayed behind";
+    EXPECT_EQ(ScreenRegistry::instance().opened("frmOne"), nullptr);
+}
+
+TEST_F(UiScreens, EveryWayOutTakesTheChildWindowAlong) {
+    const QList<std::function<void(ChildScreen*)>> ways = {
+        [](ChildScreen* screen) { screen->CloseRecord(); },
+        [](ChildScreen* screen) { screen->close(); },
+        [](ChildScreen* screen) { screen->parentWidget()->close(); },
+        [](ChildScreen*) { person::press(Qt::Key_Escape); },
+    };
+    for (const auto& way : ways) {
+        open("frmOne");
+        takeHappened();
+        way(ScreenRegistry::instance().opened("frmOne"));
+        person::settle();
+        EXPECT_EQ(takeHappened(), QStringList({"frmOne asks", "frmOne unloads"}));
+        EXPECT_TRUE(frame.area->subWindowList().isEmpty());
+        EXPECT_TRUE(ScreenRegistry::instance().openScreens().isEmpty());
+    }
+}
+
+TEST_F(UiScreens, AQuestionThatFailsKeepsTheScreenOpenAndSaysWhy) {
+    Sample* one = open("frmOne");
+    one->question = [] { throw std::runtime_error("disk I/O error"); };
+    BoxScript boxes;
+    boxes.expect("Error...", "disk I/O error");
+    EXPECT_FALSE(one->unload());
+    EXPECT_TRUE(one->isVisible());
+}
+
+TEST_F(UiScreens, ABoxAnotherProgramAndTheOwnPopupAreNoOtherPart) {
+    Sample* one = open("frmOne");
+    takeHappened();
+    setBoxAnswerer(nullptr);
+    QTimer::singleShot(20, [] { person::press(Qt::Key_Return); });
+    showBox(information("Saved!", "Record Successfully Saved!"));
+    failOnUnexpectedBoxes();
+    person::settle();
+    QApplication::setActiveWindow(nullptr);
+    person::settle();
+    person::look(&frame);
+    EXPECT_EQ(takeHappened(), QStringList());
+
+    auto* popup = new Sample("frmPopup", ChildScreen::Popup);
+    ScreenRegistry::instance().show(popup);
+    person::settle();
+    EXPECT_EQ(popup->opener(), one);
+    EXPECT_TRUE(popup->isWindow());
+    EXPECT_FALSE(popup->isModal());
+    EXPECT_EQ(popup->parentWidget(), &frame);
+    EXPECT_EQ(takeHappened(), QStringList("frmPopup activated"));
+
+    open("frmTwo");
+    frame.activateWindow();
+    person::settle();
+    EXPECT_EQ(takeHappened(), QStringList({"frmTwo receives ", "frmPopup deactivated", "frmOne deactivated",
+                                           "frmTwo activated"}));
+    popup->activateWindow();
+    popup->field->setFocus();
+    person::settle();
+    takeHappened();
+    person::press(Qt::Key_Escape);
+    EXPECT_EQ(takeHappened().first(2), QStringList({"frmPopup asks", "frmPopup unloads"}));
+}
+
+TEST_F(UiScreens, WorkWithoutAFrame) {
+    ScreenRegistry::instance().setHost(nullptr);
+    Sample* one = open("frmOne");
+    Sample* two = open("frmTwo");
+    EXPECT_TRUE(one->isWindow() && one->isVisible());
+    EXPECT_EQ(open("frmOne"), one);
+    person::settle();
+    EXPECT_TRUE(one->isActiveWindow());
+    EXPECT_TRUE(two->unload());
+    EXPECT_TRUE(one->unload());
+    person::settle();
+    EXPECT_TRUE(ScreenRegistry::instance().openScreens().isEmpty());
+}
+
+TEST_F(UiScreens, KeepWhatEveryScreenMustKeep) {
+    Sample* one = open("frmOne");
+    EXPECT_EQ(check::faults(one), QStringList());
+}
+
+// The checks themselves: each must see its fault.
+TEST(UiChecks, SeeTheFaultsTheyAreFor) {
+    QWidget screen;
+    auto* layout = new QGridLayout(&screen);
+    auto* first = new TextBox("txtFirst");
+    auto* second = new TextBox("");
+    auto* label = form::label("A label that is much too long for its place :", first);
+    label->setFixedWidth(20);
+    layout->addWidget(label, 0, 0);
+    layout->addWidget(first, 1, 1);
+    layout->addWidget(second, 0, 1);
+    person::look(&screen);
+    EXPECT_EQ(check::clippedTexts(&screen).size(), 1);
+    EXPECT_EQ(check::unnamedControls(&screen).size(), 2) << "no object name and no accessible name";
+    EXPECT_EQ(check::tabOrderFaults(&screen).size(), 1);
+    ListView list("lvw", {{"Heading"}, {"Last"}}, &screen);
+    list.setColumnWidth(0, 10);
+    list.show();
+    EXPECT_EQ(check::clippedTexts(&screen).size(), 2);
+}
+
+TEST(UiStatus, WorksNestedAndCountsBeyond32Bits) {
+    frmStatus status;
+    auto* text = status.findChild<QLabel*>("lblStatus");
+    auto* bar = status.findChild<QProgressBar*>("pbrStatus");
+    status.begin("Outer", 10'000'000'000);
+    QTest::qWait(60);
+    status.setValue(5'000'000'000);
+    EXPECT_TRUE(status.isVisible());
+    EXPECT_EQ(bar->value() * 2, bar->maximum());
+    status.begin("Inner", 4);
+    EXPECT_EQ(text->text(), "Inner");
+    EXPECT_EQ(bar->value(), 0);
+    EXPECT_FALSE(status.close()) << "only the work closes it";
+    status.end();
+    EXPECT_EQ(text->text(), "Outer");
+    EXPECT_EQ(bar->value() * 2, bar->maximum());
+    status.end();
+    EXPECT_FALSE(status.isVisible());
+    status.end();
+    status.setValue(1);
+}
+
+TEST(UiStatus, PaintsSeldomHoweverOftenItIsToldAndTakesNoInput) {
+    TextBox box("txtName");
+    person::look(&box);
+    frmStatus status;
+    status.begin("Please Wait...", 1'000'000);
+    int turns = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] { ++turns; });
+    timer.start(0);
+    QElapsedTimer clock;
+    clock.start();
+    for (qint64 value = 0; clock.elapsed() < 300; ++value) status.setValue(value % 1'000'000);
+    EXPECT_GE(turns, 2) << "the window does not live";
+    EXPECT_LE(turns, 10);
+    status.end();
+}
+
+TEST(UiBoxes, EscAnswersWithTheLastButtonAndEnterWithTheDefault) {
+    struct Case {
+        Box box;
+        BoxAnswer enter;
+        BoxAnswer esc;
+    };
+    const Case cases[] = {
+        {information("Saved!", "Saved"), BoxAnswer::Ok, BoxAnswer::Ok},
+        {question("Continue?", "Go on?"), BoxAnswer::Yes, BoxAnswer::No},
+        {question("Confirm Delete", "Delete?", BoxAnswer::No), BoxAnswer::No, BoxAnswer::No},
+        {{"Confirm", "<b>Save</b>?", BoxIcon::Question, BoxButtons::YesNoCancel},
+         BoxAnswer::Yes,
+         BoxAnswer::Cancel},
+    };
+    setBoxAnswerer(nullptr);
+    const auto restore = qScopeGuard(failOnUnexpectedBoxes);
+    const auto answerTo = [](const Box& box, Qt::Key key) {
+        QTimer::singleShot(0, [&box, key] {
+            EXPECT_TRUE(boxIsOpen());
+            const QWidget* window = QApplication::activeModalWidget();
+            ASSERT_TRUE(window);
+            EXPECT_EQ(window->findChild<QLabel*>("qt_msgbox_label")->textFormat(), Qt::PlainText);
+            EXPECT_EQ(window->accessibleName(), box.title);
+            person::press(key);
+        });
+        return showBox(box);
+    };
+    for (const Case& row : cases) {
+        EXPECT_EQ(answerTo(row.box, Qt::Key_Return), row.enter) << qPrintable(row.box.title);
+        EXPECT_EQ(answerTo(row.box, Qt::Key_Escape), row.esc) << qPrintable(row.box.title);
+    }
+    EXPECT_FALSE(boxIsOpen());
+}
+
+TEST(UiBoxes, AnExceptionOfAButtonComesAsABox) {
+    BoxScript boxes;
+    boxes.expect("Error!", "no such table");
+    EXPECT_FALSE(guarded([] { throw std::runtime_error("no such table"); }, "Error!"));
+    EXPECT_TRUE(guarded([] {}));
+}
+
+TEST(UiDesk, WithoutAPrinterABoxSaysSo) {
+    BoxScript boxes;
+    boxes.expect("Printer Setup");
+    EXPECT_FALSE(desk::setUpPrinter(nullptr));
+    EXPECT_FALSE(desk::openWithDesktop("/nowhere/Zevrin.hlp"));
+}
+
+TEST(UiIcons, EveryPictureIsBundledAndSeenOnLightAndOnDark) {
+    const QStringList names = {"new",      "edit",     "delete",     "save",    "close",        "first",
+                               "previous", "next",     "last",       "print",   "search",       "refresh",
+                               "exit",     "copy",     "cut",        "paste",   "item",         "contact",
+                               "unit",     "sales",    "purchase",   "receipt", "disbursement", "users",
+                               "company",  "register", "calculator", "help",    "switch",       "upload",
+                               "bird",     "arrow-up", "arrow-down", "lock"};
+    const auto contrast = [](const QImage& picture, int background) {
+        int strongest = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (const QColor c = picture.pixelColor(x, y); c.alpha() > 200)
+                    strongest = std::max(strongest, std::abs(qGray(c.rgb()) - background));
+        return strongest;
+    };
+    for (const QString& name : names) {
+        const QImage picture = bundledIcon(name).pixmap(32, 32).toImage();
+        ASSERT_FALSE(picture.isNull()) << qPrintable(name);
+        EXPECT_GT(contrast(picture, 240), 60) << qPrintable(name) << " on light";
+        EXPECT_GT(contrast(picture, 40), 60) << qPrintable(name) << " on dark";
+    }
+}
