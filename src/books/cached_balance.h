@@ -2,8 +2,18 @@
 #include "books/balance_figures.h"
 #include "platform/box.h"
 #include "platform/progress.h"
-#include "platform/store/bulk.h"
 #include "platform/store/connection.h"
+
+#include <vector>
+
+// The sums of one table by the key of another.
+struct SumSource {
+    const char* table;
+    const char* key;
+    const char* sums;  // SELECT columns, each a sum
+    int sumCount;
+    const char* filter;
+};
 
 // A Balance column, which caches what a compute routine sums: three twins that differ in these rows only.
 struct CachedBalance {
@@ -12,9 +22,10 @@ struct CachedBalance {
     Currency (*compute)(Connection& store, const QString& key);
     const char* missing;   // the text of the box for a key that is not there
     const char* waitText;  // of the progress box
-    // The terms of all keys at once, as SELECT columns over the table "m", and the figure they make.
-    const char* terms;
-    Currency (*figure)(const BulkReader& row, int firstTerm);
+    // The terms for all keys at once: a column of the table itself, then the sums; and the figure they make.
+    const char* ownTerm;
+    std::vector<SumSource> sources;
+    Currency (*figure)(const std::vector<Term>& terms);
 };
 
 extern const CachedBalance receivableBalance;

@@ -43,12 +43,17 @@ class KeyWalk {
         last_ = key;
         ++done_;
     }
-    // The condition for the keys still to come, over the table "m"; empty at the start.
-    Sql condition() const { return last_ ? Sql(QString(" WHERE m.%1 > ?").arg(key_), {*last_}) : Sql(); }
+    // The WHERE clause for the keys still to come, in this column, of the rows that the filter lets through.
+    Sql clause(const QString& column, const QString& filter = {}) const {
+        QStringList conditions;
+        if (!filter.isEmpty()) conditions += filter;
+        if (last_) conditions += column + " > ?";
+        if (conditions.isEmpty()) return {};
+        return {" WHERE " + conditions.join(" AND "), last_ ? QVariantList{*last_} : QVariantList()};
+    }
     std::optional<QString> next(Connection& store) const {
-        const Recordset row =
-            store.execute(Sql(QString("SELECT m.%1 AS NextKey FROM %2 m").arg(key_, table_)) + condition() +
-                          Sql(QString(" ORDER BY m.%1 LIMIT 1").arg(key_)));
+        const Recordset row = store.execute(Sql(QString("SELECT %1 AS NextKey FROM %2").arg(key_, table_)) +
+                                            clause(key_) + Sql(QString(" ORDER BY %1 LIMIT 1").arg(key_)));
         return row.eof() ? std::nullopt : std::optional(row.text("NextKey"));
     }
 

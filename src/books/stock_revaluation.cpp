@@ -31,7 +31,7 @@ Sql Revaluation::rows() const {
     return Sql(QString("SELECT %1, m.ItemCode FROM tblItemMaster m LEFT JOIN tblStockValuation v"
                        " ON v.ItemCode = m.ItemCode")
                    .arg(ledger::columns)) +
-           items_.condition() + Sql(QString(" ORDER BY m.ItemCode, ") + ledger::order);
+           items_.clause("m.ItemCode") + Sql(QString(" ORDER BY m.ItemCode, ") + ledger::order);
 }
 
 void Revaluation::take(const BulkReader& row) {
