@@ -177,6 +177,22 @@ TEST_F(BalancesTest, AnOverflowStopsNoOtherKey) {
               "700000 1000000 1000000 700000");
 }
 
+// The keys of masters and payments are walked side by side: whatever their letters, none is missed.
+TEST_F(BalancesTest, PaymentsFindTheirSaleInAnyCaseAndOrder) {
+    const QStringList keys{"",  " ", "-1", "A",  "a-1", "A_1", "AZ",  "B",
+                           "Z", "[", "_",  "z1", "Ñ",   "ñ",   "日本"};
+    for (const QString& key : keys) {
+        addSaleOf(key, amount(100));
+        addReceiptLine(key.toUpper().replace("Ñ", key.contains("ñ") ? "ñ" : "Ñ"), bound(amount(1)),
+                       bound(amount(2)));
+        addReceiptLine(key + "~", bound(amount(5)), bound(amount(5)));
+    }
+    write("INSERT INTO tblReceiptDetails (ZevRef, Amount, DiscountAmount) VALUES (9000, 70000, 70000)");
+    RecomputeReceivableBalances(store, Progress::none());
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblSalesMaster"),
+              QStringList(keys.size(), "970000").join(u' '));
+}
+
 TEST_F(BalancesTest, RecomputingWritesOnlyWhatChanged) {
     for (const char* refNo : {"S1", "S2", "S3"}) addSaleOf(refNo, amount(100));
     addSaleOf("S4", amount(0));

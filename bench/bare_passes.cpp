@@ -1,0 +1,329 @@
+#include "bench/bare_passes.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <sqlite3.h>
+
+namespace {
+using Count = sqlite3_int64;  // of ten-thousandths
+
+void run(sqlite3* engine, const char* statement) {
+    if (sqlite3_exec(engine, statement, nullptr, nullptr, nullptr) != SQLITE_OK) std::abort();
+}
+
+class Statement {
+  public:
+    Statement(sqlite3* engine, const char* text) {
+        if (sqlite3_prepare_v2(engine, text, -1, &statement_, nullptr) != SQLITE_OK) std::abort();
+    }
+    ~Statement() { sqlite3_finalize(statement_); }
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
+    Statement& bind(int at, Count value) {
+        sqlite3_bind_int64(statement_, at, value);
+        return *this;
+    }
+    Statement& bind(int at, std::string_view value) {
+        sqlite3_bind_text(statement_, at, value.data(), static_cast<int>(value.size()), SQLITE_TRANSIENT);
+        return *this;
+    }
+    bool next() {
+        const int code = sqlite3_step(statement_);
+        if (code != SQLITE_ROW && code != SQLITE_DONE) std::abort();
+        if (code == SQLITE_DONE) sqlite3_reset(statement_);
+        return code == SQLITE_ROW;
+    }
+    void run() {
+        while (next()) {
+        }
+    }
+    Count number(int column) const { return sqlite3_column_int64(statement_, column); }
+    std::string_view text(int column) const {
+        const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
+        return bytes ? std::string_view(bytes, static_cast<size_t>(sqlite3_column_bytes(statement_, column)))
+                     : std::string_view();
+    }
+    // The first value of the one row.
+    Count value() {
+        const Count found = next() ? number(0) : 0;
+        sqlite3_reset(statement_);
+        return found;
+    }
+
+  private:
+    sqlite3_stmt* statement_ = nullptr;
+};
+
+// Commits as often as the program's long passes do.
+class Units {
+  public:
+    explicit Units(sqlite3* engine) : engine_(engine) { begin(); }
+    ~Units() { run(engine_, "COMMIT"); }
+    void breathe() {
+        if (std::chrono::steady_clock::now() - started_ < std::chrono::milliseconds(120)) return;
+        run(engine_, "COMMIT");
+        begin();
+    }
+
+  private:
+    void begin() {
+        run(engine_, "BEGIN IMMEDIATE");
+        started_ = std::chrono::steady_clock::now();
+    }
+    sqlite3* engine_;
+    std::chrono::steady_clock::time_point started_;
+};
+
+Count product(Count a, Count b) {
+    const Count whole = a * b;
+    Count quotient = whole / 10000;
+    const Count twice = 2 * std::abs(whole % 10000);
+    if (twice > 10000 || (twice == 10000 && quotient % 2 != 0)) quotient += whole < 0 ? -1 : 1;
+    return quotient;
+}
+
+double toDouble(Count count) { return static_cast<double>(count) / 10000.0; }
+Count fromDouble(double value) { return static_cast<Count>(std::nearbyint(value * 10000.0)); }
+
+struct Row {
+    Count key;
+    bool purchase;
+    Count in, price, out, balance, cost, newBalance, newCost;
+};
+
+constexpr const char* rowColumns = "ZevRef, BookID, StockIn, InPrice, StockOut, Balance, SalesCost";
+
+Row readRow(const Statement& rows) {
+    return {rows.number(0),
+            rows.text(1) == "P",
+            rows.number(2),
+            rows.number(3),
+            rows.number(4),
+            rows.number(5),
+            rows.number(6),
+            0,
+            0};
+}
+
+void costRows(std::vector<Row>& rows) {
+    Count balance = 0;
+    std::vector<std::pair<Count, Count>> layers;
+    for (Row& row : rows) {
+        row.newBalance = balance += row.purchase ? row.in : -std::abs(row.out);
+        if (row.purchase) layers.emplace_back(row.in, row.price);
+    }
+    size_t oldest = 0;
+    for (Row& row : rows) {
+        row.newCost = row.purchase ? row.cost : 0;
+        for (Count left = row.purchase ? 0 : row.out; left > 0 && oldest < layers.size();) {
+            const Count taken = std::min(left, layers[oldest].first);
+            row.newCost += product(taken, layers[oldest].second);
+            left -= taken;
+            if ((layers[oldest].first -= taken) <= 0) ++oldest;
+        }
+    }
+}
+
+void writeRow(Statement& write, const Row& row) {
+    write.bind(1, row.newBalance).bind(2, row.newCost).bind(3, row.key).run();
+}
+
+constexpr const char* writeRowText =
+    "UPDATE tblStockValuation SET Balance = ?, SalesCost = ? WHERE ZevRef = ?";
+
+using Sums = std::unordered_map<std::string, Count>;
+
+void addUp(sqlite3* engine, const char* query, Count sign, Sums& sums) {
+    std::string key;
+    for (Statement rows(engine, query); rows.next();) sums[key.assign(rows.text(0))] += sign * rows.number(1);
+}
+
+// Base less paid for each row of a master: its key, balance and own amount.
+void storeBalances(sqlite3* engine, const char* query, const char* update, const Sums& sums, bool absolute) {
+    Units units(engine);
+    Statement rows(engine, query);
+    Statement write(engine, update);
+    std::string key;
+    while (rows.next()) {
+        const auto found = sums.find(key.assign(rows.text(0)));
+        const Count sum = found == sums.end() ? 0 : found->second;
+        const Count balance = rows.number(2) - (absolute ? std::abs(sum) : sum);
+        if (balance != rows.number(1)) write.bind(1, balance).bind(2, key).run();
+        units.breathe();
+    }
+}
+}  // namespace
+
+void bareRevaluation(sqlite3* engine) {
+    Units units(engine);
+    const std::string query =
+        std::string("SELECT ") + rowColumns +
+        ", ItemCode FROM tblStockValuation ORDER BY ItemCode, TransDate, BookID, ZevRef";
+    Statement ledger(engine, query.c_str());
+    Statement write(engine, writeRowText);
+    std::vector<Row> rows;
+    std::string item;
+    const auto finish = [&] {
+        costRows(rows);
+        for (const Row& row : rows) writeRow(write, row);
+        rows.clear();
+        units.breathe();
+    };
+    while (ledger.next()) {
+        if (ledger.text(7) != item) {
+            finish();
+            item = ledger.text(7);
+        }
+        rows.push_back(readRow(ledger));
+    }
+    finish();
+}
+
+void bareBalances(sqlite3* engine) {
+    Sums stock;
+    addUp(engine, "SELECT ItemID, Delivered FROM tblPurchaseDetails", -1, stock);
+    addUp(engine, "SELECT ItemID, Served FROM tblSalesDetails", 1, stock);
+    storeBalances(engine, "SELECT ItemCode, Balance, 0 FROM tblItemMaster",
+                  "UPDATE tblItemMaster SET Balance = ? WHERE ItemCode = ?", stock, false);
+    Sums paid;
+    addUp(engine, "SELECT PuchaseID, PayAmount FROM tblDisbursementDetails WHERE DirectPayment = 0", 1, paid);
+    storeBalances(engine, "SELECT PurchaseNo, Balance, PurchaseAmount FROM tblPurchaseMaster",
+                  "UPDATE tblPurchaseMaster SET Balance = ? WHERE PurchaseNo = ?", paid, false);
+    Sums received;
+    addUp(engine, "SELECT Reference, Amount FROM tblReceiptDetails", 1, received);
+    addUp(engine, "SELECT Reference, DiscountAmount FROM tblReceiptDetails", 1, received);
+    storeBalances(engine, "SELECT RefNo, Balance, TotalAmount FROM tblSalesMaster",
+                  "UPDATE tblSalesMaster SET Balance = ? WHERE RefNo = ?", received, true);
+}
+
+namespace {
+struct Document {
+    std::string book, reference, date, name;
+};
+
+class BareEndOfDay {
+  public:
+    explicit BareEndOfDay(sqlite3* engine) : engine_(engine) {}
+    void run();
+
+  private:
+    void post(const Document& document);
+    void cost(const std::string& item);
+    Count valuation(const std::string& item);
+
+    sqlite3* engine_;
+    Statement removeStock_{engine_, "DELETE FROM tblStockValuation WHERE BookID = ? AND Reference = ?"};
+    Statement contact_{engine_, "SELECT ContactID FROM tblContactMaster WHERE ContactName = ?"};
+    Statement sales_{engine_,
+                     "SELECT ItemID, Served, UnitPrice, Discount FROM tblSalesDetails WHERE Reference = ?"};
+    Statement purchases_{
+        engine_, "SELECT ItemID, Delivered, UnitPrice, Discount FROM tblPurchaseDetails WHERE Reference = ?"};
+    Statement key_{engine_, "SELECT Server FROM tblStockKey"};
+    Statement storeKey_{engine_, "UPDATE tblStockKey SET Server = CAST(? AS TEXT)"};
+    Statement addOut_{
+        engine_,
+        "INSERT INTO tblStockValuation (ZevRef, BookID, Reference, Contact, ItemCode, TransDate, StockOut, "
+        "OutPrice) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"};
+    Statement addIn_{
+        engine_,
+        "INSERT INTO tblStockValuation (ZevRef, BookID, Reference, Contact, ItemCode, TransDate, StockIn, "
+        "InPrice) VALUES (?, ?, ?, ?, ?, ?, ?, ?)"};
+    Statement leave_{engine_, "DELETE FROM tblForPosting WHERE BookID = ? AND Reference = ?"};
+    Statement rows_{engine_, (std::string("SELECT ") + rowColumns +
+                              " FROM tblStockValuation WHERE ItemCode = ? ORDER BY TransDate, BookID, ZevRef")
+                                 .c_str()};
+    Statement write_{engine_, writeRowText};
+    Statement newest_{
+        engine_,
+        "SELECT StockIn, InPrice, Balance FROM tblStockValuation WHERE ItemCode = ? AND TransDate BETWEEN "
+        "? AND ? ORDER BY TransDate DESC, BookID DESC, ZevRef DESC"};
+    Statement dates_{
+        engine_,
+        "SELECT MIN((SELECT MIN(RefDate) FROM tblSalesMaster), (SELECT MIN(PurchaseDate) FROM "
+        "tblPurchaseMaster)), MAX((SELECT MAX(RefDate) FROM tblSalesMaster), (SELECT MAX(PurchaseDate) FROM "
+        "tblPurchaseMaster))"};
+    Statement delivered_{engine_, "SELECT SUM(Delivered) FROM tblPurchaseDetails WHERE ItemID = ?"};
+    Statement served_{engine_, "SELECT SUM(Served) FROM tblSalesDetails WHERE ItemID = ?"};
+    Statement costPrice_{engine_, "UPDATE tblItemMaster SET CostPrice = ? WHERE ItemCode = ?"};
+    Statement leaveItem_{engine_, "DELETE FROM tblForPostingItem WHERE ItemID = ?"};
+};
+
+void BareEndOfDay::post(const Document& document) {
+    const bool purchase = document.book == "P";
+    Statement& lines = purchase ? purchases_ : sales_;
+    Statement& add = purchase ? addIn_ : addOut_;
+    ::run(engine_, "BEGIN IMMEDIATE");
+    removeStock_.bind(1, document.book).bind(2, document.reference).run();
+    std::string contact;
+    for (contact_.bind(1, document.name); contact_.next();) contact = contact_.text(0);
+    Count key = key_.value();
+    for (lines.bind(1, document.reference); lines.next();) {
+        const double off =
+            lines.number(3) == 0 ? 0 : toDouble(lines.number(2)) * (toDouble(lines.number(3)) / 100);
+        add.bind(1, ++key).bind(2, document.book).bind(3, document.reference).bind(4, contact);
+        add.bind(5, lines.text(0)).bind(6, document.date).bind(7, lines.number(1));
+        add.bind(8, lines.number(2) - std::abs(fromDouble(off))).run();
+    }
+    storeKey_.bind(1, key).run();
+    leave_.bind(1, document.book).bind(2, document.reference).run();
+    ::run(engine_, "COMMIT");
+}
+
+Count BareEndOfDay::valuation(const std::string& item) {
+    std::string from, to;
+    for (; dates_.next(); to = dates_.text(1)) from = dates_.text(0);
+    Count value = 0;
+    Count remaining = 0;
+    bool first = true;
+    for (newest_.bind(1, item).bind(2, from).bind(3, to); newest_.next(); first = false) {
+        if (first) remaining = newest_.number(2);
+        const Count taken = std::min(remaining, newest_.number(0));
+        if (remaining <= 0) continue;
+        value += product(taken, newest_.number(1));
+        remaining -= taken;
+    }
+    return value;
+}
+
+void BareEndOfDay::cost(const std::string& item) {
+    ::run(engine_, "BEGIN IMMEDIATE");
+    std::vector<Row> rows;
+    for (rows_.bind(1, item); rows_.next();) rows.push_back(readRow(rows_));
+    costRows(rows);
+    for (const Row& row : rows)
+        if (row.newBalance != row.balance || row.newCost != row.cost) writeRow(write_, row);
+    const Count value = valuation(item);
+    const Count quantity = delivered_.bind(1, item).value() - served_.bind(1, item).value();
+    costPrice_.bind(1, quantity == 0 ? 0 : fromDouble(toDouble(value) / toDouble(quantity)))
+        .bind(2, item)
+        .run();
+    leaveItem_.bind(1, item).run();
+    ::run(engine_, "COMMIT");
+}
+
+void BareEndOfDay::run() {
+    std::vector<Document> documents;
+    for (Statement queue(
+             engine_,
+             "SELECT q.BookID, q.Reference, q.TransDate, c.ContactName FROM tblForPosting q LEFT JOIN "
+             "tblContactMaster c ON c.ContactID = q.Contact ORDER BY q.BookID, q.TransDate");
+         queue.next();)
+        documents.push_back({std::string(queue.text(0)), std::string(queue.text(1)),
+                             std::string(queue.text(2)), std::string(queue.text(3))});
+    std::vector<std::string> items;
+    for (Statement queue(engine_, "SELECT ItemID FROM tblForPostingItem"); queue.next();)
+        items.emplace_back(queue.text(0));
+    for (const Document& document : documents) post(document);
+    for (const std::string& item : items) cost(item);
+}
+}  // namespace
+
+void bareEndOfDay(sqlite3* engine) { BareEndOfDay(engine).run(); }

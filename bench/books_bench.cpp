@@ -1,0 +1,123 @@
+// Measures the long passes of the books, each beside a bare loop on the engine's handle in the same run: the
+// counter "ratio" is what the limit beside it speaks of. By itself it runs the smallest size; the others by
+// hand:  books_bench --benchmark_filter=/20000/
+#include "bench/bare_passes.h"
+#include "bench/books_generator.h"
+#include "books/balances.h"
+#include "books/end_of_day.h"
+#include "books/stock_valuation.h"
+#include "foundation/schema.h"
+#include "foundation/session.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+QString folder() {
+    static const QTemporaryDir made;
+    return made.path();
+}
+
+// The books of one size, made once in a run.
+QString booksOf(qint64 size) {
+    const QString path = folder() + QString("/books-%1.mdb").arg(size);
+    if (QFile::exists(path)) return path;
+    makeDeliveredStore(path);
+    Connection store;
+    store.open(path, storePassword);
+    generateBooks(store, size);
+    return path;
+}
+
+using Prepare = std::function<void(Connection&)>;
+using Pass = std::function<void(Connection&)>;
+
+double secondsOf(qint64 size, const Prepare& prepare, const Pass& pass) {
+    const QString copy = folder() + "/copy.mdb";
+    QFile::remove(copy);
+    QFile::copy(booksOf(size), copy);
+    Connection store;
+    store.open(copy, storePassword);
+    prepare(store);
+    QElapsedTimer timer;
+    timer.start();
+    pass(store);
+    return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+}
+
+// Each pass on a fresh copy of the same books, in turn.
+void measure(benchmark::State& state, const Prepare& prepare, const Prepare& prepareBare, const Pass& bare,
+             const Pass& pass) {
+    double bareSeconds = 0;
+    double seconds = 0;
+    for (auto turn : state) {
+        bareSeconds += secondsOf(state.range(0), prepareBare, bare);
+        const double own = secondsOf(state.range(0), prepare, pass);
+        state.SetIterationTime(own);
+        seconds += own;
+    }
+    const auto turns = static_cast<double>(state.iterations());
+    state.counters["ms"] = seconds * 1000 / turns;
+    state.counters["bare_ms"] = bareSeconds * 1000 / turns;
+    state.counters["ratio"] = seconds / bareSeconds;
+}
+
+void asMade(Connection&) {}
+void revalue(Connection& store) { RecomputeStockValuation(store, Progress::none()); }
+void revalueBare(Connection& store) { bareRevaluation(store.handle()); }
+
+void recompute(Connection& store) {
+    RecomputeInventoryBalances(store, Progress::none());
+    RecomputePayableBalances(store, Progress::none());
+    RecomputeReceivableBalances(store, Progress::none());
+}
+void recomputeBare(Connection& store) { bareBalances(store.handle()); }
+
+void endOfDay(Connection& store) {
+    EndOfDayView view;
+    Boxes boxes;
+    PostStockValuation(store, LoadPostingQueue(store, Progress::none()), view, boxes);
+    InitializeStockValuation(store, LoadPostingItems(store, Progress::none()), view, boxes);
+    if (!boxes.isEmpty()) qFatal("%s", qPrintable(boxes.first().text));
+}
+void endOfDayBare(Connection& store) { bareEndOfDay(store.handle()); }
+void queueDocuments(Connection& store) {
+    revalue(store);
+    queueOnePercent(store);
+}
+
+void revaluation(benchmark::State& state) { measure(state, asMade, asMade, revalueBare, revalue); }
+void revaluationUnchanged(benchmark::State& state) { measure(state, revalue, asMade, revalueBare, revalue); }
+void recomputeBalances(benchmark::State& state) { measure(state, asMade, asMade, recomputeBare, recompute); }
+void recomputeBalancesUnchanged(benchmark::State& state) {
+    measure(state, recompute, recompute, recomputeBare, recompute);
+}
+void endOfDayOnePercent(benchmark::State& state) {
+    measure(state, queueDocuments, queueDocuments, endOfDayBare, endOfDay);
+}
+
+void sizes(benchmark::internal::Benchmark* bench) {
+    bench->Arg(1000)->Arg(20000)->Arg(200000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(revaluation)->Name("revaluation (limit 1.5)")->Apply(sizes);
+BENCHMARK(revaluationUnchanged)->Name("revaluation, nothing changed (limit 0.6)")->Apply(sizes);
+BENCHMARK(recomputeBalances)->Name("re-compute balances (limit 1.5)")->Apply(sizes);
+BENCHMARK(recomputeBalancesUnchanged)->Name("re-compute balances, nothing changed (limit 1.5)")->Apply(sizes);
+BENCHMARK(endOfDayOnePercent)->Name("end of day of 1 % (limit 3)")->Apply(sizes);
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    std::vector<char*> arguments(argv, argv + argc);
+    char smallest[] = "--benchmark_filter=/1000/";
+    if (argc == 1) arguments.push_back(smallest);
+    int count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    benchmark::Initialize(&count, arguments.data());
+    benchmark::RunSpecifiedBenchmarks();
+}
