@@ -6,10 +6,10 @@
 namespace {
 const QList<GridColumn>& columns() {
     static const QList<GridColumn> list{
-        {"Name", "ContactName", GridColumn::Text, 36},
-        {"Address", "Address", GridColumn::Text, 40},
-        {"Tel. No.", "TelNo", GridColumn::Text, 18},
-        {"Term", "Terms", GridColumn::Count, 6},
+        {"Name", "ContactName", GridColumn::Text, 46},
+        {"Address", "Address", GridColumn::Text, 60},
+        {"Tel. No.", "TelNo", GridColumn::Text, 24},
+        {"Term", "Terms", GridColumn::Count, 8},
     };
     return list;
 }

@@ -7,7 +7,7 @@ namespace {
 const QList<GridColumn>& columns() {
     static const QList<GridColumn> list{
         {"Item Code", "ItemCode", GridColumn::Text, 14},
-        {"Description", "Description", GridColumn::Text, 44},
+        {"Description", "Description", GridColumn::Text, 60},
         {"Unit", "Unit", GridColumn::Text, 8},
         {"Cost Price", "CostPrice", GridColumn::Amount, 13},
         {"Selling Price", "SellingPrice", GridColumn::Amount, 13},

@@ -41,7 +41,7 @@ QList<MasterField> itemFields() {
 QList<GridColumn> itemColumns() {
     return {
         {"Item Code", "ItemCode", GridColumn::Text, 13},
-        {"Description", "Description", GridColumn::Text, 36},
+        {"Description", "Description", GridColumn::Text, 50},
         {"Cost Price", "CostPrice", GridColumn::Amount, 12},
         {"Selling Price", "SellingPrice", GridColumn::Amount, 12},
         {"Wholesale", "WholesalePrice", GridColumn::Amount, 12},

@@ -35,6 +35,7 @@ QLabel* heading(const QString& text) {
 
 frmUnitGrid::frmUnitGrid() : RecordScreen("frmUnitGrid", "Unit Maintenance") {
     lvwRecord = new ListView("lvwRecord", {{"Unit Code", 24}});
+    lvwRecord->setAccessibleName("Units");
     txtUnit = new TextBox("txtUnit");
     txtUnit->setKeyFilter(keys::freeText());
     txtUnit->setCapacity(typedRoom);
@@ -54,6 +55,8 @@ frmUnitGrid::frmUnitGrid() : RecordScreen("frmUnitGrid", "Unit Maintenance") {
     closeField();
     LoadGrid();
 }
+
+QSize frmUnitGrid::sizeHint() const { return {form::charactersWide(this, 60), fontMetrics().height() * 28}; }
 
 void frmUnitGrid::LoadGrid() {
     guarded([this] {

@@ -9,6 +9,7 @@ class frmUnitGrid : public RecordScreen {
     Q_OBJECT
   public:
     frmUnitGrid();
+    QSize sizeHint() const override;
 
   public slots:
     void NewRecord();

@@ -36,7 +36,16 @@ TextBox* searchBox(const QString& name, const QString& accessibleName) {
     box->setCapacity(width::search);
     box->setKeyFilter(keys::freeText());
     box->setAccessibleName(accessibleName);
+    box->setMinimumWidth(form::charactersWide(box, 12));
     return box;
+}
+
+// A locked record is there to be read: its texts keep their full colour.
+void readWhenLocked(QWidget* record) {
+    QPalette palette = record->palette();
+    for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
+        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::Active, role));
+    record->setPalette(palette);
 }
 }  // namespace
 
@@ -50,7 +59,7 @@ MasterScreen::MasterScreen(const MasterDescriptor& descriptor)
 }
 
 QSize MasterScreen::sizeHint() const {
-    return {form::charactersWide(this, 120), qMax(fontMetrics().height() * 34, minimumSizeHint().height())};
+    return QSize(form::charactersWide(this, 155), fontMetrics().height() * 42).expandedTo(minimumSizeHint());
 }
 
 // ---- the record on show
@@ -207,6 +216,7 @@ void MasterScreen::UpdateRecordCount() {
 
 void MasterScreen::setCount(qint64 count, const QString& none, const QString& some) {
     fraCount->setTitle(count == 0 ? none : some.arg(formatCount(count)));
+    fraCount->setAccessibleName(fraCount->title());
 }
 
 // ---- the search
@@ -219,6 +229,7 @@ void MasterScreen::categoryChosen() {
     const auto match = category ? category->match : SearchCategory::Like;
     txtSearch->setKeyFilter(match == SearchCategory::Number ? keys::amount() : keys::freeText());
     txtSearch->setVisible(match != SearchCategory::Type);
+    lblSearch->setText(match == SearchCategory::Type ? "Type :" : "Te&xt :");
     if (cboType) cboType->setVisible(match == SearchCategory::Type);
     if (lblDash) lblDash->setVisible(match == SearchCategory::TwoWords);
     if (txtSecondSearch) txtSecondSearch->setVisible(match == SearchCategory::TwoWords);
@@ -259,6 +270,8 @@ void MasterScreen::buildLayout() {
 
 QWidget* MasterScreen::recordHalf() {
     auto* record = form::frame("fraRecord", {});
+    record->setAccessibleName("Record");
+    readWhenLocked(record);
     auto* grid = new QGridLayout(record);
     fields_ = new MasterFields(descriptor_.fields, grid, this);
     return record;
@@ -273,7 +286,8 @@ QWidget* MasterScreen::searchLine() {
     row->addWidget(form::label("Search &By :", cboSearchBy));
     row->addWidget(cboSearchBy);
     txtSearch = searchBox("txtSearch", "Search value");
-    row->addWidget(form::label("Te&xt :", txtSearch));
+    lblSearch = form::label("Te&xt :", txtSearch);
+    row->addWidget(lblSearch);
     row->addWidget(txtSearch, 1);
     if (hasCategory(descriptor_.categories, SearchCategory::TwoWords)) {
         lblDash = form::label("-");
@@ -299,6 +313,7 @@ QGroupBox* MasterScreen::gridHalf() {
     fraCount = form::frame("fraCount", {});
     auto* box = new QVBoxLayout(fraCount);
     dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", descriptor_.columns);
+    dbgMyGrid->setAccessibleName("Records");
     box->addWidget(dbgMyGrid);
     return fraCount;
 }

@@ -106,5 +106,6 @@ class MasterScreen : public RecordScreen {
     ComboBox* cboType = nullptr;
     TextBox* txtSearch;
     TextBox* txtSecondSearch = nullptr;
+    QLabel* lblSearch;
     QLabel* lblDash = nullptr;
 };

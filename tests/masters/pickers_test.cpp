@@ -67,6 +67,14 @@ TEST_F(Pickers, EnterPicksOnceAndUnloads) {
     EXPECT_FALSE(popup("frmFound"));
 }
 
+TEST_F(Pickers, ThePickReadsTheRowAsTheListShowsIt) {
+    ASSERT_TRUE(openContactFound(store(), "ana", "C", keep("Terms")));
+    keyTo(popup("frmContactFound"), Qt::Key_Return);
+    ASSERT_TRUE(openItemFound(store(), "anvil", "D", keep("SellingPrice")));
+    keyTo(popup("frmFound"), Qt::Key_Return);
+    EXPECT_EQ(picked_, (QStringList{"30", "15.00"}));
+}
+
 TEST_F(Pickers, EscapeUnloadsWithoutAPick) {
     ASSERT_TRUE(openContactFound(store(), "", "C", keep("ContactName")));
     keyTo(popup("frmContactFound"), Qt::Key_Escape);
