@@ -289,24 +289,31 @@ QWidget* MasterScreen::searchLine() {
     lblSearch = form::label("Te&xt :", txtSearch);
     row->addWidget(lblSearch);
     row->addWidget(txtSearch, 1);
-    if (hasCategory(descriptor_.categories, SearchCategory::TwoWords)) {
-        lblDash = form::label("-");
-        lblDash->setObjectName("lblDash");
-        txtSecondSearch = searchBox("txtSecondSearch", "Second search value");
-        row->addWidget(lblDash);
-        row->addWidget(txtSecondSearch, 1);
-    }
-    if (!descriptor_.types.isEmpty()) {
-        cboType = new ComboBox("cboType", ComboBox::Closed);
-        cboType->addItems(descriptor_.types);
-        cboType->setCurrentIndex(-1);
-        cboType->setAccessibleName("Contact type");
-        row->addWidget(cboType, 1);
-    }
+    addSecondBox(row);
+    addTypeList(row);
     row->addWidget(form::button("cmdSearch", "Searc&h", "search"));
     row->addWidget(form::button("cmdAll", descriptor_.allCaption, "refresh"));
     row->addWidget(form::button("cmdNewDuplicate", "Add New &Duplicate", "new"));
     return line;
+}
+
+// The two boxes of a search for two words.
+void MasterScreen::addSecondBox(QHBoxLayout* row) {
+    if (!hasCategory(descriptor_.categories, SearchCategory::TwoWords)) return;
+    lblDash = form::label("-");
+    lblDash->setObjectName("lblDash");
+    txtSecondSearch = searchBox("txtSecondSearch", "Second search value");
+    row->addWidget(lblDash);
+    row->addWidget(txtSecondSearch, 1);
+}
+
+void MasterScreen::addTypeList(QHBoxLayout* row) {
+    if (descriptor_.types.isEmpty()) return;
+    cboType = new ComboBox("cboType", ComboBox::Closed);
+    cboType->addItems(descriptor_.types);
+    cboType->setCurrentIndex(-1);
+    cboType->setAccessibleName("Contact type");
+    row->addWidget(cboType, 1);
 }
 
 QGroupBox* MasterScreen::gridHalf() {

@@ -6,6 +6,7 @@
 
 class ComboBox;
 class QGroupBox;
+class QHBoxLayout;
 class QLabel;
 
 // What differs between the master screens.
@@ -71,6 +72,8 @@ class MasterScreen : public RecordScreen {
     void buildLayout();
     QWidget* recordHalf();
     QWidget* searchLine();
+    void addSecondBox(QHBoxLayout* row);
+    void addTypeList(QHBoxLayout* row);
     QGroupBox* gridHalf();
     void connectControls();
 

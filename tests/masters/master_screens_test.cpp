@@ -248,6 +248,30 @@ TEST_F(ItemScreen, AnUnknownUnitIsOfferedForAdding) {
     EXPECT_EQ(count("tblUnitMaster WHERE UnitCode = 'SACK'"), 1);
 }
 
+TEST_F(ItemScreen, ClosingAsksNothingAboutAnUnknownUnit) {
+    command("NewRecord");
+    box("txtUnit")->setFocus();
+    type("sack");
+    keyTo(box("txtUnit"), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(screen);
+    EXPECT_EQ(count("tblUnitMaster WHERE UnitCode = 'SACK'"), 0);
+}
+
+TEST_F(ItemScreen, TheSuppliersDropDownUnderTheTypedText) {
+    for (const char* name : {"Zamora Supply", "Bohol Cement"}) addContact(name, false, true);
+    addContact("Ana Reyes", true, false);
+    command("NewRecord");
+    ComboBox* supplier = combo("txtSupplierCode");
+    supplier->setText("boh");
+    supplier->showPopup();
+    supplier->hidePopup();
+    QStringList names;
+    for (int entry = 0; entry < supplier->count(); ++entry) names << supplier->itemText(entry);
+    EXPECT_EQ(names, (QStringList{"Bohol Cement", "Mabuhay Trading", "Zamora Supply"}));
+    EXPECT_EQ(supplier->text(), "boh");
+}
+
 TEST_F(ItemScreen, EnterOnTheSupplierOpensThePicker) {
     addContact("Mabini Hardware", true, true);
     addContact("Mabolo Store", true, false);
