@@ -46,6 +46,8 @@ void frmChangePassword::build() {
     buttons->addWidget(cancel);
 
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 12);
+    layout->setSpacing(12);
     layout->addLayout(fields);
     layout->addStretch();
     layout->addLayout(buttons);

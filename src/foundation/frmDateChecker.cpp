@@ -14,11 +14,23 @@
 
 namespace {
 
+// What is to be confirmed must be read well while it cannot be changed.
+void keepReadable(QWidget* widget) {
+    QPalette palette = widget->palette();
+    for (const auto role : {QPalette::Text, QPalette::WindowText})
+        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::Active, role));
+    widget->setPalette(palette);
+}
+
 QDateTimeEdit* picker(QDateTimeEdit* edit, const QString& name, const QString& format) {
     edit->setObjectName(name);
     edit->setDisplayFormat(format);
     edit->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-    edit->setMinimumWidth(form::charactersWide(edit, 20));
+    QFont large = edit->font();
+    large.setPointSizeF(large.pointSizeF() * 1.3);
+    edit->setFont(large);
+    edit->setMinimumWidth(form::charactersWide(edit, 18));
+    keepReadable(edit);
     return edit;
 }
 
@@ -53,6 +65,7 @@ frmDateChecker::Value frmDateChecker::makeValue(int index, const QString& captio
     picker->setAccessibleName(caption);
     Value value{form::frame(QString("Frames_%1").arg(index), caption), picker, check,
                 startedTimer(this, timerName, 1000)};
+    keepReadable(value.frame);
     auto* inside = new QVBoxLayout(value.frame);
     inside->addWidget(picker);
     connect(check, &QCheckBox::toggled, this, [this, value](bool wanted) { adjust(value, wanted); });
@@ -63,6 +76,8 @@ frmDateChecker::Value frmDateChecker::makeValue(int index, const QString& captio
 
 void frmDateChecker::build() {
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(16, 16, 16, 12);
+    layout->setSpacing(12);
     question_->setObjectName("Labels_0");
     question_->setWordWrap(true);
     QFont strong = question_->font();
@@ -74,6 +89,7 @@ void frmDateChecker::build() {
     layout->addWidget(question_);
 
     auto* values = new QGridLayout;
+    values->setHorizontalSpacing(16);
     int row = 0;
     for (const Value& value : {date_, time_}) {
         QLabel* label = form::label("Is this correct?");

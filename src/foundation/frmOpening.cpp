@@ -14,7 +14,6 @@
 #include "platform/ui/screen_registry.h"
 #include "platform/ui/text_box.h"
 
-#include <QEventLoopLocker>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -189,7 +188,7 @@ void frmOpening::refuse() {
 }
 
 void frmOpening::enter(const QString& fullName) {
-    QEventLoopLocker betweenWindows;  // the process lives on while neither window is open
+    const BetweenWindows goingOn;
     session().CurrentUserName = fullName;
     session().CurrentUserCode = txtUserName->text();
     close();

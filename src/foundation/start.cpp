@@ -59,6 +59,9 @@ void endProcess() {
     QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
 }
 
+BetweenWindows::BetweenWindows() { QGuiApplication::setQuitOnLastWindowClosed(false); }
+BetweenWindows::~BetweenWindows() { QGuiApplication::setQuitOnLastWindowClosed(true); }
+
 bool CheckResolution() {
     const QSize size = screenSize();
     return size.width() >= 1024 && size.height() >= 768;

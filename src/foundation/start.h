@@ -14,6 +14,16 @@ bool Main();
 // Ends the process as soon as control is back in the event loop, whatever windows are open.
 void endProcess();
 
+// From the closing of the login to the opening of the main window, and back: the process lives on while
+// neither is open.
+class BetweenWindows {
+  public:
+    BetweenWindows();
+    ~BetweenWindows();
+    BetweenWindows(const BetweenWindows&) = delete;
+    BetweenWindows& operator=(const BetweenWindows&) = delete;
+};
+
 // True for a display of at least 1024 by 768.
 bool CheckResolution();
 

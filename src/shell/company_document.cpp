@@ -7,14 +7,14 @@
 const std::vector<CompanyField>& companyFields() {
     static const std::vector<CompanyField> fields{
         {"txtCompanyName", "Company &Name :", "CompanyName"},
-        {"txtCompanyAddress", "Company &Address :", "CompanyAddress"},
-        {"txtCompanyTelNo", "Company &Tel. No. :", "CompanyTelNo"},
-        {"txtCompanyEmail", "Company &eMail :", "CompanyEmail"},
-        {"txtCompanyLogo", "Company &Logo :", "CompanyLogo"},
-        {"txtTIN", "Company T&IN No. :", "CompanyTIN"},
+        {"txtCompanyAddress", "Company A&ddress :", "CompanyAddress"},
+        {"txtCompanyTelNo", "Company Te&l. No. :", "CompanyTelNo"},
+        {"txtCompanyEmail", "Company eMa&il :", "CompanyEmail"},
+        {"txtCompanyLogo", "Company Lo&go :", "CompanyLogo"},
+        {"txtTIN", "Compan&y TIN No. :", "CompanyTIN"},
         {"txtPrepare", "&Prepared By :", "Prepared"},
-        {"txtChecked", "C&hecked By :", "Checked"},
-        {"txtApproved", "App&roved By :", "Approved"},
+        {"txtChecked", "Chec&ked By :", "Checked"},
+        {"txtApproved", "Approved &By :", "Approved"},
     };
     return fields;
 }

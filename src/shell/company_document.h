@@ -5,7 +5,8 @@
 #include <QString>
 #include <vector>
 
-// One text of the firm's row in tblSystemProfile, with the box that it is typed into.
+// One text of the firm's row (the letters of the menu bar are not taken again by the labels) in
+// tblSystemProfile, with the box that it is typed into.
 struct CompanyField {
     const char* control;
     const char* label;

@@ -54,7 +54,7 @@ void frmCompanySetup::build() {
 void frmCompanySetup::makeField(QGridLayout* grid, const CompanyField& field) {
     // The tax stands in front of the signature lines.
     if (field.column == QLatin1StringView("Prepared"))
-        form::row(grid, grid->rowCount(), 0, "&Value Added Tax :", txtTax);
+        form::row(grid, grid->rowCount(), 0, "Value Added Ta&x :", txtTax);
     TextBox* box = makeBox(field.control);
     box->setMinimumWidth(form::charactersWide(box, 30));
     boxes_[field.column] = box;
@@ -67,8 +67,8 @@ QLayout* frmCompanySetup::makeLogo() {
     imgLogo->setFixedSize(logoSize);
     imgLogo->setAlignment(Qt::AlignCenter);
     imgLogo->setFrameShape(QFrame::StyledPanel);
-    QPushButton* search = form::button("cmdSearch1", "&Browse...");
-    QPushButton* clear = form::button("cmdClear", "Clea&r Logo");
+    QPushButton* search = form::button("cmdSearch1", "Brow&se...");
+    QPushButton* clear = form::button("cmdClear", "&Clear Logo");
     search->setAutoDefault(true);
     clear->setAutoDefault(true);
     connect(search, &QPushButton::clicked, this, &frmCompanySetup::cmdSearch1_Click);

@@ -44,6 +44,22 @@ constexpr Entry everybodys[] = {
 };
 
 constexpr int keyRole = Qt::UserRole;
+constexpr QSize iconSize(64, 64);
+
+int widestCaption(const QFontMetrics& metrics) {
+    int width = metrics.horizontalAdvance(cashRegister.caption);
+    for (const Entry& entry : byRight) width = std::max(width, metrics.horizontalAdvance(entry.caption));
+    for (const Entry& entry : everybodys) width = std::max(width, metrics.horizontalAdvance(entry.caption));
+    return width;
+}
+
+// The picture keeps its colours when its entry is selected.
+QIcon steadyIcon(const QString& name, double pixelRatio) {
+    const QPixmap picture = bundledIcon(name).pixmap(iconSize, pixelRatio);
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
+}
 
 QList<int> rightsOfUser(Connection& store) {
     Recordset rows = store.execute({"SELECT MenuID FROM tblUserDetails WHERE UserID = ? ORDER BY MenuID ASC",
@@ -73,9 +89,10 @@ constexpr const char* panelStyle =
     "#banner { background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 #1f4e79, stop:1 #2e8b8b); }"
     "#banner QLabel { color: white; background: transparent; }"
     "#lvMenu { background: transparent; border: none; }"
-    "#lvMenu::item { border-radius: 8px; padding: 6px; color: palette(text); }"
+    "#lvMenu::item { border: 2px solid transparent; border-radius: 8px; padding: 10px 6px 6px 6px; "
+    "color: palette(text); }"
     "#lvMenu::item:hover { background: palette(alternate-base); }"
-    "#lvMenu::item:selected { background: palette(highlight); color: palette(highlighted-text); }";
+    "#lvMenu::item:selected { background: palette(alternate-base); border-color: palette(highlight); }";
 
 }  // namespace
 
@@ -96,15 +113,15 @@ void frmShortcuts::build() {
     words->addWidget(heading(GetCompanyName(StoreConnection()), 1.8, true));
     words->addWidget(heading(windowTitle(), 1.1, false));
 
-    const int letter = fontMetrics().averageCharWidth();
     lvMenu->setObjectName("lvMenu");
     lvMenu->setAccessibleName(windowTitle());
     lvMenu->setViewMode(QListView::IconMode);
     lvMenu->setMovement(QListView::Static);
     lvMenu->setResizeMode(QListView::Adjust);
-    lvMenu->setIconSize(QSize(64, 64));
-    lvMenu->setGridSize(QSize(letter * 24, 64 + fontMetrics().height() * 4));
-    lvMenu->setWordWrap(true);
+    lvMenu->setIconSize(iconSize);
+    lvMenu->setGridSize(
+        QSize(widestCaption(fontMetrics()) + 48, iconSize.height() + fontMetrics().height() * 5));
+    lvMenu->setSpacing(8);
     lvMenu->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
     lvMenu->installEventFilter(this);
     connect(lvMenu, &QListWidget::itemDoubleClicked, this, &frmShortcuts::choose);
@@ -128,7 +145,7 @@ void frmShortcuts::fill(Connection& store) {
 }
 
 void frmShortcuts::add(const char* caption, const char* key, const char* icon) {
-    auto* item = new QListWidgetItem(bundledIcon(icon), caption, lvMenu);
+    auto* item = new QListWidgetItem(steadyIcon(icon, devicePixelRatioF()), caption, lvMenu);
     item->setData(keyRole, QString(key));
     item->setTextAlignment(Qt::AlignHCenter | Qt::AlignTop);
 }

@@ -21,7 +21,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QEventLoopLocker>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
@@ -253,7 +252,7 @@ void mdiMain::closeEvent(QCloseEvent* event) {
 }
 
 void mdiMain::logOff() {
-    QEventLoopLocker betweenWindows;  // the process lives on while neither window is open
+    const BetweenWindows goingOn;
     if (close()) ScreenRegistry::instance().open("frmOpening");
 }
 

@@ -1,6 +1,7 @@
 #include "shell/frame_fixture.h"
 
 #include "books/posting_queue.h"
+#include "platform/ui/file_dialogs.h"
 #include "shell/child_area.h"
 #include "shell/frmShortcuts.h"
 #include "shell/menu_catalogue.h"
@@ -338,6 +339,52 @@ TEST_F(FrameTest, WindowsAreTiledListedAndBroughtForward) {
     emit menu->aboutToShow();
     EXPECT_TRUE(item("mnuWindowList_1")->isChecked());
     EXPECT_EQ(item("mnuWindowList_3"), nullptr);
+}
+
+TEST_F(FrameTest, NothingOfAClosedScreenStays) {
+    logIn();
+    for (int i = 0; i < 20; ++i) {
+        open("frmItem")->unload();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QTest::qWait(1);
+    }
+    opened("frmReorder")->unload();
+    QTest::qWait(1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(frame->findChildren<QMdiSubWindow*>().isEmpty());
+    EXPECT_TRUE(frame->findChildren<ChildScreen*>().isEmpty());
+}
+
+TEST_F(FrameTest, FilesThatTheDesktopCannotOpenAreTold) {
+    logIn();
+    QString given;
+    bool opens = false;
+    desk::Doors doors;
+    doors.openWithDesktop = [&](const QString& fileOrUrl) {
+        given = fileOrUrl;
+        return opens;
+    };
+    desk::setDoors(doors);
+    BoxScript boxes;
+    const auto write = [this](const QString& name, const char* line) {
+        QFile file(folder_.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(line);
+    };
+    boxes.expect("Zevrin!").expect("Zevrin!").expect("Zevrin!");
+    choose("mnuHelpItem_1");
+    choose("mnuAdminItem_4");
+    choose("mnuHelpItem_2");
+    EXPECT_EQ(given, "");
+    write("Zevrin.hlp", "help");
+    boxes.expect("Zevrin!", "Nothing on this computer opens Zevrin.hlp.");
+    choose("mnuHelpItem_1");
+    EXPECT_EQ(given, folder_.filePath("Zevrin.hlp"));
+    opens = true;
+    write("Support.ini", "help@mabuhay.example\r\n");
+    choose("mnuHelpItem_2");
+    EXPECT_EQ(given, "mailto:help@mabuhay.example");
+    desk::setDoors({});
 }
 
 TEST_F(FrameTest, TheFrameIsActivatedFromOutsideOnly) {
