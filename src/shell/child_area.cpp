@@ -15,6 +15,11 @@ ChildScreen* screenIn(const QMdiSubWindow* window) {
 
 QMdiSubWindow* windowOf(ChildScreen* screen) { return qobject_cast<QMdiSubWindow*>(screen->parentWidget()); }
 
+// No window is made smaller than its screen can be read; the area scrolls instead.
+void place(QMdiSubWindow* window, const QRect& rect) {
+    window->setGeometry(QRect(rect.topLeft(), rect.size().expandedTo(window->minimumSizeHint())));
+}
+
 // The keys of a child window's own menu would take Ctrl+W from the record commands.
 void freeKeys(const QMdiSubWindow* window) {
     if (const QMenu* menu = window->systemMenu())
@@ -39,7 +44,7 @@ void ChildArea::host(ChildScreen* screen) {
     freeKeys(window);
     // Told when it has gone, not while it goes.
     connect(screen, &ChildScreen::unloaded, this, &ChildArea::childrenChanged, Qt::QueuedConnection);
-    window->setGeometry(placeFor(screen, window->sizeHint()));
+    place(window, placeFor(screen, window->sizeHint()));
     window->show();
     setActiveSubWindow(window);
     emit childrenChanged();
@@ -81,7 +86,7 @@ void ChildArea::tile(Qt::Orientation orientation) {
     const QList<QRect> places = tiled(viewport()->rect(), static_cast<int>(windows.size()), orientation);
     for (qsizetype i = 0; i < windows.size(); ++i) {
         windows[i]->showNormal();
-        windows[i]->setGeometry(places[i]);
+        place(windows[i], places[i]);
     }
 }
 
@@ -100,5 +105,5 @@ void ChildArea::resizeEvent(QResizeEvent* event) {
     const QSize before = event->oldSize();
     QMdiArea::resizeEvent(event);
     for (QMdiSubWindow* window : shown(false))
-        if (window->geometry() == QRect(QPoint(0, 0), before)) window->setGeometry(viewport()->rect());
+        if (window->geometry() == QRect(QPoint(0, 0), before)) place(window, viewport()->rect());
 }

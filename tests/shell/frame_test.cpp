@@ -341,6 +341,23 @@ TEST_F(FrameTest, WindowsAreTiledListedAndBroughtForward) {
     EXPECT_EQ(item("mnuWindowList_3"), nullptr);
 }
 
+TEST_F(FrameTest, NoArrangementMakesAScreenSmallerThanItCanBeRead) {
+    ScreenRegistry::instance().add("frmItem", [] {
+        auto* screen = new TestScreen("frmItem");
+        screen->setMinimumSize(700, 500);
+        return screen;
+    });
+    logIn();
+    TestScreen* screen = open("frmItem");
+    open("frmContacts");
+    for (const char* arrangement : {"mnuWindowItem_0", "mnuWindowItem_1", "mnuWindowItem_2"}) {
+        choose(arrangement);
+        const QRect room = screen->parentWidget()->contentsRect();
+        EXPECT_GE(room.width(), 700) << arrangement;
+        EXPECT_GE(room.height(), 500) << arrangement;
+    }
+}
+
 TEST_F(FrameTest, NothingOfAClosedScreenStays) {
     logIn();
     for (int i = 0; i < 20; ++i) {
