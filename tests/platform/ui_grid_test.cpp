@@ -146,6 +146,8 @@ TEST_F(UiGrid, TheCurrentRowIsTheFirstUntilAPersonMoves) {
 TEST_F(UiGrid, AStatementThatFailsLeavesWhatItShowed) {
     open(5);
     EXPECT_THROW(grid.setSource(store.connection(), itemSource("WHERE Nonsense = 1")), StoreError);
+    const DataGrid::Source lacksAColumn{"ItemCode, Description", "tblItemMaster", "tblItemMaster", {}, {}};
+    EXPECT_THROW(grid.setSource(store.connection(), lacksAColumn), StoreError) << "not later, in painting";
     EXPECT_EQ(grid.model()->rowCount(), 5);
     EXPECT_TRUE(grid.hasCurrent());
 }

@@ -60,6 +60,8 @@ void DataGrid::selectKey(const QString& column, const QString& value) {
     if (const int row = model_->findFetched(column, value); row >= 0) selectRow(row);
 }
 
+QSize DataGrid::sizeHint() const { return form::listSize(this, horizontalHeader()); }
+
 // A key that nobody waits for goes on to the screen.
 void DataGrid::keyPressEvent(QKeyEvent* event) {
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);

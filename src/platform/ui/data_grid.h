@@ -44,6 +44,8 @@ class DataGrid : public QTableView {
     void selectKey(const QString& column, const QString& value);  // among the fetched rows
     void fetchAll();                                              // for tests and exports
 
+    QSize sizeHint() const override;
+
   signals:
     void picked();  // double click or Enter on a row
     void headerClicked(int column);

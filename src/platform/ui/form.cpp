@@ -2,7 +2,6 @@
 
 #include "platform/ui/icons.h"
 
-#include <QAbstractScrollArea>
 #include <QScrollBar>
 #include <QStyle>
 
@@ -79,6 +78,13 @@ int charactersWide(const QWidget* widget, int characters) {
     const int ends =
         2 * (frame + widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget));
     return widget->fontMetrics().averageCharWidth() * characters + ends + widget->fontMetrics().height() / 2;
+}
+
+QSize listSize(const QAbstractScrollArea* list, const QHeaderView* header) {
+    const int columns =
+        header->length() + list->verticalScrollBar()->sizeHint().width() + 2 * list->frameWidth();
+    const int rows = list->fontMetrics().height() * 14;
+    return {std::min(columns, charactersWide(list, 110)), rows};
 }
 
 }  // namespace form

@@ -1,4 +1,5 @@
 #pragma once
+#include <QAbstractScrollArea>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -26,4 +27,6 @@ void setColumnWidths(QHeaderView* header, const Columns& columns) {
         header->resizeSection(column, std::max(charactersWide(header, columns.at(column).characters),
                                                header->sectionSizeHint(column)));
 }
+// The size at which a list shows its columns and some rows, as far as a small desktop has room.
+QSize listSize(const QAbstractScrollArea* list, const QHeaderView* header);
 }  // namespace form

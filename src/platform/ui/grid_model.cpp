@@ -49,12 +49,16 @@ std::vector<GridModel::Row> GridModel::rowsOf(Recordset page, int pageNumber) co
 }
 
 void GridModel::setSource(Connection& store, const DataGrid::Source& source) {
-    Recordset page = store.execute(firstPage(source));
-    page.moveFirst();
+    const Recordset page = store.execute(firstPage(source));
+    // Everything that can fail, before anything is changed: painting must not.
+    if (!page.eof())
+        for (const GridColumn& column : columns_) page.isNull(column.column);
+    const auto types = store.columnTypes(source.keyTable);
     std::vector<Row> rows = rowsOf(page, 0);
     beginResetModel();
     store_ = &store;
     source_ = source;
+    types_ = types;
     rows_ = std::move(rows);
     pages_ = {page};
     wanted_.clear();
@@ -193,7 +197,7 @@ int GridModel::columnCount(const QModelIndex& parent) const {
 }
 
 bool GridModel::isDeclared(const QString& column, const QString& type) const {
-    return store_->columnTypes(source_.keyTable).value(column.toLower()).contains(type);
+    return types_.value(column.toLower()).contains(type);
 }
 
 // Counted things are whole numbers, or quantities of the currency type.

@@ -60,6 +60,7 @@ class GridModel : public QAbstractTableModel {
     QList<GridColumn> columns_;
     Connection* store_ = nullptr;
     DataGrid::Source source_;
+    QHash<QString, QString> types_;  // of the key table's columns
     std::vector<Row> rows_;
     mutable std::vector<Recordset> pages_;
     mutable std::set<int> wanted_;

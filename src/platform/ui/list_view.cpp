@@ -78,6 +78,8 @@ Qt::SortOrder ListView::sortOrder() const { return order_; }
 int ListView::sortedColumn() const { return sortedColumn_; }
 void ListView::setSortsByHeader(bool sorts) { sortsByHeader_ = sorts; }
 
+QSize ListView::sizeHint() const { return form::listSize(this, header()); }
+
 // A key that nobody waits for goes on to the screen.
 void ListView::keyPressEvent(QKeyEvent* event) {
     const auto waitsFor = [this](auto signal) { return isSignalConnected(QMetaMethod::fromSignal(signal)); };

@@ -37,6 +37,8 @@ class ListView : public QTreeView {
     int sortedColumn() const;
     void setSortsByHeader(bool sorts);  // a click on a header calls toggleSort and then headerClicked
 
+    QSize sizeHint() const override;
+
   signals:
     void rowDoubleClicked(int row);
     void entered(int row);  // Enter on the list; -1 with no row

@@ -1,0 +1,26 @@
+#include "support/growth.h"
+
+#include "support/screen_driver.h"
+
+#include <QApplication>
+
+#include <malloc.h>
+
+namespace check {
+
+static qint64 bytesInUse() {
+    const auto memory = mallinfo2();
+    return static_cast<qint64>(memory.uordblks + memory.hblkhd);
+}
+
+Growth growthOf(const std::function<void()>& openAndClose, int times) {
+    Growth before;
+    for (int time = 1; time <= times; ++time) {
+        openAndClose();
+        person::settle();
+        if (time == 10) before = {bytesInUse(), QApplication::allWidgets().size()};
+    }
+    return {bytesInUse() - before.bytes, QApplication::allWidgets().size() - before.widgets};
+}
+
+}  // namespace check
