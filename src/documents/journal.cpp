@@ -60,7 +60,7 @@ Journal::Journal(const JournalBook& book)
     auto* top = new QHBoxLayout;
     top->addWidget(searchFrame(), 1);
     top->addWidget(sortFrame());
-    dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", gridColumns(book.columns), this);
+    dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", gridColumns(book.columns));
     dbgMyGrid->setAccessibleName("Documents");
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
@@ -72,29 +72,35 @@ Journal::Journal(const JournalBook& book)
     RefreshRecord();
 }
 
-QSize Journal::sizeHint() const { return {form::charactersWide(this, 130), fontMetrics().height() * 34}; }
+QSize Journal::sizeHint() const {
+    const QSize roomy(form::charactersWide(this, 150), fontMetrics().height() * 36);
+    return roomy.expandedTo(minimumSizeHint());
+}
 
-QRadioButton* Journal::addOption(QButtonGroup* group, QLayout* row, const QString& name,
+QRadioButton* Journal::addOption(QButtonGroup* group, QGridLayout* grid, const QString& name,
                                  const QString& caption) {
+    constexpr int optionRows = 2;
     auto* option = new QRadioButton(caption);
     option->setObjectName(name);
+    const int place = static_cast<int>(group->buttons().size());
+    grid->addWidget(option, place % optionRows, place / optionRows);
     group->addButton(option);
-    row->addWidget(option);
     return option;
 }
 
 QWidget* Journal::searchFrame() {
-    cboSearch = new ComboBox("cboSearch", ComboBox::Open, this);
+    cboSearch = new ComboBox("cboSearch", ComboBox::Open);
     cboSearch->setKeyFilter(keys::freeText());
     for (const JournalCategory& category : book_.tables.categories) cboSearch->addItem(category.name);
     cboSearch->setText(book_.initialCategory);
-    txtSearch = new TextBox("txtSearch", this);
+    txtSearch = new TextBox("txtSearch");
+    txtSearch->setMinimumWidth(form::charactersWide(txtSearch, 24));
     txtSearch->setAccessibleName("Search text");
     txtSearch->installEventFilter(this);
     cmdSearch = form::button("cmdSearch", "&Search", "search");
 
     auto* type = form::frame("fraSearchType", "Search Type:");
-    auto* options = new QHBoxLayout(type);
+    auto* options = new QGridLayout(type);
     auto* group = new QButtonGroup(this);
     optAny = addOption(group, options, "optAny", "Any");
     optExact = addOption(group, options, "optExact", "Exact");
@@ -107,19 +113,20 @@ QWidget* Journal::searchFrame() {
     grid->addWidget(cboSearch, 1, 0);
     grid->addWidget(txtSearch, 1, 1);
     grid->addWidget(cmdSearch, 1, 2);
-    grid->addWidget(type, 0, 3, 2, 1);
+    grid->addWidget(type, 0, 3, 3, 1);
+    grid->setRowStretch(2, 1);
     grid->setColumnStretch(1, 1);
     return frame;
 }
 
 QWidget* Journal::sortFrame() {
     auto* frame = form::frame("fraSort", "Sort By:");
-    auto* row = new QHBoxLayout(frame);
+    auto* options = new QGridLayout(frame);
     sortOptions_ = new QButtonGroup(this);
     for (const JournalSort& sort : book_.sorts)
-        sorts_ += addOption(sortOptions_, row, sort.name, sort.caption);
-    optPrinted = addOption(sortOptions_, row, "optPrinted", "Printed");
-    optUnPrinted = addOption(sortOptions_, row, "optUnPrinted", "UnPrinted");
+        sorts_ += addOption(sortOptions_, options, sort.name, sort.caption);
+    optPrinted = addOption(sortOptions_, options, "optPrinted", "Printed");
+    optUnPrinted = addOption(sortOptions_, options, "optUnPrinted", "UnPrinted");
     optUnPrinted->setChecked(true);
     return frame;
 }

@@ -5,6 +5,7 @@
 class ComboBox;
 class QAbstractButton;
 class QButtonGroup;
+class QGridLayout;
 class QPushButton;
 class QRadioButton;
 class TextBox;
@@ -34,7 +35,8 @@ class Journal : public ChildScreen {
     QWidget* searchFrame();
     QWidget* sortFrame();
     QLayout* commandRow();
-    QRadioButton* addOption(QButtonGroup* group, QLayout* row, const QString& name, const QString& caption);
+    QRadioButton* addOption(QButtonGroup* group, QGridLayout* grid, const QString& name,
+                            const QString& caption);
     void connectControls();
 
     void refreshGrid();
