@@ -7,6 +7,8 @@
 #include "purchases/frmPurchaseGrid.h"
 #include "sales/frmSalesGrid.h"
 #include "support/box_script.h"
+#include "support/screen_checks.h"
+#include "support/screen_driver.h"
 #include "support/test_store.h"
 
 #include <QAbstractButton>
@@ -251,6 +253,7 @@ TEST_F(JournalScreen, EditOfALockedGoneOrMissingDocument) {
         "Record is Being Locked! You Cannot Edit This Record! Please Ask Administrator to Unlock Record!");
     boxes.expect(locked);
     journal->EditRecord();
+    EXPECT_EQ(boxes.shown().last().icon, BoxIcon::Critical);
     const Box nothing =
         exclamation("Error!", "Please select proper record to EDIT! There's nothing to EDIT!");
     store().run("DELETE FROM tblSalesMaster");
@@ -286,6 +289,7 @@ TEST_F(JournalScreen, DeleteAsksRemovesAndLists) {
     QueueBookForPosting(store(), "S", "1", "C2", QDate(2026, 3, 3));
     boxes.expect(confirm, BoxAnswer::No);
     press("cmdDelete");
+    EXPECT_EQ(boxes.shown().last(), confirm);
     EXPECT_EQ(listed(), "31");
     select("1");
     boxes.expect(confirm, BoxAnswer::Yes);
@@ -334,6 +338,17 @@ TEST_F(JournalScreen, WithoutRightsNothingIsDeletedOrPrinted) {
     journal->PrintRecord();
     journal = std::make_unique<frmPurchaseGrid>();
     EXPECT_TRUE(journal->property("deleteAllowed").toBool());
+}
+
+TEST_F(JournalScreen, IsReadableAndFollowsTheEye) {
+    for (Journal* screen :
+         {static_cast<Journal*>(new frmSalesGrid), static_cast<Journal*>(new frmPurchaseGrid)}) {
+        journal.reset(screen);
+        EXPECT_LE(screen->sizeHint().width(), 1000);
+        screen->resize(screen->sizeHint());
+        person::look(screen);
+        EXPECT_EQ(check::faults(screen), QStringList()) << qPrintable(screen->objectName());
+    }
 }
 
 TEST_F(JournalScreen, PrintOfNothing) {

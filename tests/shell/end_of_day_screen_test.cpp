@@ -8,6 +8,7 @@
 #include "shell/frmForUpload.h"
 #include "shell/register.h"
 #include "support/box_script.h"
+#include "support/screen_checks.h"
 #include "support/test_store.h"
 
 #include <QLabel>
@@ -63,7 +64,8 @@ class EndOfDayScreen : public SessionTest {
         return store().execute(Sql{QString("SELECT COUNT(*) AS Ihap FROM ") + table}).integer("Ihap");
     }
     Currency salesCost(const QString& reference) {
-        return store().execute(
+        return store()
+            .execute(
                 {"SELECT SalesCost FROM tblStockValuation WHERE BookID = 'S' AND Reference = ?", {reference}})
             .currency("SalesCost");
     }
@@ -96,6 +98,7 @@ TEST_F(EndOfDayScreen, ListsPurchasesFirstAndEachBookByDate) {
                 ::testing::UnorderedElementsAre(QStringList{"I1", "Goods I1", "Ready for Processing"},
                                                 QStringList{"I2", "Goods I2", "Ready for Processing"}));
     EXPECT_EQ(screen->findChild<QLabel*>("lblStatus")->text(), QString("2"));
+    EXPECT_EQ(check::faults(screen), QStringList());
 }
 
 TEST_F(EndOfDayScreen, CostsASaleFromALaterPurchaseAndCloses) {
