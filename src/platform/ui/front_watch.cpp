@@ -105,9 +105,22 @@ void FrontWatch::forget(ChildScreen* screen) {
     settleLater();
 }
 
-FrontHold::FrontHold() : window_(QApplication::activeWindow()) { FrontWatch::instance().hold(); }
+// The window that the focus was given back to last; its activation may still be on its way.
+static QPointer<QWidget> givenBackTo;
+
+static bool isInFront(const QWidget* window) { return window && window->isVisible(); }
+
+static QWidget* windowInFront() {
+    QWidget* active = QApplication::activeWindow();
+    return isInFront(active) ? active : givenBackTo.data();
+}
+
+FrontHold::FrontHold() : window_(windowInFront()) { FrontWatch::instance().hold(); }
 
 FrontHold::~FrontHold() {
-    if (window_ && !QApplication::activeWindow() && window_->isVisible()) window_->activateWindow();
+    if (isInFront(window_) && !isInFront(QApplication::activeWindow())) {
+        window_->activateWindow();
+        givenBackTo = window_;
+    }
     FrontWatch::instance().release();
 }
