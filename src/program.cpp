@@ -1,0 +1,29 @@
+#include "program.h"
+
+#include "documents/register.h"
+#include "foundation/register.h"
+#include "masters/register.h"
+#include "platform/ui/frmStatus.h"
+#include "platform/ui/icons.h"
+#include "purchases/register.h"
+#include "sales/register.h"
+#include "shell/register.h"
+
+#include <QApplication>
+
+static void registerScreens() {
+    registerFoundationScreens();
+    registerMasterScreens();
+    registerDocumentScreens();
+    registerSalesScreens();
+    registerPurchaseScreens();
+    registerShellScreens();
+}
+
+void setUpProgram() {
+    QApplication::setApplicationName("Zevrin");
+    QApplication::setStyle("Fusion");
+    QApplication::setWindowIcon(bundledIcon("bird"));
+    installIdleHook();
+    registerScreens();
+}
