@@ -3,6 +3,7 @@
 #include "books/end_of_day.h"
 #include "demo/demo_trade.h"
 #include "foundation/encryption.h"
+#include "foundation/schema.h"
 #include "foundation/session.h"
 #include "masters/contact_document.h"
 #include "masters/item_document.h"
@@ -12,6 +13,7 @@
 #include "purchases/purchase_document.h"
 #include "sales/sales_document.h"
 
+#include <QFile>
 #include <stdexcept>
 
 namespace {
@@ -204,4 +206,18 @@ void fillDemoFirm(Connection& store, const QDate& lastDay) {
     Transaction unit(store);
     DemoFirm(store, lastDay).fill();
     unit.commit();
+}
+
+// Beside the path first, so that a store that is half filled never bears its name.
+void makeDemoStore(const QString& path) {
+    if (QFile::exists(path))
+        throw std::runtime_error(QString("The file \"%1\" already exists.").arg(path).toStdString());
+    const QString unfinished = path + ".unfinished";
+    QFile::remove(unfinished);
+    makeDeliveredStore(unfinished);
+    Connection store;
+    store.open(unfinished, storePassword);
+    fillDemoFirm(store, Clock::today());
+    store.close();
+    if (!QFile::rename(unfinished, path)) throw std::runtime_error(("cannot write " + path).toStdString());
 }

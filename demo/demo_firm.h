@@ -1,5 +1,6 @@
 #pragma once
 #include <QDate>
+#include <QString>
 
 class Connection;
 
@@ -8,3 +9,7 @@ class Connection;
 // The end of day has run for everything but the documents of the last day. All or nothing; throws
 // std::runtime_error with the text of a refused step, and StoreError.
 void fillDemoFirm(Connection& store, const QDate& lastDay);
+
+// Writes a store with the demo firm, whose trade ends today, to this path: whole or not at all. Throws
+// StoreError and std::runtime_error, also when the file exists.
+void makeDemoStore(const QString& path);
