@@ -1,4 +1,5 @@
 #include "support/box_script.h"
+#include "support/offscreen_desk.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -19,7 +20,7 @@ static void keepStoresInMemory() {
 // Every test program: an application without a display, in a fixed locale, where a box that no test expects
 // fails instead of waiting for a person.
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    useOffscreenDesk();
     keepStoresInMemory();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
