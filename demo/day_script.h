@@ -1,0 +1,35 @@
+#pragma once
+#include <QList>
+#include <QString>
+#include <stdexcept>
+
+// A trading day as a text tells it, step by step. Its words are explained at the top of demo/day.txt.
+
+struct DayLine {
+    int number = 0;  // of the line in the text, from 1
+    QString ordered;
+    QString moved;  // served, or delivered
+    QString item;
+    QString price;         // empty: the one that the dialog proposes
+    bool refused = false;  // expected to be refused: the stock of the day does not cover it
+};
+
+struct DayStep {
+    enum Kind { LogIn, Purchase, Sale, EndOfDay, LogOff };
+    int number = 0;
+    Kind kind = LogOff;
+    QString user;
+    QString password;
+    QString contact;
+    bool wholesale = false;
+    QString remarks;
+    QList<DayLine> lines;
+};
+
+// A line that the script cannot mean; the text names its number.
+struct DayScriptError : std::runtime_error {
+    DayScriptError(int number, const QString& text)
+        : std::runtime_error(QString("line %1: %2").arg(number).arg(text).toStdString()) {}
+};
+
+QList<DayStep> readDayScript(const QString& text);
