@@ -19,7 +19,9 @@ static QList<Entry> loadList(Recordset rows, const char* waitText, Progress& pro
     const ProgressScope scope(progress, waitText, total);
     for (; !rows.eof(); rows.moveNext()) {
         list += read(rows);
-        progress.setText(QString("Loading Record %1 of %2...").arg(list.size()).arg(total));
+        // Painting the text of every row would take longer than reading them.
+        if (list.size() % 64 == 1 || list.size() == total)
+            progress.setText(QString("Loading Record %1 of %2...").arg(list.size()).arg(total));
         progress.setValue(list.size());
     }
     return list;
