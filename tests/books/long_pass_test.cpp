@@ -1,0 +1,73 @@
+#include "books/balances.h"
+#include "books/books_test.h"
+#include "books/stock_valuation.h"
+#include "platform/store/transaction.h"
+
+#include <QThread>
+
+// A pass that takes long lets other workstations in: it ends in many units, whose work is all there at the
+// end.
+class LongPassTest : public BooksTest {
+  protected:
+    static constexpr int count = 400;
+
+    void SetUp() override {
+        BooksTest::SetUp();
+        Transaction unit(store);
+        for (int at = 0; at < count; ++at) {
+            const QString key = QString("K%1").arg(at);
+            addItem(store, {key, key});
+            AddStockValuation(store, "P", key, "C1", key, day(1), amount(at), amount(1));
+            write("INSERT INTO tblPurchaseDetails (ItemID, Delivered) VALUES (?, ?)",
+                  {key, bound(amount(at))});
+        }
+        unit.commit();
+    }
+    void TearDown() override { Connection::setStatementHook({}); }
+
+    // Slows every update down to a millisecond and counts the units.
+    int unitsOf(const std::function<void()>& pass) {
+        int units = 0;
+        Connection::setStatementHook([&](const QString& text) {
+            if (text.startsWith("UPDATE")) QThread::msleep(1);
+            units += text == "COMMIT";
+        });
+        pass();
+        Connection::setStatementHook({});
+        return units;
+    }
+    // Whether each key's figure is its number: K0 has 0, K1 has 1.
+    int wrongRows(const QString& table, const QString& key) {
+        return value(
+                   QString(
+                       "SELECT COUNT(*) AS v FROM %1 WHERE Balance <> 10000 * CAST(SUBSTR(%2, 2) AS INTEGER)")
+                       .arg(table, key))
+            .toInt();
+    }
+};
+
+TEST_F(LongPassTest, RecomputingBalancesEndsInManyUnits) {
+    EXPECT_GE(unitsOf([this] { RecomputeInventoryBalances(store, Progress::none()); }), 3);
+    EXPECT_EQ(wrongRows("tblItemMaster", "ItemCode"), 0);
+}
+
+TEST_F(LongPassTest, RevaluingAllStockEndsInManyUnits) {
+    EXPECT_GE(unitsOf([this] { RecomputeStockValuation(store, Progress::none()); }), 3);
+    EXPECT_EQ(wrongRows("tblStockValuation", "ItemCode"), 0);
+}
+
+TEST_F(LongPassTest, ASecondRunCompletesWhatAnInterruptedOneLeft) {
+    int updates = 0;
+    Connection::setStatementHook([&](const QString& text) {
+        if (!text.startsWith("UPDATE")) return;
+        QThread::msleep(1);
+        if (++updates > count / 2) throw StoreError(StoreError::busy, "interrupted");
+    });
+    EXPECT_THROW(RecomputeStockValuation(store, Progress::none()), StoreError);
+    Connection::setStatementHook({});
+    const int left = wrongRows("tblStockValuation", "ItemCode");
+    EXPECT_GE(left, count / 2 - 1);
+    EXPECT_LT(left, count - 1) << "the units before stay done";
+    RecomputeStockValuation(store, Progress::none());
+    EXPECT_EQ(wrongRows("tblStockValuation", "ItemCode"), 0);
+}
