@@ -116,37 +116,70 @@ static bool succeeds(Boxes& boxes, Step step) {
     return false;
 }
 
-// The walk of both passes: each entry is one step, told with its number.
-template <class Entry, class Step>
-static bool walk(const QList<Entry>& list, const char* stepText, EndOfDayView& view, Step step) {
-    if (list.isEmpty()) return false;
-    view.status(postingText);
-    view.start(list.size());
-    for (qsizetype index = 0; index < list.size(); ++index) {
-        view.status(QString("%1 %2 of %3").arg(stepText).arg(index + 1).arg(list.size()));
-        if (!step(list[index], index)) return false;
+// The walk of both passes. Its entries are dealt with in units of a quarter of a second at most, for a commit
+// costs more than most entries do; each is told to the view when its unit is safely in the store. A failing
+// entry is undone alone: those before it stay done.
+template <class Entry>
+class Walk {
+  public:
+    using Step = std::function<void(const Entry&)>;
+    using Tell = std::function<void(qsizetype)>;
+
+    Walk(Connection& store, const QList<Entry>& list, EndOfDayView& view, Boxes& boxes)
+        : store_(store), list_(list), view_(view), boxes_(boxes) {}
+
+    bool run(const char* stepText, const Step& step, const Tell& tell) {
+        if (list_.isEmpty()) return false;
+        view_.status(postingText);
+        view_.start(list_.size());
+        for (bool more = true; more && next_ < list_.size();) {
+            const qsizetype first = next_;
+            if (!succeeds(boxes_, [&] { more = runUnit(stepText, step); })) return false;
+            for (qsizetype index = first; index < next_; ++index) tell(index);
+            if (!more) return false;
+        }
+        view_.status({});
+        view_.start(0);
+        return true;
     }
-    view.status({});
-    view.start(0);
-    return true;
-}
+
+  private:
+    // False when an entry failed.
+    bool runUnit(const char* stepText, const Step& step) {
+        const UnitClock clock;
+        Transaction unit(store_);
+        bool sound = true;
+        qsizetype index = next_;
+        while (sound && index < list_.size() && !clock.isOver()) {
+            view_.status(QString("%1 %2 of %3").arg(stepText).arg(index + 1).arg(list_.size()));
+            sound = succeeds(boxes_, [&] { step(list_[index]); });
+            if (sound) ++index;
+        }
+        unit.commit();
+        next_ = index;
+        return sound;
+    }
+
+    Connection& store_;
+    const QList<Entry>& list_;
+    EndOfDayView& view_;
+    Boxes& boxes_;
+    qsizetype next_ = 0;
+};
 
 bool PostStockValuation(Connection& store, const QList<QueuedDocument>& documents, EndOfDayView& view,
                         Boxes& boxes) {
-    const auto post = [&](const QueuedDocument& document, qsizetype index) {
-        if (!succeeds(boxes, [&] { postDocument(store, document); })) return false;
-        view.documentPosted(index);
-        return true;
-    };
-    return walk(documents, "Posting Stock Valuation", view, post);
+    return Walk(store, documents, view, boxes)
+        .run(
+            "Posting Stock Valuation", [&](const QueuedDocument& document) { postDocument(store, document); },
+            [&](qsizetype index) { view.documentPosted(index); });
 }
 
 bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,
                               Boxes& boxes) {
-    const auto cost = [&](const QueuedItem& item, qsizetype index) {
-        if (!succeeds(boxes, [&] { costItem(store, item.itemCode, boxes); })) return false;
-        view.itemCosted(index);
-        return true;
-    };
-    return walk(items, "Initializing Stock Valuation", view, cost);
+    return Walk(store, items, view, boxes)
+        .run(
+            "Initializing Stock Valuation",
+            [&](const QueuedItem& item) { costItem(store, item.itemCode, boxes); },
+            [&](qsizetype index) { view.itemCosted(index); });
 }

@@ -32,8 +32,9 @@ class EndOfDayView {
     virtual void itemCosted(qsizetype /*index*/) {}
 };
 
-// Each document and each item is one unit. False for an empty list, and after a failure, whose box is added;
-// the work done stays done, and a second run completes it.
+// Each document and each item is done whole or not at all, in units of a quarter of a second at most. False
+// for an empty list, and after a failure, whose box is added; the work done stays done, and a second run
+// completes it.
 bool PostStockValuation(Connection& store, const QList<QueuedDocument>& documents, EndOfDayView& view,
                         Boxes& boxes);
 bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,
