@@ -3,6 +3,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 #include "platform/ui/front_watch.h"
+#include "platform/ui/mnemonics.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -14,6 +15,7 @@
 ChildScreen::ChildScreen(const QString& name, const QString& caption, Placement placement, Kind kind)
     : placement_(placement), kind_(kind) {
     FrontWatch::instance();
+    Mnemonics::install();
     setObjectName(name);
     setWindowTitle(caption);
     setAttribute(Qt::WA_DeleteOnClose);

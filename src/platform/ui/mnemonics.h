@@ -1,0 +1,20 @@
+#pragma once
+#include <QObject>
+
+class QAbstractButton;
+class QKeyEvent;
+
+// The mnemonics of the buttons of a screen come before those of the frame's menus, which use the same
+// letters: Alt+A is "&Add Item" where there is one, and "&Administration" elsewhere. The button takes the
+// focus first; where the field that is left keeps it, the button is not pressed.
+class Mnemonics : public QObject {
+    Q_OBJECT
+  public:
+    static void install();
+
+  protected:
+    bool eventFilter(QObject* target, QEvent* event) override;
+
+  private:
+    Mnemonics();
+};
