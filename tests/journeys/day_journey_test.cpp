@@ -1,0 +1,29 @@
+#include "demo/firm_figures.h"
+#include "demo/played_firm.h"
+#include "foundation/start.h"
+#include "journeys/journey.h"
+#include "platform/clock.h"
+
+#include <QFile>
+
+static QString demoDay() {
+    QFile file(QString(ZEVRIN_SOURCE_DIR) + "/demo/day.txt");
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+// The day that ./run plays without a display.
+TEST_F(Journey, TheDayOfTheDemoFirm) {
+    const QTemporaryDir folder;
+    closeProgram();
+    freshDemoFirm(QDir(folder.path()));
+    ASSERT_TRUE(Main());
+    const FirmFigures before = firmFigures(store(), Clock::today());
+    const QStringList saved = play(demoDay());
+    EXPECT_EQ(saved.size(), 7);
+    const FirmFigures after = firmFigures(store(), Clock::today());
+    EXPECT_EQ(after.waiting, 0);
+    EXPECT_GT(after.receivable, before.receivable);
+    EXPECT_GT(after.payable, before.payable);
+    EXPECT_GT(after.costOfSales, Currency());
+    EXPECT_LT(after.costOfSales, after.salesOfDay);
+}
