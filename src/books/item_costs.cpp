@@ -5,6 +5,8 @@
 #include "books/stock_valuation.h"
 #include "platform/store/transaction.h"
 
+#include <optional>
+
 static ItemCosting readItem(Connection& store, const QString& itemCode) {
     BulkReader reader(store, {QString("SELECT %1 FROM tblStockValuation v WHERE v.ItemCode = ? ORDER BY %2")
                                   .arg(ledger::columns, ledger::order),
@@ -14,13 +16,20 @@ static ItemCosting readItem(Connection& store, const QString& itemCode) {
     return item;
 }
 
+// A figure beyond the range is thrown when the rows before it have theirs in the store.
 template <class Compute>
 static void recompute(Connection& store, const QString& itemCode, Compute compute) {
+    std::optional<OverflowError> overflow;
     Transaction unit(store);
     ItemCosting item = readItem(store, itemCode);
-    compute(item);
+    try {
+        compute(item);
+    } catch (const OverflowError& error) {
+        overflow = error;
+    }
     ledger::Writer(store).write(item);
     unit.commit();
+    if (overflow) throw *overflow;
 }
 
 static QString descriptionOf(Connection& store, const QString& itemCode) {

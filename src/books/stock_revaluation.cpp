@@ -38,14 +38,17 @@ void Revaluation::take(const BulkReader& row) {
     if (!row.isNull(0)) item_.add(ledger::readRow(row));
 }
 
-// An item whose figures leave the range keeps what it has.
-void Revaluation::finishItem(ledger::Writer& writer) {
+// A figure beyond the range ends its own pass over the item, not the other one.
+static void passOverOverflow(auto step) {
     try {
-        item_.computeBalances();
-        item_.computeSalesCost();
+        step();
     } catch (const OverflowError&) {
-        return;
     }
+}
+
+void Revaluation::finishItem(ledger::Writer& writer) {
+    passOverOverflow([this] { item_.computeBalances(); });
+    passOverOverflow([this] { item_.computeSalesCost(); });
     writer.write(item_);
 }
 

@@ -16,7 +16,8 @@ void RemoveStockValuation(Connection& store, const QString& bookId, const QStrin
 
 // One item: the running Balance of its rows; the SalesCost of its "S" rows; both in one scan. Only rows that
 // change are written. When layers run out the rest of a sale costs nothing. Throw StoreError, and
-// OverflowError for figures beyond the range.
+// OverflowError at a figure beyond the range: the rows before it then have theirs, the rest keep what they
+// had.
 void ComputeStockBalances(Connection& store, const QString& itemCode, Progress& progress = Progress::none());
 void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& progress = Progress::none());
 
@@ -30,8 +31,8 @@ Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, 
 void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes);
 
 // Every item: the figures of ComputeStockBalances and ComputeSalesCost in one ordered scan of the ledger,
-// writing only rows that change, in units of at most a quarter of a second. An item whose figures overflow
-// keeps what it has and stops no other.
+// writing only rows that change, in units of at most a quarter of a second. A figure beyond the range is
+// passed over as those would leave it, and stops no other pass or item.
 void RecomputeStockValuation(Connection& store, Progress& progress);
 
 // Keeps the master price in step with documents. Unchanged or unknown item: nothing is written.

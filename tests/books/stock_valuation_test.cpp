@@ -153,19 +153,34 @@ TEST_F(StockValuationTest, RowsOfAnItemThatHasGoneKeepTheirFigures) {
     EXPECT_EQ(balances("A"), "5");
 }
 
-TEST_F(StockValuationTest, AnOverflowingItemKeepsItsFiguresAndStopsNoOther) {
-    for (const char* item : {"A", "B", "C"}) {
+// The rows before a figure beyond the range have theirs, by both ways alike; nothing else is stopped by it.
+TEST_F(StockValuationTest, AnOverflowEndsOnePassOverOneItem) {
+    for (const char* item : {"A", "B", "C", "D"}) {
         addItems({item});
         addRow({1, 'P', 2, 3}, item);
         addRow({2, 'S', 1}, item);
     }
     AddStockValuation(store, "P", "big", "C1", "B", day(3), most, amount(2));
-    AddStockValuation(store, "S", "big", "C1", "B", day(3), most, amount(2));
-    EXPECT_THROW(ComputeStockBalances(store, "B"), OverflowError);
-    EXPECT_THROW(ComputeSalesCost(store, "B"), OverflowError);
+    AddStockValuation(store, "P", "big", "C1", "C", day(3), amount(9), most);
+    AddStockValuation(store, "S", "big", "C1", "C", day(3), amount(3), amount(2));
+    const auto expectFigures = [&] {
+        EXPECT_EQ(balances("A") + '/' + balances("B") + '/' + balances("C") + '/' + balances("D"),
+                  "2 1/2 1 0/2 1 10 7/2 1");
+        EXPECT_EQ(salesCosts("A") + '/' + salesCosts("B") + '/' + salesCosts("C") + '/' + salesCosts("D"),
+                  "3/3/3 0/3");
+    };
     RecomputeStockValuation(store, Progress::none());
-    EXPECT_EQ(balances("A") + '/' + balances("B") + '/' + balances("C"), "2 1/0 0 0 0/2 1");
-    EXPECT_EQ(salesCosts("A") + '/' + salesCosts("B") + '/' + salesCosts("C"), "3/0 0/3");
+    expectFigures();
+    write("UPDATE tblStockValuation SET Balance = 0, SalesCost = 0");
+    for (const char* item : {"A", "D"}) {
+        ComputeStockBalances(store, item);
+        ComputeSalesCost(store, item);
+    }
+    EXPECT_THROW(ComputeStockBalances(store, "B"), OverflowError);
+    ComputeSalesCost(store, "B");
+    ComputeStockBalances(store, "C");
+    EXPECT_THROW(ComputeSalesCost(store, "C"), OverflowError);
+    expectFigures();
 }
 
 TEST_F(StockValuationTest, APeriodValuesOnlyItsLayers) {
