@@ -50,7 +50,7 @@ Check pricesFault(const ItemEntry& entry) {
 Check duplicateFault(Connection& store, const ItemEntry& entry) {
     if (RecordFound(store, "tblItemMaster", "ItemCode", trim(entry.ItemCode)))
         return fault("Duplicate Item Code! Please Assign Another Number!", "txtItemCode");
-    if (RecordFound(store, "tblItemMaster", "Description", trim(entry.Description)))
+    if (RecordFound(store, "tblItemMaster", "Description", trim(entry.Description).toUpper()))
         return fault("Item Description Already Exist! System Cannot Allow Same Item Description!",
                      "txtDescription");
     return {};

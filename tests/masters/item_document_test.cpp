@@ -50,6 +50,15 @@ TEST_F(ItemDocument, ChecksRunInTheSystemsOrder) {
     EXPECT_TRUE(isDone(save(entry)));
 }
 
+// The store's own comparison knows the case of plain letters only; what is compared is what would be stored.
+TEST_F(ItemDocument, ADescriptionIsTakenInEitherCaseOfItsLetters) {
+    addItem("1000000001", QString::fromUtf8("PIÑA JUICE"));
+    ItemEntry entry = goodItem();
+    entry.ItemCode = "1000000002";
+    entry.Description = QString::fromUtf8(" piña juice");
+    EXPECT_EQ(faultOf(save(entry)).focus, "txtDescription");
+}
+
 TEST_F(ItemDocument, PricesStandInOrder) {
     struct Row {
         const char *cost, *wholesale, *selling, *fault;
