@@ -79,6 +79,7 @@ void frmUnitGrid::openField(const QString& text) {
 }
 
 void frmUnitGrid::closeField() {
+    mblnAddmode = false;
     txtUnit->clear();
     txtUnit->setEnabled(false);
     paintIdle(txtUnit, true);
@@ -102,7 +103,6 @@ void frmUnitGrid::SaveRecord() {
     guarded([this] {
         const Outcome outcome = SaveUnit(StoreConnection(), txtUnit->text(), mblnAddmode, currentUnit_);
         if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
-        mblnAddmode = false;
         LoadGrid();
         closeField();
     });

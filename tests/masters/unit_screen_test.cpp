@@ -61,4 +61,15 @@ TEST_F(UnitScreen, TheListEditsAndDeletes) {
     takeBoxes();
     EXPECT_EQ(units(), QStringList{"PIECE"});
 }
+
+TEST_F(UnitScreen, ADeletionEndsTheNewUnit) {
+    command("NewRecord");
+    list()->setFocus();
+    list()->setCurrentRow(0);
+    answer(BoxAnswer::Yes);
+    keyTo(list(), Qt::Key_Delete);
+    takeBoxes();
+    EXPECT_FALSE(box("txtUnit")->isEnabled());
+    EXPECT_FALSE(addMode());
+}
 }  // namespace
