@@ -92,12 +92,13 @@ static void postDocument(Connection& store, const QueuedDocument& document) {
 }
 
 // Its boxes count only when the unit stands.
-static void costItem(Connection& store, const QString& itemCode, Boxes& boxes) {
+static void costItem(Connection& store, const QueuedItem& item, Progress& progress, Boxes& boxes) {
     Boxes told;
     Transaction unit(store);
-    ComputeItemCosts(store, itemCode, told);
-    StoreCostPrice(store, itemCode, told);
-    store.run({"DELETE FROM tblForPostingItem WHERE ItemID = ?", {itemCode}});
+    ComputeItemCosts(
+        store, item.itemCode, [&](const char* text) { progress.setText(text + item.description); }, told);
+    StoreCostPrice(store, item.itemCode, told);
+    store.run({"DELETE FROM tblForPostingItem WHERE ItemID = ?", {item.itemCode}});
     unit.commit();
     boxes += told;
 }
@@ -176,10 +177,15 @@ bool PostStockValuation(Connection& store, const QList<QueuedDocument>& document
 }
 
 bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,
-                              Boxes& boxes) {
+                              Boxes& boxes, Progress& progress) {
+    if (items.isEmpty()) return false;
+    const ProgressScope scope(progress, balanceText + items.first().description, items.size());
     return Walk(store, items, view, boxes)
         .run(
             "Initializing Stock Valuation",
-            [&](const QueuedItem& item) { costItem(store, item.itemCode, boxes); },
-            [&](qsizetype index) { view.itemCosted(index); });
+            [&](const QueuedItem& item) { costItem(store, item, progress, boxes); },
+            [&](qsizetype index) {
+                view.itemCosted(index);
+                progress.setValue(index + 1);
+            });
 }

@@ -38,4 +38,4 @@ class EndOfDayView {
 bool PostStockValuation(Connection& store, const QList<QueuedDocument>& documents, EndOfDayView& view,
                         Boxes& boxes);
 bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,
-                              Boxes& boxes);
+                              Boxes& boxes, Progress& progress = Progress::none());

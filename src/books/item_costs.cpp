@@ -39,20 +39,21 @@ static QString descriptionOf(Connection& store, const QString& itemCode) {
 }
 
 void ComputeStockBalances(Connection& store, const QString& itemCode, Progress& progress) {
-    const ProgressScope scope(
-        progress, "System is Computing Inventory Balance for " + descriptionOf(store, itemCode), 1);
+    const ProgressScope scope(progress, balanceText + descriptionOf(store, itemCode), 1);
     recompute(store, itemCode, [](ItemCosting& item) { item.computeBalances(); });
 }
 
 void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& progress) {
-    const ProgressScope scope(progress,
-                              "System is Computing Sales Cost for " + descriptionOf(store, itemCode), 1);
+    const ProgressScope scope(progress, salesCostText + descriptionOf(store, itemCode), 1);
     recompute(store, itemCode, [](ItemCosting& item) { item.computeSalesCost(); });
 }
 
-void ComputeItemCosts(Connection& store, const QString& itemCode, Boxes& boxes) {
-    recompute(store, itemCode, [&boxes](ItemCosting& item) {
+void ComputeItemCosts(Connection& store, const QString& itemCode,
+                      const std::function<void(const char* text)>& tell, Boxes& boxes) {
+    recompute(store, itemCode, [&](ItemCosting& item) {
+        tell(balanceText);
         item.computeBalances();
+        tell(salesCostText);
         try {
             item.computeSalesCost();
         } catch (const OverflowError& error) {

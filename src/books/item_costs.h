@@ -2,7 +2,14 @@
 #include "platform/box.h"
 #include "platform/store/connection.h"
 
-// Running balances and sales cost of one item in one scan, as the end of day wants them: a sales cost beyond
-// the range adds its box, and the sales from there on keep theirs. Throws StoreError, and OverflowError for a
-// balance beyond the range.
-void ComputeItemCosts(Connection& store, const QString& itemCode, Boxes& boxes);
+#include <functional>
+
+// What the progress box says of an item, followed by its description.
+inline constexpr const char* balanceText = "System is Computing Inventory Balance for ";
+inline constexpr const char* salesCostText = "System is Computing Sales Cost for ";
+
+// Running balances and sales cost of one item in one scan, as the end of day wants them; tell is called with
+// the text of each. A sales cost beyond the range adds its box, and the sales from there on keep theirs.
+// Throws StoreError, and OverflowError for a balance beyond the range.
+void ComputeItemCosts(Connection& store, const QString& itemCode,
+                      const std::function<void(const char* text)>& tell, Boxes& boxes);

@@ -1,10 +1,9 @@
 // The costing of every item, in one ordered scan of the ledger.
+#include "books/item_costs.h"
 #include "books/ledger.h"
 #include "books/long_pass.h"
 #include "books/stock_valuation.h"
 #include "foundation/shared_routines.h"
-
-static constexpr const char* waitText = "System is Computing Inventory Balance for ";
 
 namespace {
 // The items of the master, in their order; rows of an item that has gone keep what they have.
@@ -75,14 +74,14 @@ bool Revaluation::passNext() {
 
 void Revaluation::tell(Progress& progress) const {
     if (items_.last())
-        progress.setText(waitText + LookupField(store_, "ItemCode", "tblItemMaster", "Description",
-                                                *items_.last(), LookupMode::DisplayText));
+        progress.setText(balanceText + LookupField(store_, "ItemCode", "tblItemMaster", "Description",
+                                                   *items_.last(), LookupMode::DisplayText));
     progress.setValue(items_.done());
 }
 
 void RecomputeStockValuation(Connection& store, Progress& progress) {
     passOverRead([&] {
-        const ProgressScope scope(progress, waitText, CountRecords(store, "tblItemMaster"));
+        const ProgressScope scope(progress, balanceText, CountRecords(store, "tblItemMaster"));
         Revaluation pass(store);
         runInUnits(store, pass, progress);
     });

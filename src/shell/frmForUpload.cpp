@@ -125,7 +125,7 @@ void frmForUpload::postAndCost() {
         showBox(postingProblem());
         reload();
     }
-    const bool costed = InitializeStockValuation(StoreConnection(), items_, *this, boxes);
+    const bool costed = costItems(boxes);
     showBoxes(boxes);
     if (!costed) {
         showBox(initializingProblem());
@@ -133,6 +133,12 @@ void frmForUpload::postAndCost() {
     }
     showBox(information("Zevrin!", "End of Day Transactions Successfully Uploaded!"));
     finished_ = true;
+}
+
+// The progress box has gone before any other box comes.
+bool frmForUpload::costItems(Boxes& boxes) {
+    frmStatus progress;
+    return InitializeStockValuation(StoreConnection(), items_, *this, boxes, progress);
 }
 
 void frmForUpload::setRunning(bool running) {

@@ -27,6 +27,7 @@ class frmForUpload : public ChildScreen, private EndOfDayView {
   private:
     void upload();
     void postAndCost();
+    bool costItems(Boxes& boxes);
     void reload();
     void loadLists();
     void showLists();

@@ -14,6 +14,14 @@ struct RecordedView : EndOfDayView {
     QList<qint64> starts;
     QList<qsizetype> posted, costed;
 };
+struct RecordedProgress : Progress {
+    void begin(const QString& text, qint64 maximum) override {
+        texts += QString("%1 to %2").arg(text).arg(maximum);
+    }
+    void setText(const QString& text) override { texts += text; }
+    void end() override { texts += "end"; }
+    QStringList texts;
+};
 }  // namespace
 
 class EndOfDayTest : public BooksTest {
@@ -30,7 +38,8 @@ class EndOfDayTest : public BooksTest {
     bool cost(const QList<QueuedItem>& items) {
         boxes.clear();
         view = {};
-        return InitializeStockValuation(store, items, view, boxes);
+        progress = {};
+        return InitializeStockValuation(store, items, view, boxes, progress);
     }
     QString ledger() {
         return column(
@@ -42,6 +51,7 @@ class EndOfDayTest : public BooksTest {
     QString queue() { return column("SELECT Reference AS v FROM tblForPosting ORDER BY 1"); }
 
     RecordedView view;
+    RecordedProgress progress;
     Boxes boxes;
 };
 
@@ -78,6 +88,11 @@ TEST_F(EndOfDayTest, DocumentsBecomeRowsAndLeaveTheQueue) {
     EXPECT_EQ(currency("SELECT SalesCost AS v FROM tblStockValuation WHERE BookID = 'S'"), amount(360));
     EXPECT_EQ(view.statuses[1], "Initializing Stock Valuation 1 of 2");
     EXPECT_EQ(view.costed, QList<qsizetype>({0, 1}));
+    EXPECT_EQ(progress.texts, QStringList({"System is Computing Inventory Balance for Item A to 2",
+                                           "System is Computing Inventory Balance for Item A",
+                                           "System is Computing Sales Cost for Item A",
+                                           "System is Computing Inventory Balance for Item B",
+                                           "System is Computing Sales Cost for Item B", "end"}));
     EXPECT_FALSE(HasPendingPosting(store));
 }
 
@@ -93,6 +108,7 @@ TEST_F(EndOfDayTest, PostingTwiceGivesTheSameRows) {
 TEST_F(EndOfDayTest, EmptyListsAreAProblem) {
     EXPECT_FALSE(post({}));
     EXPECT_FALSE(cost({}));
+    EXPECT_EQ(progress.texts, QStringList());
     EXPECT_EQ(boxes, Boxes());
     EXPECT_EQ(view.statuses, QStringList());
 }

@@ -52,7 +52,8 @@ void frmStatus::comeUp() {
 void frmStatus::setText(const QString& text) {
     if (works_.isEmpty()) return;
     works_.last().text = text;
-    showWork();
+    lblStatus->setText(text);
+    if (sincePaint_.hasExpired(paintEveryMs)) showWork();
 }
 
 void frmStatus::setValue(qint64 value) {
