@@ -26,6 +26,13 @@ void freeKeys(const QMdiSubWindow* window) {
         for (QAction* action : menu->actions()) action->setShortcuts(QList<QKeySequence>());
 }
 
+// The area gives the focus to the first field, which refuses it while it is locked; the next that takes it
+// shall have it.
+void ensureFocusIn(ChildScreen* screen) {
+    const QWidget* focused = screen->window()->focusWidget();
+    if (!focused || !screen->isAncestorOf(focused)) focusNextField(screen);
+}
+
 }  // namespace
 
 ChildArea::ChildArea(QWidget* frame) : QMdiArea(frame) {
@@ -47,6 +54,7 @@ void ChildArea::host(ChildScreen* screen) {
     place(window, placeFor(screen, window->sizeHint()));
     window->show();
     setActiveSubWindow(window);
+    ensureFocusIn(screen);
     emit childrenChanged();
 }
 
@@ -63,6 +71,7 @@ void ChildArea::bringForward(ChildScreen* screen) {
     if (!window) return;
     if (window->isMinimized()) window->showNormal();
     setActiveSubWindow(window);
+    ensureFocusIn(screen);
 }
 
 ChildScreen* ChildArea::activeChild() const { return screenIn(currentSubWindow()); }
