@@ -144,7 +144,9 @@ QList<DemoDocument> DemoTrade::documents() {
     int purchases = opening, sales = 0;
     for (qint64 number = 0; number <= days; ++number) {
         day_ = firstDay_.addDays(number);
-        if (day_.dayOfWeek() == Qt::Sunday && day_ != lastDay_) continue;
+        // The day of rest is counted back from the last day, so that the trade is the same whatever weekday
+        // that is.
+        if ((days - number) % 7 == 3) continue;
         while (purchases - opening < (purchaseCount - opening) * number / days)
             purchaseShortItems(), ++purchases;
         while (sales < saleCount * number / days) sell(), ++sales;
