@@ -15,6 +15,12 @@ bool ScreenRegistry::knows(const QString& name) const {
     return factories_.contains(name) || windows_.contains(name);
 }
 
+QStringList ScreenRegistry::names() const {
+    QStringList names = factories_.keys();
+    names.sort();
+    return names;
+}
+
 ChildScreen* ScreenRegistry::opened(const QString& name) const {
     const auto found = std::ranges::find(open_, name, &QObject::objectName);
     return found == open_.end() ? nullptr : *found;

@@ -24,6 +24,7 @@ class ScreenRegistry {
     // Something that is no child screen (the main window, a modal screen): how to show it.
     void addWindow(const QString& name, Window window);
     bool knows(const QString& name) const;
+    QStringList names() const;  // of the screens, windows left out, in the order of the alphabet
 
     // Shows the screen: a new one, or the open one brought forward. Null for a name that is not known, for a
     // window, and when the open one refused (see ChildScreen::receive).
