@@ -2,6 +2,8 @@
 //     play_day SCRIPT FOLDER
 // The store and the pictures of the screens go into FOLDER. Ends with 1 when something that the script tells
 // did not happen.
+//     play_day --pictures FOLDER
+// writes one picture of each screen instead, at 1024 x 768 and at 200 %.
 #include "demo/day_player.h"
 #include "demo/firm_figures.h"
 #include "demo/played_firm.h"
@@ -11,10 +13,13 @@
 #include "platform/masks.h"
 #include "program.h"
 #include "support/offscreen_desk.h"
+#include "support/program_driver.h"
+#include "support/screen_tour.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 #include <cstdio>
@@ -62,6 +67,41 @@ static int played(const QString& script, const QDir& folder) {
     return 0;
 }
 
+static void takePictures(const QDir& folder) {
+    freshDemoFirm(folder);
+    if (!Main()) throw DayFault("the program does not start");
+    tourScreens("ADMIN", "admin", [&](const QString& name, QWidget*) {
+        const QString file = folder.filePath(name + ".png");
+        if (!person::picture().save(file)) throw DayFault("cannot write " + file);
+        say(file);
+    });
+}
+
+static int picturesTaken(const QDir& folder) {
+    try {
+        takePictures(folder);
+        return 0;
+    } catch (const std::exception& error) {
+        say(QString("The pictures failed: %1").arg(QString::fromUtf8(error.what())));
+        return 1;
+    }
+}
+
+// Each scale in a process of its own: it is fixed when an application starts.
+static int picturesAtBothScales(const QDir& folder) {
+    for (const auto& [scale, part] : {std::pair("1", "1024x768"), std::pair("2", "200%")}) {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_SCALE_FACTOR", scale);
+        environment.insert("QT_QPA_PLATFORM", "offscreen");
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::ForwardedChannels);
+        process.start(QApplication::applicationFilePath(), {"--pictures-as-scaled", folder.filePath(part)});
+        if (!process.waitForFinished(-1) || process.exitCode() != 0) return 1;
+    }
+    return 0;
+}
+
 int main(int argc, char** argv) {
     useOffscreenDesk();
     QApplication application(argc, argv);
@@ -70,8 +110,10 @@ int main(int argc, char** argv) {
     GTEST_FLAG_SET(throw_on_failure, true);
     const QStringList arguments = QApplication::arguments().mid(1);
     if (arguments.size() != 2) {
-        say("usage: play_day SCRIPT FOLDER");
+        say("usage: play_day SCRIPT FOLDER, or play_day --pictures FOLDER");
         return 2;
     }
+    if (arguments[0] == "--pictures") return picturesAtBothScales(QDir(arguments[1]));
+    if (arguments[0] == "--pictures-as-scaled") return picturesTaken(QDir(arguments[1]));
     return played(arguments[0], QDir(arguments[1]));
 }

@@ -14,8 +14,8 @@ static void fillFirm(const QString& path) {
     Connection store;
     store.open(path, storePassword);
     store.run({"UPDATE tblSystemProfile SET CompanyName = ?", {"Talisay Trading"}});
-    addContact(store, {.id = "1", .name = "Rizal Mill", .customer = false});
-    addContact(store, {.id = "2", .name = "Cora Store", .supplier = false});
+    addContact(store, {.id = "1000000001", .name = "Rizal Mill", .customer = false});
+    addContact(store, {.id = "1000000002", .name = "Cora Store", .supplier = false});
     addItem(store, {.code = "1001",
                     .description = "RICE",
                     .selling = Currency::fromInteger(10),

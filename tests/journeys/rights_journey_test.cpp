@@ -74,7 +74,7 @@ TEST_F(ClerkJourney, ReachesNothingElseByToolOrKey) {
 TEST_F(ClerkJourney, DeletesNothing) {
     addSale(store(), {.number = "03-1001-2026",
                       .date = onDay(1),
-                      .contactId = "2",
+                      .contactId = "1000000002",
                       .lines = {{.item = "1001", .quantity = {}, .price = amount(10)}}});
     QWidget* journal = sale("03-1001-2026");
     EXPECT_FALSE(person::control(journal, "cmdDelete")->isEnabled());

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QPainter>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <stdexcept>
@@ -72,6 +73,7 @@ void choose(const QString& action) {
 
 void throughModal(const QString& name, const std::function<void(QWidget* modal)>& inModal,
                   const std::function<void()>& action) {
+    const QPointer<QWidget> before = QApplication::activeWindow();
     bool done = false;
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, &watch, [&] {
@@ -83,6 +85,9 @@ void throughModal(const QString& name, const std::function<void(QWidget* modal)>
     watch.start(10);
     action();
     waitFor([&] { return done; }, "the window " + name);
+    // As a desk does when a modal window goes.
+    if (before && before->isVisible() && !QApplication::activeWindow()) before->activateWindow();
+    settle();
 }
 
 void walkTo(const QString& field, Qt::Key key) {
