@@ -161,9 +161,37 @@ QString createIndex(const Table& index) {
     return QString("CREATE INDEX %1_%2 ON %1 (%3)").arg(index.name, name, index.columns);
 }
 
+QStringList flagColumns(const Table& table) {
+    QStringList flags;
+    for (const QString& column : QString(table.columns).split(", "))
+        if (column.endsWith(" flag")) flags += column.section(u' ', 0, 0);
+    return flags;
+}
+
+// A true that is written as another number than -1 becomes -1: statements compare with that.
+QString keepFlagsTrue(const Table& table, const QString& event) {
+    QStringList others;
+    QStringList changes;
+    for (const QString& flag : flagColumns(table)) {
+        others += QString("NEW.%1 NOT IN (0, -1)").arg(flag);
+        changes += QString("%1 = -(NEW.%1 <> 0)").arg(flag);
+    }
+    return QString(
+               "CREATE TRIGGER %1_%2 AFTER %3 ON %1 WHEN %4 BEGIN UPDATE %1 SET %5 WHERE rowid = NEW.rowid; "
+               "END")
+        .arg(table.name, event.section(u' ', 0, 0), event, others.join(" OR "), changes.join(", "));
+}
+
+QStringList flagTriggers(const Table& table) {
+    const QStringList flags = flagColumns(table);
+    if (flags.isEmpty()) return {};
+    return {keepFlagsTrue(table, "INSERT"), keepFlagsTrue(table, "UPDATE OF " + flags.join(", "))};
+}
+
 QStringList firstStatements() {
     QStringList statements;
     for (const Table& table : tables) statements += createTable(table);
+    for (const Table& table : tables) statements += flagTriggers(table);
     for (const Table& index : indexes) statements += createIndex(index);
     return statements;
 }

@@ -71,6 +71,24 @@ TEST_F(DeliveredStore, ColumnsTellMoneyFromNumbersAndText) {
         EXPECT_EQ(store().columnTypes(row.table).value(row.column), row.type) << row.table << row.column;
 }
 
+TEST_F(DeliveredStore, ATrueIsMinusOneHoweverItIsWritten) {
+    const Sql writes[] = {
+        {"INSERT INTO tblChecks (ZevRef, Negotiated, Printed) VALUES (1, 1, 0)"},
+        {"INSERT INTO tblChecks (ZevRef, Negotiated, Printed) VALUES (1, ?, ?)", {7, false}},
+        {"INSERT INTO tblChecks (ZevRef, Negotiated) VALUES (1, True)"},
+    };
+    const char* const negotiated =
+        "SELECT COUNT(*) FROM tblChecks WHERE Negotiated = True AND Printed = False";
+    for (const Sql& write : writes) {
+        SCOPED_TRACE(qPrintable(write.text));
+        EXPECT_EQ(store().run(write), 1);
+        EXPECT_EQ(valueOf(store(), negotiated), "1");
+        EXPECT_EQ(store().run({"UPDATE tblChecks SET Printed = ?, CheckNo = '7'", {1}}), 1);
+        EXPECT_EQ(valueOf(store(), "SELECT Printed FROM tblChecks WHERE CheckNo = '7'"), "-1");
+        store().run("DELETE FROM tblChecks");
+    }
+}
+
 TEST_F(DeliveredStore, WhatIsNotWrittenReadsAsTheBooksNeedIt) {
     store().run("INSERT INTO tblStockValuation (ZevRef) VALUES (1)");
     store().run("INSERT INTO tblReceiptDetails (ZevRef) VALUES (1)");
