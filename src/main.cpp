@@ -1,10 +1,9 @@
 #include "foundation/start.h"
+#include "platform/ui/guarded_application.h"
 #include "program.h"
 
-#include <QApplication>
-
 int main(int argc, char** argv) {
-    QApplication application(argc, argv);
+    const GuardedApplication application(argc, argv);
     setUpProgram();
-    return Main() ? QApplication::exec() : 1;
+    return Main() ? GuardedApplication::exec() : 1;
 }

@@ -1,3 +1,4 @@
+#include "platform/store/store_error.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/child_screen.h"
 #include "platform/ui/file_dialogs.h"
@@ -17,8 +18,11 @@
 #include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -94,6 +98,60 @@ class UiScreens : public testing::Test {
     static QStringList takeHappened() { return std::exchange(happened, {}); }
     Frame frame;
 };
+
+// A menu is no other control: Alt and a look at the menus do not end the typing in a field.
+TEST_F(UiScreens, TheMenuBarTakesNoFieldAway) {
+    auto* screen = dynamic_cast<Sample*>(open("frmOne"));
+    person::goTo(screen, "txtName");
+    const QSignalSpy left(screen->field, &TextBox::focusLost);
+    frame.menuBar()->addMenu("&File")->addAction("E&xit");
+    frame.menuBar()->setFocus(Qt::MenuBarFocusReason);
+    person::settle();
+    EXPECT_EQ(left.count(), 0);
+    screen->field->setFocus();
+    person::settle();
+    EXPECT_EQ(left.count(), 0);
+    person::goTo(screen, "txtRemarks");
+    EXPECT_EQ(left.count(), 1);
+}
+
+// What no handler has caught: one box when the event is over, however often it happened, and life goes on.
+TEST(TheNet, ShowsWhatAHandlerLetThrough) {
+    QWidget window;
+    auto* button = new QPushButton("Save", &window);
+    int runs = 0;
+    QObject::connect(button, &QPushButton::clicked, button, [&] {
+        ++runs;
+        throw StoreError(StoreError::general, "The disk is full.");
+    });
+    window.show();
+    for (const int round : {1, 2}) {
+        BoxScript boxes;
+        boxes.expect("Error...", "The disk is full.");
+        QTest::mouseClick(button, Qt::LeftButton);
+        QTest::keyClick(button, Qt::Key_Space);
+        person::settle();
+        EXPECT_TRUE(boxes.allShown());
+        EXPECT_EQ(runs, round * 2);
+    }
+}
+
+// The focus has moved on, and the next field knows it.
+TEST_F(UiScreens, AFaultInAFieldsHandlerIsShownAndTheNextFieldIsLeftAsEver) {
+    auto* screen = dynamic_cast<Sample*>(open("frmOne"));
+    person::goTo(screen, "txtName");
+    QObject::connect(screen->field, &TextBox::focusLost, screen,
+                     [] { throw StoreError(StoreError::general, "The store is not open."); });
+    auto* next = person::find<TextBox>(screen, "txtRemarks");
+    const QSignalSpy left(next, &TextBox::focusLost);
+    {
+        BoxScript boxes;
+        boxes.expect("Error...", "The store is not open.");
+        person::goTo(screen, "txtRemarks");
+    }
+    person::goTo(screen, "cmdSave");
+    EXPECT_EQ(left.count(), 1);
+}
 
 }  // namespace
 

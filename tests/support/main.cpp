@@ -1,7 +1,7 @@
+#include "platform/ui/guarded_application.h"
 #include "support/box_script.h"
 #include "support/offscreen_desk.h"
 
-#include <QApplication>
 #include <QLocale>
 #include <QStorageInfo>
 
@@ -22,7 +22,7 @@ static void keepStoresInMemory() {
 int main(int argc, char** argv) {
     useOffscreenDesk();
     keepStoresInMemory();
-    QApplication application(argc, argv);
+    const GuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());
     failOnUnexpectedBoxes();

@@ -1,9 +1,11 @@
 #include "platform/ui/front_watch.h"
 
+#include "platform/ui/boxes.h"
 #include "platform/ui/child_screen.h"
 
 #include <QApplication>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 #include <QTimer>
 
 FrontWatch& FrontWatch::instance() {
@@ -34,7 +36,7 @@ static ChildScreen* screenOf(QWidget* widget) {
 // Another program, a box, a modal dialog, a menu or the list of a combo box has the focus.
 bool FrontWatch::outsideTheWork(QWidget* now) const {
     if (holds_ > 0 || !now) return true;
-    const bool passing = now->window()->windowType() == Qt::Popup;
+    const bool passing = now->window()->windowType() == Qt::Popup || qobject_cast<QMenuBar*>(now);
     return passing || (now->window()->isModal() && !screenOf(now));
 }
 
@@ -47,10 +49,11 @@ void FrontWatch::moveField(QWidget* now) {
     const QPointer<QWidget> left = field_;
     // Nobody has it while the field that is left speaks: it may take the focus back.
     field_ = nullptr;
-    if (auto* field = dynamic_cast<FocusField*>(left.data()); field && stillThere(left)) field->fieldLost();
+    if (auto* field = dynamic_cast<FocusField*>(left.data()); field && stillThere(left))
+        guarded([field] { field->fieldLost(); });
     if (field_ || QApplication::focusWidget() != now) return;
     field_ = now;
-    if (auto* field = dynamic_cast<FocusField*>(now)) field->fieldGained();
+    if (auto* field = dynamic_cast<FocusField*>(now)) guarded([field] { field->fieldGained(); });
 }
 
 void FrontWatch::release() {
@@ -94,9 +97,9 @@ void FrontWatch::bringToFront(ChildScreen* screen) {
     if (screen) front_ = screen;
     active_ = now;
     for (const auto& left : before)
-        if (left && !now.contains(left)) left->deactivated();
+        if (left && !now.contains(left)) guarded([&] { left->deactivated(); });
     for (const auto& come : now)
-        if (come && !before.contains(come) && active_.contains(come)) come->activated();
+        if (come && !before.contains(come) && active_.contains(come)) guarded([&] { come->activated(); });
 }
 
 void FrontWatch::forget(ChildScreen* screen) {
