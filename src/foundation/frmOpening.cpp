@@ -192,7 +192,7 @@ void frmOpening::enter(const QString& fullName) {
     session().CurrentUserName = fullName;
     session().CurrentUserCode = txtUserName->text();
     close();
-    ScreenRegistry::instance().open("mdiMain");
+    if (!guarded([] { ScreenRegistry::instance().open("mdiMain"); })) showLogin();
 }
 
 void frmOpening::lblChangePassword_Click() {

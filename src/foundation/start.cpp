@@ -29,6 +29,10 @@ QSize screenSize() {
     return screen ? screen->size() : QSize();
 }
 
+bool openLogin() {
+    return guarded([] { ScreenRegistry::instance().open("frmOpening"); });
+}
+
 }  // namespace
 
 bool OpenDatabase() {
@@ -50,8 +54,11 @@ bool Main() {
         return false;
     }
     ReadPrinterIni();
-    ScreenRegistry::instance().open("frmOpening");
-    return true;
+    return openLogin();
+}
+
+void showLogin() {
+    if (!openLogin()) endProcess();
 }
 
 void endProcess() {

@@ -11,6 +11,9 @@ bool OpenDatabase();
 // cannot be opened (both boxes have been shown): the process has nothing to run for.
 bool Main();
 
+// Shows the login. When that fails, a box says why and the process ends.
+void showLogin();
+
 // Ends the process as soon as control is back in the event loop, whatever windows are open.
 void endProcess();
 

@@ -248,12 +248,12 @@ bool mdiMain::closeAll() {
 
 void mdiMain::closeEvent(QCloseEvent* event) {
     event->setAccepted(closeAll());
-    if (event->isAccepted()) remindOfEndOfDay();
+    if (event->isAccepted()) passOverErrors(&remindOfEndOfDay);
 }
 
 void mdiMain::logOff() {
     const BetweenWindows goingOn;
-    if (close()) ScreenRegistry::instance().open("frmOpening");
+    if (close()) showLogin();
 }
 
 void mdiMain::exitProgram() {

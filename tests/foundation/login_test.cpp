@@ -4,6 +4,7 @@
 #include "foundation/frmChangePassword.h"
 #include "foundation/frmDateChecker.h"
 #include "foundation/frmOpening.h"
+#include "foundation/register.h"
 #include "foundation/start.h"
 #include "platform/clock.h"
 #include "platform/ui/combo_box.h"
@@ -121,6 +122,20 @@ TEST_F(OpeningTest, AGoodLoginOpensTheMainWindowWithTheCodeAsTyped) {
     EXPECT_EQ(session().CurrentUserName, "anna Santos");
 }
 
+TEST_F(OpeningTest, AMainWindowThatCannotOpenBringsTheLoginBack) {
+    int logins = 0;
+    ScreenRegistry& registry = ScreenRegistry::instance();
+    registry.addWindow("mdiMain", [](const ScreenArguments&) {
+        throw StoreError(StoreError::busy, "Another workstation is using the store. Please try again.");
+    });
+    registry.addWindow("frmOpening", [&](const ScreenArguments&) { ++logins; });
+    BoxScript boxes;
+    boxes.expect("Error...", "Another workstation is using the store. Please try again.");
+    login("anna", "Secret1");
+    EXPECT_EQ(logins, 1);
+    registry.addWindow("frmOpening", [](const ScreenArguments&) {});
+}
+
 TEST_F(OpeningTest, TheThirdFailureEndsItAndAnEmptyNameNeitherCountsNorHelps) {
     BoxScript boxes;
     boxes.expect("Invalid!").expect("Invalid!").expect("Invalid!");
@@ -218,6 +233,22 @@ TEST(Start, AMissingStoreShowsBothBoxes) {
     EXPECT_FALSE(Main());
     EXPECT_FALSE(session().StoreOpen);
     setProgramFolder({});
+}
+
+// The store opens, and what the login shows first cannot be read.
+TEST_F(LoginTest, ADamagedTableEndsTheStartWithABox) {
+    registerFoundationScreens();
+    int ended = 0;
+    setEndProcessDoor([&] { ++ended; });
+    store().run("DROP TABLE tblSystemProfile");
+    BoxScript boxes;
+    boxes.expect("Error...");
+    EXPECT_FALSE(Main());
+    EXPECT_EQ(ended, 0);
+    boxes.expect("Error...");
+    showLogin();
+    EXPECT_EQ(ended, 1);
+    setEndProcessDoor({});
 }
 
 // The confirmation of the clock, on a machine that lets the program set it or not.

@@ -1,12 +1,18 @@
 #include "shell/frame_fixture.h"
 
 #include "books/posting_queue.h"
+#include "platform/ui/combo_box.h"
+#include "platform/ui/data_grid.h"
 #include "platform/ui/file_dialogs.h"
+#include "platform/ui/list_view.h"
+#include "platform/ui/text_box.h"
 #include "shell/child_area.h"
 #include "shell/frmShortcuts.h"
 #include "shell/menu_catalogue.h"
 #include "shell/screen_opening.h"
 
+#include <QCheckBox>
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -160,6 +166,50 @@ TEST_F(FrameTest, KeysWorkFromATextBox) {
     EXPECT_FALSE(opened("frmItem"));
 }
 
+// Whatever kind of control has the focus, and without a change to what it holds.
+TEST_F(FrameTest, KeysWorkFromEveryKindOfField) {
+    logIn();
+    TestScreen* screen = open("frmItem");
+    auto* box = new TextBox("txtBox");
+    auto* open = new ComboBox("cboOpen", ComboBox::Open);
+    auto* closed = new ComboBox("cboClosed", ComboBox::Closed);
+    auto* list = new ListView("lvwList", {{"Item", 10}}, screen);
+    auto* grid = new DataGrid("dbgGrid", "adcGrid", {{"Unit", "UnitCode"}}, screen);
+    for (ComboBox* combo : {open, closed}) combo->addItems({"Delta", "Salt", "Nail"});
+    box->setText("Delta");
+    list->setRows({{"Delta"}, {"Salt"}});
+    grid->setSource(store(), {"tblUnitMaster.*", "tblUnitMaster", "tblUnitMaster", {}, " ORDER BY UnitCode"});
+    const QList<QWidget*> fields{box, open, closed, list, grid, new QDateEdit, new QCheckBox};
+    for (QWidget* field : fields) {
+        SCOPED_TRACE(field->metaObject()->className());
+        screen->layout()->addWidget(field);
+        field->setFocus();
+        QTest::qWait(1);
+        screen->calls.clear();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete, Qt::ShiftModifier);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_N, Qt::ControlModifier);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F5);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(screen->calls, (QStringList{"DeleteRecord", "NewRecord", "RefreshRecord"}));
+    }
+    EXPECT_EQ(box->text(), "Delta");
+    EXPECT_EQ(closed->text(), "Delta");
+    EXPECT_EQ(list->rowCount(), 2);
+    for (QWidget* field : {static_cast<QWidget*>(closed), static_cast<QWidget*>(list)}) {
+        field->setFocus();
+        for (const char* edit : {"mnuEditItem_2", "mnuEditItem_3", "mnuEditItem_4", "mnuEditItem_7"})
+            choose(edit);
+    }
+    EXPECT_EQ(closed->text(), "Delta");
+    open->setFocus();
+    choose("mnuEditItem_7");
+    choose("mnuEditItem_2");
+    EXPECT_EQ(open->text(), "");
+    grid->setFocus();
+    QTest::keyClick(grid, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(opened("frmItem"));
+}
+
 TEST_F(FrameTest, WithoutTheRightToDeleteNeitherMenuToolNorKeyDeletes) {
     logIn();
     TestScreen* screen = open("frmSalesGrid");
@@ -267,6 +317,14 @@ TEST_F(FrameTest, ExitEndsTheProcessWithoutAReminderWhenNothingWaits) {
     logIn();
     frame->findChild<QToolButton*>("tbrMain_Exit")->click();
     EXPECT_EQ(ended, 1);
+}
+
+TEST_F(FrameTest, AQueueThatCannotBeReadKeepsNobodyIn) {
+    BoxScript noBoxes;
+    logIn();
+    store().run("DROP TABLE tblForPosting");
+    frame->close();
+    EXPECT_FALSE(frame && frame->isVisible());
 }
 
 TEST_F(FrameTest, ReportsThatRestOnCostingAskWhileRowsAreWaiting) {
