@@ -146,6 +146,7 @@ void OrderControls::orderTabs() const {
 static void enableReadably(QWidget* field, bool enabled) {
     QPalette colours = QGuiApplication::palette();
     colours.setColor(QPalette::Disabled, QPalette::Text, colours.color(QPalette::Active, QPalette::Text));
+    colours.setColor(QPalette::Disabled, QPalette::Base, colours.color(QPalette::Active, QPalette::Window));
     field->setPalette(colours);
     field->setEnabled(enabled);
 }

@@ -277,6 +277,27 @@ TEST(UiCombo, AClosedOneSelectsNothingForATextOutsideItsList) {
     EXPECT_EQ(screen.kind->currentIndex(), -1);
 }
 
+TEST(UiColours, AShownBoxHasTheColourOfItsScreenInEveryPalette) {
+    const QPalette before = QApplication::palette();
+    const std::unique_ptr<TextBox> early(readOnlyBox("txtTotal"));
+    QPalette dark = before;
+    dark.setColor(QPalette::Window, QColor(40, 40, 40));
+    dark.setColor(QPalette::Base, QColor(20, 20, 20));
+    dark.setColor(QPalette::Text, Qt::white);
+    for (const QPalette& colours : {before, dark}) {
+        QApplication::setPalette(colours);
+        // As the running application sends it.
+        QEvent change(QEvent::ApplicationPaletteChange);
+        QApplication::sendEvent(early.get(), &change);
+        EXPECT_EQ(early->palette().color(QPalette::Base), colours.color(QPalette::Window));
+        const std::unique_ptr<TextBox> shown(readOnlyBox("txtTotal"));
+        EXPECT_EQ(shown->palette().color(QPalette::Base), colours.color(QPalette::Window));
+        EXPECT_EQ(shown->palette().color(QPalette::Text), colours.color(QPalette::Text));
+        EXPECT_EQ(TextBox("txtCost").palette().color(QPalette::Base), colours.color(QPalette::Base));
+    }
+    QApplication::setPalette(before);
+}
+
 TEST(UiKeys, TheFramesShortcutsWorkFromEveryField) {
     QMainWindow frame;
     auto* screen = new Sample;

@@ -177,10 +177,31 @@ void TextBox::sayRefusedPaste() {
                                                  formatCount(text.size()) + "."));
 }
 
+// Has the colour of its screen, also after the desk changes its colours.
+class ShownBox : public TextBox {
+  public:
+    explicit ShownBox(const QString& name) : TextBox(name) {
+        setReadOnly(true);
+        setFocusPolicy(Qt::NoFocus);
+        takeScreenColour();
+    }
+
+  protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::ApplicationPaletteChange) takeScreenColour();
+        return TextBox::event(event);
+    }
+
+  private:
+    void takeScreenColour() {
+        QPalette colours;
+        colours.setColor(QPalette::Base, QGuiApplication::palette().color(QPalette::Window));
+        setPalette(colours);
+    }
+};
+
 TextBox* readOnlyBox(const QString& name, Qt::Alignment alignment) {
-    auto* box = new TextBox(name);
-    box->setReadOnly(true);
-    box->setFocusPolicy(Qt::NoFocus);
+    auto* box = new ShownBox(name);
     box->setAlignment(alignment | Qt::AlignVCenter);
     return box;
 }

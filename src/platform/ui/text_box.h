@@ -61,5 +61,6 @@ class TextBox : public QLineEdit, public FocusField {
     QString refusedText_;   // what the last paste would have made of the box
 };
 
-// A read-only figure or text on a screen: a TextBox that takes no focus and shows it.
+// A read-only figure or text on a screen: a TextBox that takes no focus, in the colour of the screen, so that
+// a person sees where typing is possible.
 TextBox* readOnlyBox(const QString& name, Qt::Alignment alignment = Qt::AlignLeft);
