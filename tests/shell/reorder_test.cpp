@@ -67,6 +67,12 @@ TEST_F(Reorder, AHeaderSortsOnItsColumnAndAmountsAsNumbers) {
     EXPECT_EQ(codes(), "ACB");
     emit list->header()->sectionClicked(4);
     EXPECT_EQ(codes(), "BAC");
+    EXPECT_TRUE(list->header()->isSortIndicatorShown());
+    screen->RefreshRecord();
+    EXPECT_EQ(codes(), "ABC");
+    EXPECT_FALSE(list->header()->isSortIndicatorShown()) << "the list stands in its own order again";
+    emit list->header()->sectionClicked(4);
+    EXPECT_EQ(codes(), "BAC");
 }
 
 TEST_F(Reorder, AskedForAgainItReadsTheStoreAgain) {

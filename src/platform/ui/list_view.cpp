@@ -40,9 +40,21 @@ QList<QStringList> ListView::rows() const { return model_->rows(); }
 QStringList ListView::row(int row) const { return model_->rows().value(row); }
 QString ListView::text(int row, int column) const { return this->row(row).value(column); }
 void ListView::setText(int row, int column, const QString& text) { model_->setText(row, column, text); }
-void ListView::setRows(const QList<QStringList>& rows) { model_->setRows(rows); }
+
+void ListView::setRows(const QList<QStringList>& rows) {
+    model_->setRows(rows);
+    forgetSort();
+}
+
+// New rows stand in their own order, so that no arrow points at a column.
+void ListView::forgetSort() {
+    sortedColumn_ = -1;
+    order_ = Qt::AscendingOrder;
+    header()->setSortIndicatorShown(false);
+}
+
 void ListView::removeRow(int row) { model_->removeRow(row); }
-void ListView::clear() { model_->setRows({}); }
+void ListView::clear() { setRows({}); }
 
 int ListView::addRow(const QStringList& texts) {
     model_->addRow(texts);

@@ -23,7 +23,7 @@ class ListView : public QTreeView {
     QString text(int row, int column) const;
     void setText(int row, int column, const QString& text);
     int addRow(const QStringList& texts);          // returns its number
-    void setRows(const QList<QStringList>& rows);  // all at once; for long lists
+    void setRows(const QList<QStringList>& rows);  // all at once, in their order; forgets a sort
     QList<QStringList> rows() const;
     void removeRow(int row);
     void clear();
@@ -53,6 +53,7 @@ class ListView : public QTreeView {
 
   private:
     void connectSignals();
+    void forgetSort();
 
     TextListModel* model_;
     int sortedColumn_ = -1;
