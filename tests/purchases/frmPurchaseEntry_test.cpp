@@ -107,6 +107,19 @@ TEST_F(PurchaseEntry, IsDirtiedByItsOwnActs) {
     EXPECT_TRUE(screen->mblnUpdated);
 }
 
+TEST_F(PurchaseEntry, ItsTwoButtonsWithOneMnemonicTakeTurnsAndPressNothing) {
+    open(saved(purchaseOrders, {line("I1", "5", "0", "10")}));
+    list()->setCurrentRow(0);
+    person::goTo(screen, "txtRemarks");
+    for (const char* name : {"cmdRemove", "cmdReceive", "cmdRemove", "cmdReceive"}) {
+        press(Qt::Key_R, Qt::AltModifier);
+        EXPECT_EQ(person::focusName(), name);
+    }
+    press(Qt::Key_Return);
+    EXPECT_TRUE(opened("frmInputInList"));
+    press(Qt::Key_Escape);
+}
+
 TEST_F(PurchaseEntry, NeedsASupplierForALine) {
     open();
     boxes.expect({"Error!", "Please Select Supplier First!"})

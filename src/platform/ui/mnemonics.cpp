@@ -23,13 +23,14 @@ static ChildScreen* screenAround(QObject* target) {
     return nullptr;
 }
 
-static QAbstractButton* buttonFor(const ChildScreen* screen, const QKeyEvent* event) {
+static QList<QAbstractButton*> buttonsFor(const ChildScreen* screen, const QKeyEvent* event) {
     const QKeySequence pressed(event->keyCombination());
+    QList<QAbstractButton*> buttons;
     for (auto* button : screen->findChildren<QAbstractButton*>())
         if (button->isVisible() && button->isEnabled() && button->window() == screen->window() &&
             QKeySequence::mnemonic(button->text()) == pressed)
-            return button;
-    return nullptr;
+            buttons += button;
+    return buttons;
 }
 
 static void pressButton(QAbstractButton* button) {
@@ -39,14 +40,25 @@ static void pressButton(QAbstractButton* button) {
     if (!kept || button->focusPolicy() == Qt::NoFocus) button->click();
 }
 
+// Buttons that share a mnemonic take the focus in turn; a person presses the one that is meant.
+static void goToNext(const QList<QAbstractButton*>& twins) {
+    const auto focused = std::ranges::find(twins, QApplication::focusWidget());
+    const bool last = focused == twins.end() || focused + 1 == twins.end();
+    (last ? twins.first() : *(focused + 1))->setFocus(Qt::ShortcutFocusReason);
+}
+
 bool Mnemonics::eventFilter(QObject* target, QEvent* event) {
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->modifiers() != Qt::AltModifier) return false;
     ChildScreen* screen = screenAround(target);
-    QAbstractButton* button = screen ? buttonFor(screen, key) : nullptr;
-    if (!button) return false;
+    const auto buttons = screen ? buttonsFor(screen, key) : QList<QAbstractButton*>();
+    if (buttons.isEmpty()) return false;
     event->accept();
-    if (event->type() == QEvent::KeyPress) pressButton(button);
+    if (event->type() != QEvent::KeyPress) return true;
+    if (buttons.size() == 1)
+        pressButton(buttons.first());
+    else
+        goToNext(buttons);
     return true;
 }
