@@ -1,6 +1,7 @@
 #include "documents/number_entry.h"
 
 #include "foundation/session.h"
+#include "masters/field_widths.h"
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
@@ -9,6 +10,11 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+
+// Together they hold what the number holds.
+static constexpr int monthWidth = 2;
+static constexpr int yearWidth = 4;
+static constexpr int dashes = 2;
 
 NumberEntry::NumberEntry(const numbering::SerialCounter& counter, const QString& incrementText)
     : counter_(counter) {
@@ -22,6 +28,9 @@ NumberEntry::NumberEntry(const numbering::SerialCounter& counter, const QString&
     txtMonthCode->setKeyFilter(keys::wholeNumber());
     txtSerialCode->setKeyFilter(keys::wholeNumber());
     txtYearCode->setKeyFilter(keys::freeText());
+    txtMonthCode->setCapacity(monthWidth);
+    txtSerialCode->setCapacity(width::documentNo - monthWidth - yearWidth - dashes);
+    txtYearCode->setCapacity(yearWidth);
     connectBoxes();
     layOut();
 }

@@ -132,6 +132,10 @@ TEST_F(SalesEntry, ComposesItsNumberFromThreeBoxes) {
     press(Qt::Key_Return);
     EXPECT_EQ(person::focusName(), "txtRefDate");
     EXPECT_EQ(read(screen, "txtCode"), "03-123-25");
+    boxes.expect("Not pasted!");
+    person::goTo(screen, "txtSerialCode");
+    person::paste(QString(23, '9'));
+    EXPECT_EQ(read(screen, "txtCode"), "03-123-25") << "longer than a number may be";
     StoreSalesSerial(store, "1040");
     person::click(screen, "cmdIncrement");
     EXPECT_EQ(read(screen, "txtCode"), "03-1041-25");
