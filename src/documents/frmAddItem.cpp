@@ -192,6 +192,7 @@ void frmAddItem::NewOrder() {
 }
 
 void frmAddItem::changeOrder(const OrderLine& line) {
+    changed_ = line;
     showEntry(entryOf(line));
     txtCost->setFocus();
 }
@@ -256,7 +257,9 @@ void frmAddItem::leaveUnit() {
     if (!closing_ && !telling_) completeUnit(txtUnit);
 }
 
+// A wrong code opens the search even when the code is left for the button of the other search.
 void frmAddItem::findItem(const QString& typed, const QString& kind) {
+    if (picker_ && !picker_->hasUnloaded()) return;
     WatchFocus = false;
     const QPointer<frmAddItem> dialog(this);
     picker_ = openItemFound(StoreConnection(), typed, kind, [dialog](const GridPicker::Row& row) {
@@ -277,11 +280,10 @@ void frmAddItem::takeItem(const QString& code, const QString& description) {
 }
 
 void frmAddItem::pressSave() {
-    if (save() && !closing_) NewOrder();
+    if (save() == SaveResult::Added && !closing_) NewOrder();
 }
 
-// True when the line went into the list.
-bool frmAddItem::save() {
+frmAddItem::SaveResult frmAddItem::save() {
     LineEntry typed = entry();
     bool closes = false;
     Outcome outcome;
@@ -295,18 +297,18 @@ bool frmAddItem::save() {
         });
     });
     showEntry(typed);
-    if (!ran) return false;
+    if (!ran) return SaveResult::Failed;
     if (const auto* fault = std::get_if<Fault>(&outcome)) {
         tell(*fault);
         if (closes) {
             SkipResave = true;
             closeDialog();
         }
-        return false;
+        return SaveResult::Refused;
     }
     owner_.addLine(lineOf(typed));
     SkipResave = true;
-    return true;
+    return SaveResult::Added;
 }
 
 void frmAddItem::cancel() {
@@ -330,7 +332,8 @@ bool frmAddItem::queryUnload() {
                          "You cannot Press X mark, please click on Cancel Button to exit without saving!"));
         return false;
     }
-    if (!SkipResave) save();
+    // A refused line is lost; where the checks themselves fail it goes back as it came.
+    if (!SkipResave && save() == SaveResult::Failed) owner_.addLine(changed_);
     return true;
 }
 
@@ -345,7 +348,12 @@ void frmAddItem::activated() {
 
 void frmAddItem::deactivated() {
     if (!WatchFocus || closing_) return;
+    const QPointer<frmAddItem> stillOpen(this);
     showBox(exclamation("Lost Focus!", "Please Click on Close Button to Exit!"));
+    if (stillOpen) comeForward();
+}
+
+void frmAddItem::comeForward() {
     raise();
     activateWindow();
 }

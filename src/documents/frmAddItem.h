@@ -22,6 +22,7 @@ class frmAddItem : public ChildScreen {
     bool CheckCode();
     // Goes without writing a line back: its order is no longer there.
     void abandon();
+    void comeForward();
 
     bool mblnAddmode = true;
     bool WatchFocus = true;   // a loss of the front is refused
@@ -58,11 +59,13 @@ class frmAddItem : public ChildScreen {
     void takeItem(const QString& code, const QString& description);
 
     void pressSave();
-    bool save();
+    enum class SaveResult { Added, Refused, Failed };  // failed: the store or the figures
+    SaveResult save();
     void cancel();
     void closeDialog();
 
     LineOwner& owner_;
+    OrderLine changed_;  // the line under change, as it left the list
     QPointer<GridPicker> picker_;
     bool telling_ = false;
     bool closing_ = false;  // by its own button, not by the control box

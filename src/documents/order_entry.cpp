@@ -117,6 +117,8 @@ void OrderEntry::openDocument(const QString& key) {
     mstrPrimary = key;
     held_ = key;
     ui.showNewDocument(false);
+    // Should they not load, the lines of the document before are not taken for this one's.
+    showLines({});
     guarded([this] {
         Connection& store = StoreConnection();
         frmStatus status;
@@ -257,6 +259,7 @@ void OrderEntry::allowWholesale() {
 frmAddItem& OrderEntry::openLineDialog() {
     mblnUpdated = true;
     lineDialog_ = new frmAddItem(*this);
+    connect(lineDialog_, &ChildScreen::unloaded, this, &OrderEntry::allowWholesale);
     return *lineDialog_;
 }
 
@@ -295,7 +298,8 @@ void OrderEntry::serveLine() {
     const int row = ui.lvwItems->currentRow();
     if (row < 0 || lineDialogHolds()) return;
     mblnUpdated = true;
-    ScreenRegistry::instance().show(new frmInputInList(*this, row));
+    quantityPopup_ = new frmInputInList(*this, row);
+    ScreenRegistry::instance().show(quantityPopup_);
 }
 
 void OrderEntry::showSorted(int column) {
@@ -307,8 +311,7 @@ void OrderEntry::showSorted(int column) {
 bool OrderEntry::lineDialogHolds() {
     if (!lineDialog_) return false;
     showBox(exclamation("Lost Focus!", "Please Click on Close Button to Exit!"));
-    lineDialog_->raise();
-    lineDialog_->activateWindow();
+    if (lineDialog_) lineDialog_->comeForward();
     return true;
 }
 
@@ -362,6 +365,7 @@ bool OrderEntry::queryUnload() { return !lineDialogHolds() && settleChanges(); }
 
 void OrderEntry::unloading() {
     if (lineDialog_) lineDialog_->abandon();
+    if (quantityPopup_) quantityPopup_->unload();
     releaseLock();
 }
 

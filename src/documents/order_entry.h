@@ -4,6 +4,7 @@
 #include "platform/ui/child_screen.h"
 
 class frmAddItem;
+class frmInputInList;
 
 // The entry screen of a sales or purchase order. A journal opens it for a new document, or for an existing
 // one whose RecordLock it has taken; the screen holds the lock and clears it when it leaves the document.
@@ -72,6 +73,7 @@ class OrderEntry : public RecordScreen, public LineOwner {
     const OrderScreen& screen_;
     OrderControls ui;
     QPointer<frmAddItem> lineDialog_;
+    QPointer<frmInputInList> quantityPopup_;
     QString held_;  // the document whose RecordLock is ours
     bool canPrint_ = false;
 };
