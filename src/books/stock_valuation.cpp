@@ -38,7 +38,7 @@ static Currency valueOfRow(Currency stockIn, Currency price, Currency& remaining
     return std::exchange(remaining, Currency()) * price;
 }
 
-Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode) {
+static Currency layersValue(Connection& store, const QDate& from, const QDate& to, const QString& itemCode) {
     BulkReader row(store, {"SELECT v.StockIn, v.InPrice, v.Balance FROM tblStockValuation v"
                            " WHERE (v.ItemCode = ?) AND (v.TransDate BETWEEN ? AND ?)"
                            " ORDER BY v.TransDate DESC, v.BookID DESC, v.ZevRef DESC",
@@ -51,20 +51,10 @@ Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, co
     return total;
 }
 
-Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode) {
-    return store
-        .execute({"SELECT SUM(SalesCost) AS Puhunan FROM tblStockValuation"
-                  " WHERE (ItemCode = ?) AND (TransDate BETWEEN ? AND ?)",
-                  {itemCode, from, to}})
-        .currency("Puhunan");
-}
-
-// The value of all that is on hand; a failure is told, and counts 0.
-static Currency wholeValue(Connection& store, const QString& itemCode, Boxes& boxes) {
+// A figure whose failure is told, and counts 0.
+static Currency toldFigure(Boxes& boxes, const std::function<Currency()>& figure) {
     try {
-        const QDate from = std::min(GetFirstSalesDate(store), GetFirstPurchaseDate(store));
-        const QDate to = std::max(GetLastSalesDate(store), GetLastPurchaseDate(store));
-        return ValuationCost(store, from, to, itemCode);
+        return figure();
     } catch (const StoreError& error) {
         if (error.number() == StoreError::busy) throw;
         boxes += exclamation("Error!", error.text());
@@ -72,6 +62,33 @@ static Currency wholeValue(Connection& store, const QString& itemCode, Boxes& bo
         boxes += exclamation("Error!", error.what());
     }
     return {};
+}
+
+Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
+                       Boxes& boxes) {
+    return toldFigure(boxes, [&] { return layersValue(store, from, to, itemCode); });
+}
+
+Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
+                         Boxes& boxes) {
+    return toldFigure(boxes, [&] {
+        const Recordset row =
+            store.execute({"SELECT SUM(SalesCost) AS Puhunan FROM tblStockValuation"
+                           " WHERE (ItemCode = ?) AND (TransDate BETWEEN ? AND ?)",
+                           {itemCode, from, to}});
+        if (row.isNull("Puhunan")) throw StoreError(StoreError::general, "Invalid use of Null");
+        return row.currency("Puhunan");
+    });
+}
+
+// The value of all that is on hand.
+static Currency wholeValue(Connection& store, const QString& itemCode, Boxes& boxes) {
+    QDate from, to;
+    passOverRead([&] {
+        from = std::min(GetFirstSalesDate(store), GetFirstPurchaseDate(store));
+        to = std::max(GetLastSalesDate(store), GetLastPurchaseDate(store));
+    });
+    return ValuationCost(store, from, to, itemCode, boxes);
 }
 
 static Currency averageCost(Currency value, Currency quantity) {

@@ -22,10 +22,12 @@ void ComputeStockBalances(Connection& store, const QString& itemCode, Progress& 
 void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& progress = Progress::none());
 
 // The value of the stock on hand: the newest layers of the period, as far as the Balance of its last row
-// goes. Throws StoreError, and OverflowError for a value beyond the range.
-Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode);
-// 0 for a period without rows.
-Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode);
+// goes. A failure adds its box, and counts 0; a busy store is thrown.
+Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
+                       Boxes& boxes);
+// The cost of the sales of the period. Failures as above; a period without rows sums to null, which is one.
+Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
+                         Boxes& boxes);
 // The value of all stock on hand over its quantity, into CostPrice; 0 with no stock. A missing item adds a
 // box, and so does a value beyond the range, which counts 0.
 void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes);

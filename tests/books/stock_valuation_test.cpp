@@ -107,6 +107,7 @@ class StockValuationTest : public BooksTest {
 };
 
 TEST_F(StockValuationTest, OneItemIsCostedFirstInFirstOut) {
+    Boxes boxes;
     for (const CostingCase& books : costingCases) {
         addRows(books);
         ComputeStockBalances(store, "a");
@@ -114,7 +115,7 @@ TEST_F(StockValuationTest, OneItemIsCostedFirstInFirstOut) {
         EXPECT_EQ(value("SELECT SUM(SalesCost) AS v FROM tblStockValuation"), "0") << books.name;
         ComputeSalesCost(store, "a");
         EXPECT_EQ(salesCosts(), books.salesCosts) << books.name;
-        EXPECT_EQ(ValuationCost(store, day(1), day(9), "A"), amount(books.value)) << books.name;
+        EXPECT_EQ(ValuationCost(store, day(1), day(9), "A", boxes), amount(books.value)) << books.name;
         EXPECT_EQ(balances(), books.balances) << books.name;
     }
 }
@@ -187,14 +188,28 @@ TEST_F(StockValuationTest, APeriodValuesOnlyItsLayers) {
     addRows(costingCases[11]);  // 10 at 5 on the 1st, 10 at 6 on the 2nd, 5 out on the 3rd
     ComputeStockBalances(store, "A");
     ComputeSalesCost(store, "A");
+    const Boxes none, nullSum{exclamation("Error!", "Invalid use of Null")};
     const struct {
         int from, to;
         double value, cost;
-    } cases[] = {{1, 1, 50, 0}, {1, 2, 110, 0}, {2, 3, 60, 25}, {3, 3, 0, 25}, {4, 9, 0, 0}, {3, 1, 0, 0}};
-    for (const auto& [from, to, stockValue, cost] : cases) {
-        EXPECT_EQ(ValuationCost(store, day(from), day(to), "A"), amount(stockValue)) << from << " to " << to;
-        EXPECT_EQ(PeriodSalesCost(store, day(from), day(to), "A"), amount(cost)) << from << " to " << to;
+        const Boxes& told;
+    } cases[] = {{1, 1, 50, 0, none}, {1, 2, 110, 0, none},  {2, 3, 60, 25, none},
+                 {3, 3, 0, 25, none}, {4, 9, 0, 0, nullSum}, {3, 1, 0, 0, nullSum}};
+    for (const auto& [from, to, stockValue, cost, told] : cases) {
+        Boxes boxes;
+        EXPECT_EQ(ValuationCost(store, day(from), day(to), "A", boxes), amount(stockValue)) << from << to;
+        EXPECT_EQ(boxes, none) << from << to;
+        EXPECT_EQ(PeriodSalesCost(store, day(from), day(to), "A", boxes), amount(cost)) << from << to;
+        EXPECT_EQ(boxes, told) << from << to;
     }
+}
+
+TEST_F(StockValuationTest, AValueBeyondTheRangeIsToldAndCountsNothing) {
+    AddStockValuation(store, "P", "big", "C1", "A", day(1), amount(2), most);
+    write("UPDATE tblStockValuation SET Balance = 20000");
+    Boxes boxes;
+    EXPECT_EQ(ValuationCost(store, day(1), day(1), "A", boxes), Currency());
+    EXPECT_EQ(boxes, Boxes{exclamation("Error!", "Overflow")});
 }
 
 TEST_F(StockValuationTest, CostPriceIsTheAverageOfWhatIsOnHand) {
