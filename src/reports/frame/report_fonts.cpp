@@ -1,0 +1,51 @@
+#include "reports/frame/report_fonts.h"
+
+#include <QFontMetrics>
+#include <QTextLayout>
+
+QFont fontInTwips(const TextStyle& style) {
+    QFont font;
+    switch (style.face) {
+        case Typeface::Verdana:
+            font.setFamily("DejaVu Sans");
+            break;
+        case Typeface::Tahoma:
+            font.setFamily("DejaVu Sans Condensed");
+            break;
+        case Typeface::Arial:
+            font.setFamily("Liberation Sans");
+            break;
+    }
+    font.setPixelSize(style.points * 20);
+    font.setBold(style.isBold);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+int lineHeight(const TextStyle& style) { return QFontMetrics(fontInTwips(style)).lineSpacing(); }
+
+static void breakParagraph(const QFont& font, const QString& paragraph, int width, QStringList& lines) {
+    QTextLayout layout(paragraph, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        lines += paragraph.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+}
+
+QStringList brokenLines(const TextStyle& style, const QString& text, int width) {
+    const QFont font = fontInTwips(style);
+    QStringList lines;
+    for (QString paragraph : text.split('\n')) {
+        paragraph.remove('\r');
+        if (paragraph.isEmpty())
+            lines += QString();
+        else
+            breakParagraph(font, paragraph, width, lines);
+    }
+    return lines;
+}

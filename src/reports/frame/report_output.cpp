@@ -1,0 +1,103 @@
+#include "reports/frame/report_output.h"
+
+#include "reports/frame/report_fonts.h"
+
+#include <QBuffer>
+#include <QFontMetrics>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+namespace {
+using reportOutput::Rendering;
+
+// Fonts of one set of pages, made once.
+class Fonts {
+  public:
+    Fonts(const ReportPages& pages, Rendering rendering) {
+        for (const TextStyle& style : pages.styles) {
+            QFont font = fontInTwips(style);
+            if (rendering == Rendering::DotMatrix) font.setFamily("DejaVu Sans Mono");
+            fonts_.push_back(font);
+            metrics_.emplace_back(font);
+        }
+    }
+    const QFont& font(const PageItem& item) const { return fonts_[item.style]; }
+    bool fits(const PageItem& item) const {
+        return metrics_[item.style].horizontalAdvance(item.text) <= item.place.width();
+    }
+
+  private:
+    std::vector<QFont> fonts_;
+    std::vector<QFontMetrics> metrics_;
+};
+
+void paintText(QPainter& painter, const PageItem& item, Qt::Alignment alignment, const Fonts& fonts) {
+    painter.setFont(fonts.font(item));
+    const int flags = static_cast<int>(alignment | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip;
+    if (fonts.fits(item)) {
+        painter.drawText(item.place, flags, item.text);
+        return;
+    }
+    painter.save();
+    painter.setClipRect(item.place, Qt::IntersectClip);
+    painter.drawText(item.place, static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextSingleLine,
+                     item.text);
+    painter.restore();
+}
+
+void paintImage(QPainter& painter, const PageItem& item) {
+    const QImage picture(item.text);
+    if (picture.isNull()) return;
+    const QSize size = picture.size().scaled(item.place.size(), Qt::KeepAspectRatio);
+    painter.drawImage(QRect(item.place.topLeft(), size), picture);
+}
+
+void paintItems(QPainter& painter, const ReportPages& pages, const ReportPage& page, Rendering rendering,
+                const Fonts& fonts) {
+    painter.setPen(QPen(Qt::black, rendering == Rendering::DotMatrix ? 20 : 10));
+    for (const PageItem& item : page.items) {
+        if (item.kind == ControlKind::Line)
+            painter.drawLine(item.place.left(), item.place.top(), item.place.left() + item.place.width(),
+                             item.place.top() + item.place.height());
+        else if (item.kind == ControlKind::Label)
+            paintText(painter, item, pages.styles[item.style].alignment, fonts);
+        else if (rendering == Rendering::Full)
+            paintImage(painter, item);
+    }
+}
+}  // namespace
+
+namespace reportOutput {
+
+void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page, Rendering rendering) {
+    paintItems(painter, pages, pages.pages[page], rendering, Fonts(pages, rendering));
+}
+
+QByteArray pdf(const ReportPages& pages, Rendering rendering) {
+    QByteArray content;
+    QBuffer buffer(&content);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
+    writer.setTitle(pages.caption);
+    writer.setPageSize(QPageSize(QSizeF(pages.setup.paper()) / 20.0, QPageSize::Point));
+    writer.setPageMargins(QMarginsF());
+    writer.setResolution(1440);
+    const Fonts fonts(pages, rendering);
+    QPainter painter(&writer);
+    for (std::size_t page = 0; page < pages.pages.size(); ++page) {
+        if (page > 0) writer.newPage();
+        paintItems(painter, pages, pages.pages[page], rendering, fonts);
+    }
+    painter.end();
+    return content;
+}
+
+QString writeFile(const QString& path, const QByteArray& content) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
+    if (file.write(content) != content.size() || !file.commit()) return file.errorString();
+    return {};
+}
+
+}  // namespace reportOutput

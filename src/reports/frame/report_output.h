@@ -1,0 +1,29 @@
+#pragma once
+#include "reports/frame/report_pages.h"
+
+#include <QByteArray>
+
+class QPainter;
+
+// What is made of finished pages. Figures are the same in all outputs, because all come from the same pages.
+namespace reportOutput {
+
+// Dots for a matrix printer: fixed pitch, no pictures, no fine lines.
+enum class Rendering { Full, DotMatrix };
+
+// Paints one page. The painter's unit is a twip, its origin the corner of the paper. A text that is wider
+// than its control is clipped at the control.
+void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page,
+               Rendering rendering = Rendering::Full);
+
+// The pages as a PDF.
+QByteArray pdf(const ReportPages& pages, Rendering rendering = Rendering::Full);
+
+// The pages as plain text in a fixed pitch: columns stand under each other, a form feed stands between pages.
+QString plainText(const ReportPages& pages);
+
+// Writes a file whole or not at all: an older one stays as it is when this fails. The text of the failure;
+// empty: written.
+QString writeFile(const QString& path, const QByteArray& content);
+
+}  // namespace reportOutput

@@ -1,0 +1,138 @@
+#include "reports/frame/section_formatter.h"
+
+#include "platform/masks.h"
+#include "reports/frame/report_fonts.h"
+
+#include <algorithm>
+#include <cstring>
+#include <stdexcept>
+
+qsizetype SectionFields::indexOf(const QString& name) const {
+    for (qsizetype i = 0; i < section_->controls.size(); ++i)
+        if (section_->controls[i].name == name) return i;
+    throw std::logic_error(("the section has no control " + name).toStdString());
+}
+
+QString fieldText(const ReportSource& row, const QString& column, const char* mask) {
+    if (row.isNull(column)) return {};
+    if (!mask) return row.text(column);
+    if (std::strcmp(mask, plainDigits) == 0) return row.currency(column).toPlainText();
+    if (std::strpbrk(mask, "ymdhs")) return formatDateTime(row.dateTime(column), mask);
+    return formatNumber(row.currency(column), mask);
+}
+
+namespace {
+using State = SectionFields::State;
+
+QString boundText(const ReportControl& control, const ReportSource& row, const SummaryText& summary) {
+    if (control.kind != ControlKind::Field) return control.text;
+    if (control.summary != Summary::None) return summary(control);
+    return control.column.isEmpty() ? QString() : fieldText(row, control.column, control.mask);
+}
+
+bool hasRoomForLines(const ReportControl& control) { return control.height > control.style.points * 20 * 2; }
+
+PageItem itemOf(const ReportControl& control, const QString& text, int top, int height, quint16 style) {
+    const ControlKind kind = control.kind == ControlKind::Field ? ControlKind::Label : control.kind;
+    return {kind, QRect(control.left, top, control.width, height), text, style};
+}
+
+// Lays the controls from the top down: what grows moves what stands wholly below it.
+class Layer {
+  public:
+    Layer(const ReportSection& section, SectionFields& fields, ReportPages& styles)
+        : section_(section), fields_(fields), styles_(styles) {}
+
+    FormattedSection lay() {
+        formatted_.height = section_.height;
+        for (const qsizetype index : fromTheTop()) layControl(section_.controls[index], fields_.state(index));
+        return std::move(formatted_);
+    }
+
+  private:
+    struct Growth {
+        int top, bottom;  // of the control as it is declared
+        int by;           // how far what stands below it moves
+    };
+
+    QList<qsizetype> fromTheTop() const {
+        QList<qsizetype> order(section_.controls.size());
+        for (qsizetype i = 0; i < order.size(); ++i) order[i] = i;
+        std::stable_sort(order.begin(), order.end(), [this](qsizetype a, qsizetype b) {
+            return section_.controls[a].top < section_.controls[b].top;
+        });
+        return order;
+    }
+
+    int shiftAt(int top) const {
+        int shift = 0;
+        for (const Growth& growth : growths_)
+            if (growth.bottom <= top && growth.top < top) shift = std::max(shift, growth.by);
+        return shift;
+    }
+
+    void layControl(const ReportControl& control, State& state) {
+        if (!state.isVisible) return;
+        const int top = control.top + shiftAt(control.top);
+        const int height = state.subReport ? laySubReport(control, *state.subReport, top)
+                                           : layItem(control, state.text, top);
+        const int grown = top - control.top + height - control.height;
+        if (grown > 0) growths_ += {control.top, control.top + control.height, grown};
+        // The space that the section keeps below its lowest control stays.
+        formatted_.height = std::max(formatted_.height, section_.height + std::max(0, grown));
+    }
+
+    int layItem(const ReportControl& control, const QString& text, int top) {
+        if (text.isEmpty() && control.kind != ControlKind::Line) return control.height;
+        const quint16 style = styles_.styleNumber(control.style);
+        const bool isText = control.kind == ControlKind::Label || control.kind == ControlKind::Field;
+        if (isText && (control.grows || hasRoomForLines(control))) return layLines(control, text, top, style);
+        formatted_.items.push_back(itemOf(control, text, top, control.height, style));
+        return control.height;
+    }
+
+    // Each line is an item of its own, so that a long text breaks between pages; what does not grow ends with
+    // its control.
+    int layLines(const ReportControl& control, const QString& text, int top, quint16 style) {
+        const int height = lineHeight(control.style);
+        int used = 0;
+        for (const QString& line : brokenLines(control.style, text, control.width)) {
+            if (!control.grows && used + height > control.height && used > 0) break;
+            formatted_.items.push_back(itemOf(control, line, top + used, height, style));
+            used += height;
+        }
+        return std::max(control.height, used);
+    }
+
+    int laySubReport(const ReportControl& control, SubReportRun& run, int top) {
+        const ReportSection* detail = run.layout.section(SectionKind::Detail);
+        int bottom = top;
+        while (detail && run.rows->next()) {
+            const auto noSummary = [](const ReportControl&) { return QString(); };
+            FormattedSection strip = formatSection(*detail, *run.rows, run.events, noSummary, styles_);
+            for (PageItem& item : strip.items) {
+                item.place.translate(control.left, bottom);
+                formatted_.items.push_back(std::move(item));
+            }
+            bottom += strip.height;
+        }
+        return bottom - top;
+    }
+
+    const ReportSection& section_;
+    SectionFields& fields_;
+    ReportPages& styles_;
+    FormattedSection formatted_;
+    QList<Growth> growths_;
+};
+}  // namespace
+
+FormattedSection formatSection(const ReportSection& section, const ReportSource& row,
+                               const ReportEvents& events, const SummaryText& summary, ReportPages& styles) {
+    SectionFields fields(section);
+    for (qsizetype i = 0; i < section.controls.size(); ++i)
+        fields.state(i).text = boundText(section.controls[i], row, summary);
+    if (const auto event = events.constFind(on(section.kind)); event != events.constEnd())
+        (*event)(row, fields);
+    return Layer(section, fields, styles).lay();
+}
