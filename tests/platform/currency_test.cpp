@@ -18,20 +18,20 @@ struct Product {
 
 TEST(Currency, ProductsRoundHalfToEven) {
     const Product cases[] = {
-        {100000, 50000, 500000},         // 10 x 5
-        {1, 5000, 0},                    // 0.00005 stays at the even 0
-        {3, 5000, 2},                    // 0.00015 goes to the even 0.0002
-        {5, 5000, 2},                    // 0.00025 stays at the even 0.0002
-        {-1, 5000, 0},                   // the same below zero
-        {-3, 5000, -2},                  //
-        {-5, 5000, -2},                  //
-        {1, 5001, 1},                    // just above the half
-        {1, 4999, 0},                    // just below
-        {most, 10000, most},             // beyond 64 bits on the way
-        {least, 10000, least},           //
-        {most, -10000, -most},           //
-        {most, 5000, most / 2 + 1},      // 4611686018427387903.5 goes to the even neighbour
-        {least, 5000, least / 2},        //
+        {100000, 50000, 500000},  // 10 x 5
+        {1, 5000, 0},             // 0.00005 stays at the even 0
+        {3, 5000, 2},             // 0.00015 goes to the even 0.0002
+        {5, 5000, 2},             // 0.00025 stays at the even 0.0002
+        {-1, 5000, 0},            // the same below zero
+        {-3, 5000, -2},
+        {-5, 5000, -2},
+        {1, 5001, 1},         // just above the half
+        {1, 4999, 0},         // just below
+        {most, 10000, most},  // beyond 64 bits on the way
+        {least, 10000, least},
+        {most, -10000, -most},
+        {most, 5000, most / 2 + 1},  // 4611686018427387903.5 goes to the even neighbour
+        {least, 5000, least / 2},
         {most - 2, 5000, most / 2 - 1},  // ...902.5 stays at it
     };
     for (const auto& [a, b, result] : cases) {
@@ -41,19 +41,17 @@ TEST(Currency, ProductsRoundHalfToEven) {
 }
 
 TEST(Currency, DoublesRoundHalfToEven) {
-    const std::pair<double, qint64> cases[] = {
-        {0.0, 0},
-        {1.0, 10000},
-        {0.00005, 0},
-        {0.03125, 312},
-        {0.09375, 938},
-        {-0.09375, -938},
-        {0.031250001, 313},
-        {1.23455, 12346},
-        {123456789.12345, 1234567891234},
-        {5.666666666, 56667},
-        {-922337203685.5, -9223372036855000},
-    };
+    const std::pair<double, qint64> cases[] = {{0.0, 0},
+                                               {1.0, 10000},
+                                               {0.00005, 0},
+                                               {0.03125, 312},
+                                               {0.09375, 938},
+                                               {-0.09375, -938},
+                                               {0.031250001, 313},
+                                               {1.23455, 12346},
+                                               {123456789.12345, 1234567891234},
+                                               {5.666666666, 56667},
+                                               {-922337203685.5, -9223372036855000}};
     for (const auto& [value, count] : cases)
         EXPECT_EQ(Currency::fromDouble(value).tenThousandths(), count) << value;
 }
@@ -77,8 +75,7 @@ TEST(Currency, WhatLeavesTheRangeThrows) {
         [] { Currency::fromDouble(std::nan("")); },
         [] { divide(ten4(1), ten4(0)); },
         [] { divide(ten4(0), ten4(0)); },
-        [] { divide(ten4(most), ten4(1)); },
-    };
+        [] { divide(ten4(most), ten4(1)); }};
     for (size_t at = 0; at < std::size(cases); ++at)
         EXPECT_THROW(cases[at](), OverflowError) << "case " << at;
 }
@@ -100,15 +97,13 @@ TEST(Currency, QuotientsGoThroughDouble) {
 }
 
 TEST(Currency, PlainTextHasNoGroupsAndNoTrailingZeros) {
-    const std::pair<qint64, const char*> cases[] = {
-        {0, "0"},
-        {10000, "1"},
-        {125000, "12.5"},
-        {-1, "-0.0001"},
-        {12345600, "1234.56"},
-        {-10010, "-1.001"},
-        {most, "922337203685477.5807"},
-        {least, "-922337203685477.5808"},
-    };
+    const std::pair<qint64, const char*> cases[] = {{0, "0"},
+                                                    {10000, "1"},
+                                                    {125000, "12.5"},
+                                                    {-1, "-0.0001"},
+                                                    {12345600, "1234.56"},
+                                                    {-10010, "-1.001"},
+                                                    {most, "922337203685477.5807"},
+                                                    {least, "-922337203685477.5808"}};
     for (const auto& [count, text] : cases) EXPECT_EQ(ten4(count).toPlainText(), text);
 }
