@@ -1,6 +1,7 @@
 #include "shell/lock_document.h"
 
 #include "foundation/shared_routines.h"
+#include "platform/parsing.h"
 
 #include <algorithm>
 
@@ -49,7 +50,7 @@ Outcome changeLock(Connection& store, LockChange change, const QString& journalN
                         question("Are you Sure?", journal->question + number +
                                                       "! Please Make Sure That There is No One Editing "
                                                       "or Printing Record at the Moment!")};
-    setRecordLock(store, journal->book, number, locks);
+    setRecordLock(store, journal->book, trimRight(number), locks);
     return Done{{locks ? information("Locked!", "Record Successfully Locked!")
                        : information("Released!", "Record Successfully Released!")}};
 }

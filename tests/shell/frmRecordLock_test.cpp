@@ -83,6 +83,12 @@ TEST_F(RecordLockTest, OnlyTheChosenDocumentOfTheChosenJournalIsLocked) {
     control<QPushButton>("cmdLock")->click();
     EXPECT_EQ(locked("tblReceiptMaster"), 1);
     EXPECT_EQ(locked("tblSalesMaster"), 1);
+
+    pickJournal("Sales Order Entry");
+    pick("11-1002-2026 ");  // typed with a blank behind it
+    boxes.expect(sure, {}, BoxAnswer::Yes).expect("Locked!");
+    control<QPushButton>("cmdLock")->click();
+    EXPECT_EQ(locked("tblSalesMaster"), 2);
 }
 
 TEST_F(RecordLockTest, WhatIsNotThereIsToldAndNothingIsWritten) {
