@@ -21,7 +21,11 @@ class SettingFiles : public ::testing::Test {
     QTemporaryDir folder_;
 };
 
-TEST_F(SettingFiles, EachReaderKeepsTheTrimmedFirstLine) {
+TEST_F(SettingFiles, EachReaderKeepsTheTrimmedFirstLineOrItsValue) {
+    session().ReportPrinterKind = "D";
+    EXPECT_EQ(ReadPrinterIni(), "D");
+    write("Printer.ini", "");
+    EXPECT_EQ(ReadPrinterIni(), "D");
     write("Printer.ini", "  L  \r\nD\r\n");
     write("CheckPrinter.ini", "D");
     write("ReceiptPrinter.ini", "0123456789012\n");
@@ -32,13 +36,6 @@ TEST_F(SettingFiles, EachReaderKeepsTheTrimmedFirstLine) {
     EXPECT_EQ(ReadReceiptPrinterIni(), "0123456789");
     EXPECT_EQ(ReadReceiptIni(), "") << "an empty line is a line";
     EXPECT_EQ(session().ReportPrinterKind + session().CheckPrinterKind, "LD");
-}
-
-TEST_F(SettingFiles, AMissingOrEmptyFileLeavesTheValue) {
-    session().ReportPrinterKind = "D";
-    EXPECT_EQ(ReadPrinterIni(), "D");
-    write("Printer.ini", "");
-    EXPECT_EQ(ReadPrinterIni(), "D");
 }
 
 TEST_F(SettingFiles, TheCheckBookHasADefault) {

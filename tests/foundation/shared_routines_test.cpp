@@ -21,7 +21,7 @@ class SharedRoutines : public SessionTest {
     Boxes boxes_;
 };
 
-TEST_F(SharedRoutines, ACombosRowsAreTrimmedAndNullIsEmpty) {
+TEST_F(SharedRoutines, ACombosRowsAreTrimmedAndAnEmptyTableIsToldWhenAsked) {
     store().run("INSERT INTO tblTemp (Server) VALUES ('  one '), (NULL), ('two')");
     ComboBox combo("cboTest", ComboBox::Open);
     combo.addItem("old");
@@ -30,12 +30,7 @@ TEST_F(SharedRoutines, ACombosRowsAreTrimmedAndNullIsEmpty) {
     EXPECT_EQ(combo.itemText(0) + '|' + combo.itemText(1) + '|' + combo.itemText(2), "one||two");
     LoadComboBoxUDF("Server", "tblTemp", &combo, {"Server = ?", {"two"}}, true);
     EXPECT_EQ(combo.count(), 1);
-    EXPECT_TRUE(boxes_.isEmpty());
-}
-
-TEST_F(SharedRoutines, AnEmptyTableIsToldOnlyWhenAsked) {
-    ComboBox combo("cboTest", ComboBox::Open);
-    combo.addItem("old");
+    store().run("DELETE FROM tblTemp");
     LoadComboBox("Server", "tblTemp", &combo, false);
     EXPECT_EQ(combo.count(), 0);
     EXPECT_TRUE(boxes_.isEmpty());
@@ -138,24 +133,8 @@ TEST_F(SharedRoutines, TheSpanOfTheBooksIsTodayWithoutDocuments) {
     EXPECT_EQ(GetLastPurchaseDate(store()), QDate(2024, 4, 9));
 }
 
-TEST_F(SharedRoutines, TheCompanysTextsAreEmptyWithoutItsRow) {
-    store().run("UPDATE tblSystemProfile SET CompanyAddress = 'Here', Approved = 'Me'");
-    EXPECT_EQ(GetCompanyName(store()) + GetCompanyAddress(store()) + GetApprovedBy(store()), "ZevrinHereMe");
-    EXPECT_EQ(GetPreparedBy(store()), "");
-    store().run("DELETE FROM tblSystemProfile");
-    EXPECT_EQ(GetCompanyName(store()), "");
-}
-
 TEST(SaveErrors, ARefusedKeyHasItsOwnWords) {
     EXPECT_EQ(saveErrorBox({StoreError::refused, "UNIQUE"}),
               exclamation("Duplicate!", "Code already exist, please assign another..."));
     EXPECT_EQ(saveErrorBox({StoreError::busy, "busy"}), exclamation("Error...", "busy"));
-}
-
-TEST(FilePaths, NeedABackSlashAndAColon) {
-    const std::pair<const char*, bool> table[] = {{"report.rtf", false},
-                                                  {"C:\\out\\report.rtf", true},
-                                                  {"\\\\server\\out", false},
-                                                  {"C:report", false}};
-    for (const auto& [path, valid] : table) EXPECT_EQ(ValidFilePath(path), valid) << path;
 }

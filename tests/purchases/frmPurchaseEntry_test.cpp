@@ -3,12 +3,10 @@
 #include "platform/ui/list_view.h"
 #include "platform/ui/screen_registry.h"
 #include "support/box_script.h"
-#include "support/screen_checks.h"
 #include "support/screen_driver.h"
 
 using person::press;
 using person::read;
-using ::testing::IsEmpty;
 
 namespace {
 // What the purchase side has of its own; the pattern is tried on the sales side.
@@ -133,15 +131,4 @@ TEST_F(PurchaseEntry, NeedsASupplierForALine) {
     person::click(screen, "cmdEdit");
 }
 
-TEST_F(PurchaseEntry, ReadsWellAtTheSmallestSize) {
-    open(saved(purchaseOrders,
-               {line("I1", "1200", "1200.5", "1234.5678", "12.5"), line("I2", "1", "1", "4")}));
-    screen->resize(1000, 620);
-    EXPECT_THAT(check::faults(screen), IsEmpty());
-    list()->setCurrentRow(0);
-    person::clickHeader(list(), OrderLine::Total);
-    person::click(screen, "cmdReceive");
-    EXPECT_THAT(check::faults(opened("frmInputInList")), IsEmpty());
-    press(Qt::Key_Escape);
-}
 }  // namespace

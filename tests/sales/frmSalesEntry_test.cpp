@@ -3,7 +3,6 @@
 #include "platform/ui/list_view.h"
 #include "platform/ui/screen_registry.h"
 #include "support/box_script.h"
-#include "support/screen_checks.h"
 #include "support/screen_driver.h"
 
 #include <QCheckBox>
@@ -191,23 +190,6 @@ TEST_F(SalesEntry, ClosesThroughItsQuestion) {
     EXPECT_FALSE(locked(key));
 }
 
-TEST_F(SalesEntry, AsksBeforeItShowsAnotherDocument) {
-    const QString first = saved(salesOrders, {line("I1", "2", "1", "15")});
-    const QString second = saved(salesOrders, {line("I2", "2", "1", "6")});
-    edit(first);
-    person::fill(screen, "txtRemarks", "x");
-    ASSERT_EQ(takeRecordLock(store, salesBook, second), LockResult::Taken);
-    boxes.expect("Confirm Update Record!", "", BoxAnswer::Cancel);
-    EXPECT_EQ(ScreenRegistry::instance().open("frmSalesEntry", ScreenArguments{{}, second, {}}), nullptr);
-    EXPECT_EQ(read(screen, "txtCode"), first);
-    EXPECT_TRUE(locked(first));
-    boxes.expect("Confirm Update Record!", "", BoxAnswer::No);
-    ScreenRegistry::instance().open("frmSalesEntry", ScreenArguments{{}, second, {}});
-    EXPECT_EQ(read(screen, "txtCode"), second);
-    EXPECT_FALSE(locked(first));
-    EXPECT_TRUE(locked(second));
-}
-
 TEST_F(SalesEntry, LeavesALockThatIsNotItsOwn) {
     const QString key = saved(salesOrders, {line("I1", "2", "1", "15")});
     edit(key);
@@ -233,21 +215,6 @@ TEST_F(SalesEntry, WritesALineUnderChangeBackWhenTheDialogIsClosed) {
     closeDialog();
     EXPECT_THAT(lines(), ElementsAre("I2 | Sugar | 1 | 1 | PC | 6.0000 | 0.0000 | 6.0000 | 6.00",
                                      "I1 | Rice | 5 | 5 | PC | 15.0000 | 10.0000 | 13.5000 | 67.50"));
-}
-
-TEST_F(SalesEntry, LosesALineWhoseWriteBackIsRefused) {
-    edit(saved(salesOrders, {line("I1", "5", "4", "15")}));
-    list()->setCurrentRow(0);
-    person::click(screen, "cmdEdit");
-    person::fill(dialog(), "txtServe", "11");
-    boxes.expect("Error!",
-                 "Purchase This Item First! Inventory Balance For This Sales Period is Less Than your Served "
-                 "Item!");
-    person::click(dialog(), "cmdCancel");
-    EXPECT_EQ(dialog(), nullptr);
-    EXPECT_THAT(lines(), IsEmpty());
-    boxes.expect("Net Amount!", "There is No Order Made for this Record! Please Add Item to Order!");
-    EXPECT_FALSE(screen->SaveRecord());
 }
 
 TEST_F(SalesEntry, DropsTheDiscountWhenTheCodeIsLeftDuringAChange) {
@@ -295,37 +262,6 @@ TEST_F(SalesEntry, FindsAnItemThatWasTypedWrong) {
     EXPECT_EQ(read(dialog(), "cboItemCode") + read(dialog(), "cboDescription"), "I2Sugar");
     EXPECT_EQ(read(dialog(), "txtCost"), "6.0000");
     EXPECT_EQ(person::focusName(), "txtCost");
-    closeDialog();
-}
-
-TEST_F(SalesEntry, RefusesAnItemEnteredTwiceAndClosesTheDialog) {
-    edit(saved(salesOrders, {line("I1", "5", "4", "15")}));
-    person::click(screen, "cmdAdd");
-    boxes.expect("Error!",
-                 "Rice Had Already Been Entered Below! You May Click on Edit Button to Modify Record!");
-    typeLine("I1", "1", "1");
-    EXPECT_EQ(dialog(), nullptr);
-    EXPECT_EQ(lines().size(), 1U);
-}
-
-TEST_F(SalesEntry, KeepsTheFieldAtFaultInTheDialog) {
-    open();
-    person::type("Nena");
-    person::click(screen, "cmdAdd");
-    person::fill(dialog(), "cboItemCode", "I1");
-    press(Qt::Key_Return);
-    boxes.expect("Error!", "Discount Percentage should not be Equal or Greater than 100%");
-    person::fill(dialog(), "txtDiscount", "100");
-    press(Qt::Key_Tab);
-    EXPECT_EQ(person::focusName(), "txtDiscount");
-    person::fill(dialog(), "txtDiscount", "99.9999");
-    press(Qt::Key_Tab);
-    EXPECT_EQ(read(dialog(), "txtNetPrice"), "0.0000");
-    boxes.expect("Please enter value!", "Please Enter Numeric for Order Ouantity!");
-    person::fill(dialog(), "txtOrder", "1.2.3");
-    press(Qt::Key_Tab);
-    EXPECT_EQ(person::focusName(), "txtOrder");
-    person::fill(dialog(), "txtOrder", "3");
     closeDialog();
 }
 
@@ -406,13 +342,4 @@ TEST_F(SalesEntry, DoesNotPauseOverTenThousandLines) {
     EXPECT_EQ(read(screen, "txtAmount"), "60,009.00");
 }
 
-TEST_F(SalesEntry, ReadsWellAtTheSmallestSize) {
-    open();
-    screen->resize(1000, 620);
-    EXPECT_THAT(check::faults(screen), IsEmpty());
-    person::type("Nena");
-    person::click(screen, "cmdAdd");
-    EXPECT_THAT(check::faults(dialog()), IsEmpty());
-    closeDialog();
-}
 }  // namespace

@@ -47,17 +47,11 @@ void addMaster(Connection& store, const Book& book, const DocumentRow& document,
 }
 
 void addLine(Connection& store, const Book& book, const QString& number, const LineRow& line) {
-    Recordset details = store.openTable(book.details);
-    details.addNew();
-    details.set("Reference", number);
-    details.set("ItemID", line.item);
-    details.set("Ordered", line.quantity);
-    details.set(book.quantity, line.quantity);
-    details.set("Unit", "PC");
-    details.set("UnitPrice", line.price);
-    details.set("Discount", line.discount);
-    details.set("Total", totalOf(line));
-    details.update();
+    store.run({QString("INSERT INTO %1 (Reference, ItemID, Ordered, %2, Unit, UnitPrice, Discount, Total) "
+                       "VALUES (?, ?, ?, ?, 'PC', ?, ?, ?)")
+                   .arg(book.details, book.quantity),
+               {number, line.item, bound(line.quantity), bound(line.quantity), bound(line.price),
+                bound(line.discount), bound(totalOf(line))}});
 }
 
 void queue(Connection& store, const Book& book, const DocumentRow& document) {
@@ -107,16 +101,11 @@ void SessionTest::TearDown() {
 }
 
 void addContact(Connection& store, const ContactRow& contact) {
-    Recordset row = store.openTable("tblContactMaster");
-    row.addNew();
-    row.set("ContactID", contact.id);
-    row.set("ContactName", contact.name);
-    row.set("IsCustomer", contact.customer);
-    row.set("IsSupplier", contact.supplier);
-    row.set("Discount", contact.discount);
-    row.set("Terms", contact.terms);
-    row.set("CreditLimit", contact.creditLimit);
-    row.update();
+    store.run(
+        {"INSERT INTO tblContactMaster (ContactID, ContactName, IsCustomer, IsSupplier, Discount, Terms, "
+         "CreditLimit) VALUES (?, ?, ?, ?, ?, ?, ?)",
+         {contact.id, contact.name, contact.customer, contact.supplier, bound(contact.discount),
+          bound(contact.terms), bound(contact.creditLimit)}});
 }
 
 void addUnit(Connection& store, const QString& code) {
@@ -124,16 +113,11 @@ void addUnit(Connection& store, const QString& code) {
 }
 
 void addItem(Connection& store, const ItemRow& item) {
-    Recordset row = store.openTable("tblItemMaster");
-    row.addNew();
-    row.set("ItemCode", item.code);
-    row.set("Description", item.description);
-    row.set("Unit", item.unit);
-    row.set("CostPrice", item.cost);
-    row.set("SellingPrice", item.selling);
-    row.set("WholesalePrice", item.wholesale);
-    row.set("OrderLevel", item.orderLevel);
-    row.update();
+    store.run(
+        {"INSERT INTO tblItemMaster (ItemCode, Description, Unit, CostPrice, SellingPrice, WholesalePrice, "
+         "OrderLevel) VALUES (?, ?, ?, ?, ?, ?, ?)",
+         {item.code, item.description, item.unit, bound(item.cost), bound(item.selling),
+          bound(item.wholesale), bound(item.orderLevel)}});
 }
 
 void addSale(Connection& store, const DocumentRow& sale) { addDocument(store, sales, sale); }
