@@ -36,6 +36,8 @@ void OrderEntry::connectHead() {
         if (screen_.dirtyingFields.contains("cboCustomer")) mblnUpdated = true;
         findContact();
     });
+    // Another name is typed: the figures are not its own until it is picked.
+    connect(ui.cboCustomer, &ComboBox::keyTyped, this, &OrderEntry::showNoContact);
     connect(ui.cmdSearch, &QToolButton::clicked, this, &OrderEntry::findContact);
     connect(ui.txtRemarks, &TextBox::entered, this, [this] {
         if (orderBook().sells) return startLine();
@@ -104,7 +106,7 @@ void OrderEntry::startNew() {
     ui.cboCustomer->setText({});
     ui.txtRemarks->clear();
     ui.txtBalance->setText("0.00");
-    showContact({{}, "0.00"});
+    showNoContact();
     ui.txtUpdatedBy->setText(screen_.newShowsUser ? session().CurrentUserCode : QString());
     ui.txtLastUpdate->setText(today);
     showLines({});
@@ -152,6 +154,8 @@ void OrderEntry::showContact(const ContactFigures& figures) {
     if (ui.txtCreditLimit) ui.txtCreditLimit->setText(figures.creditLimit);
 }
 
+void OrderEntry::showNoContact() { showContact({{}, "0.00"}); }
+
 void OrderEntry::showLines(const QList<OrderLine>& lines) {
     QList<QStringList> rows;
     rows.reserve(lines.size());
@@ -191,6 +195,7 @@ void OrderEntry::findContact() {
 
 void OrderEntry::takeContact(const QString& name, const QString& contactId) {
     ui.cboCustomer->setText(name);
+    showNoContact();
     guarded([&] { showContact(contactFigures(StoreConnection(), orderBook(), contactId)); });
     ui.txtRemarks->setFocus();
 }

@@ -49,6 +49,7 @@ class OrderEntry : public RecordScreen, public LineOwner {
     void openDocument(const QString& key);
     void showLoaded(const LoadedOrder& loaded);
     void showContact(const ContactFigures& figures);
+    void showNoContact();
     void showLines(const QList<OrderLine>& lines);
     void countLines();
     void allowWholesale();
