@@ -251,4 +251,116 @@ TEST_F(SalesDayInFrame, EntryAskedForAnotherDocumentAsksFirst) {
     edit(first);
     setRecordLock(store(), salesBook, first, false);
 }
+// All that a person sees on the screen.
+static QStringList seen(QWidget* screen) {
+    QStringList texts;
+    for (const QLineEdit* field : screen->findChildren<QLineEdit*>()) texts << field->text();
+    for (const QStringList& row : person::find<ListView>(screen, "lvwItems")->rows()) texts << row;
+    return texts;
+}
+
+TEST_F(SalesDayInFrame, ARefusedSaveKeepsAllAndGoesToTheFieldAtFault) {
+    const QString taken = saveSale("1");
+    ScreenRegistry::instance().open("frmSalesEntry");
+    person::settle();
+    person::type("Nena");
+    person::fill(entry(), "txtRemarks", "by truck");
+    const auto addLine = [this] {
+        entry()->addLine(makeOrderLine("I2", "Sugar", "PC", amount(1), amount(1), amount(6), amount(0)));
+    };
+    const auto refused = [this](const char* title, const char* text, const char* focus) {
+        const QStringList before = seen(entry());
+        boxes.expect(title, text);
+        press(Qt::Key_S, Qt::ControlModifier);
+        boxes.verify();
+        EXPECT_EQ(seen(entry()), before) << text;
+        EXPECT_EQ(person::focusName(), focus) << text;
+        EXPECT_TRUE(entry()->mblnUpdated && entry()->mblnAddmode) << text;
+    };
+    refused("Net Amount!", "There is No Order Made for this Record! Please Add Item to Order!", "cmdAdd");
+    addLine();
+    person::fill(entry(), "txtCode", "");
+    refused("No Code!", "Please Enter Reference No.!", "txtCode");
+    person::type(taken);
+    refused("Error!", "Duplicate Reference No., Please Assign Another!", "txtSerialCode");
+    person::fill(entry(), "txtCode", "77");
+    person::fill(entry(), "cboCustomer", " ");
+    refused("No Customer!", "Please Select Customer!", "cboCustomer");
+    person::fill(entry(), "cboCustomer", "Nobody");
+    person::fill(entry(), "txtRefDate", "02/30/2026");
+    refused("Error!", "Invalid Date Value!", "txtRefDate");
+    person::fill(entry(), "txtRefDate", "2/3/26");
+    refused("Does not exist!", "Customer Does Not Exist, Please Add This To Customer Master File First...",
+            "cboCustomer");
+    person::fill(entry(), "cboCustomer", "nena");
+    boxes.expect("Saved!");
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(valueOf(store(), {"SELECT RefDate FROM tblSalesMaster WHERE RefNo = '77'", {}}), "2026-02-03");
+}
+
+TEST_F(SalesDayInFrame, NothingClosesOverALineInTheDialog) {
+    startLine();
+    for (const char* way : {"mnuFileItem_9", "mnuFileItem_8", "mnuRecordItem_5", "mnuRecordItem_0"}) {
+        boxes.expect("Lost Focus!", "Please Click on Close Button to Exit!");
+        choose(way);
+        boxes.verify();
+        ASSERT_TRUE(at("frmAddItem") && entry()) << way;
+    }
+    boxes.expect("Lost Focus!");
+    frame->close();
+    EXPECT_EQ(ended, 0);
+    press(Qt::Key_Escape);
+    person::settle();
+    boxes.expect("Confirm Add Record!", "", BoxAnswer::Cancel);
+    choose("mnuFileItem_9");
+    boxes.verify();
+    EXPECT_EQ(ended, 0);
+    EXPECT_EQ(read(entry(), "cboCustomer"), "Nena");
+}
+
+TEST_F(SalesDayInFrame, QuantityPopupGoesWithItsOrder) {
+    const QString key = saveSale("2");
+    edit(key);
+    person::goTo(entry(), "lvwItems");
+    list()->setCurrentRow(0);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(at("frmInputInList"));
+    boxes.expect("Confirm Update Record!", "", BoxAnswer::No);
+    item("mnuRecordItem_5")->trigger();
+    person::settle();
+    boxes.verify();
+    EXPECT_FALSE(entry());
+    EXPECT_FALSE(at("frmInputInList"));
+    EXPECT_FALSE(locked(key));
+}
+
+TEST_F(SalesDayInFrame, ADeletedDocumentCannotBeSavedButIsKeptOnTheScreen) {
+    const QString key = saveSale("2");
+    edit(key);
+    person::fill(entry(), "txtRemarks", "late");
+    openJournal();
+    boxes.expect("Confirm Delete", "", BoxAnswer::Yes);
+    press(Qt::Key_D, Qt::AltModifier);
+    ScreenRegistry::instance().host()->bringForward(entry());
+    person::settle();
+    boxes.expect("Error...");
+    press(Qt::Key_S, Qt::ControlModifier);
+    boxes.verify();
+    EXPECT_EQ(read(entry(), "txtRemarks"), "late");
+    EXPECT_EQ(list()->rowCount(), 2);
+    EXPECT_EQ(valueOf(store(), {"SELECT COUNT(*) FROM tblSalesDetails", {}}), "0");
+    boxes.expect("Confirm Update Record!", "", BoxAnswer::No);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(entry());
+}
+
+TEST_F(SalesDayInFrame, FiguresOfAContactGoWhenAnotherNameIsTyped) {
+    saveSale("2");
+    ScreenRegistry::instance().open("frmSalesEntry");
+    person::settle();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Return}) press(key);
+    EXPECT_EQ(read(entry(), "txtTerm") + " " + read(entry(), "txtCustomerBalance"), "0 Days 36.00");
+    person::fill(entry(), "cboCustomer", "Lita");
+    EXPECT_EQ(read(entry(), "txtTerm") + read(entry(), "txtCustomerBalance"), "0.00");
+}
 }  // namespace
