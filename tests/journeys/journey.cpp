@@ -7,6 +7,7 @@
 #include "platform/ui/data_grid.h"
 #include "platform/ui/screen_registry.h"
 #include "program.h"
+#include "support/screen_tour.h"
 
 #include <QApplication>
 
@@ -36,6 +37,8 @@ void Journey::SetUp() {
 void Journey::closeProgram() {
     setBoxAnswerer(
         [](const Box& box) { return box.buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No; });
+    while (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+    closeOpenScreens();
     // One may take others along.
     while (!QApplication::topLevelWidgets().isEmpty()) delete QApplication::topLevelWidgets().first();
     person::settle();

@@ -13,7 +13,7 @@ class Journey : public ::testing::Test {
     void TearDown() override;
 
     Connection& store() { return StoreConnection(); }
-    // As a kill would, but for the process.
+    // Closes every window and the store, and saves nothing; the process goes on.
     static void closeProgram();
     // The clock stands on this day of the firm's month.
     static QDate onDay(int day);
