@@ -8,6 +8,7 @@
 #include "support/screen_driver.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QSignalSpy>
@@ -85,9 +86,12 @@ TEST_F(UiFields, RefuseWholeWhatDoesNotFitAndSaySo) {
     EXPECT_EQ(QToolTip::text(), "This field holds at most 5 characters.");
 
     const QString hundredThousand(100000, u'x');
+    const QString oneLine = "This field holds one line. What you paste has line breaks.";
+    const std::pair<QString, QString> refused[] = {
+        {"123456", ""}, {hundredThousand, ""}, {"a\nb", oneLine}, {"a\r\n", oneLine}, {"a\u2028b", oneLine}};
     BoxScript boxes;
-    for (const QString& pasted : {QString("123456"), hundredThousand}) {
-        boxes.expect("Not pasted!");
+    for (const auto& [pasted, text] : refused) {
+        boxes.expect("Not pasted!", text);
         person::press(Qt::Key_A, Qt::ControlModifier);
         person::paste(pasted);
         EXPECT_EQ(screen->name->text(), "abcde");
@@ -100,27 +104,12 @@ TEST_F(UiFields, RefuseWholeWhatDoesNotFitAndSaySo) {
                  "This field holds at most 32,000 characters. With what you paste it would be "
                  "100,000.");
     person::press(Qt::Key_A, Qt::ControlModifier);
+    QApplication::clipboard()->setText(hundredThousand);
     editing::paste();
     person::settle();
     EXPECT_EQ(screen->name->text(), "abcde");
-}
-
-TEST_F(UiFields, RefuseALineBreakAndKeepEverythingElseExactly) {
-    const QStringList texts = {"100% _off\\",         "<b>bold</b> &amp;", "😀 ña",
-                               "\u202eright to left", " two  blanks ",     "tab\there",
-                               QString(32000, u'y')};
-    for (const QString& text : texts) {
-        person::press(Qt::Key_A, Qt::ControlModifier);
-        person::paste(text);
-        EXPECT_EQ(screen->name->text(), text);
-    }
-    BoxScript boxes;
-    for (const char* text : {"one\ntwo", "one\r\n", "a\u2028b"}) {
-        boxes.expect("Not pasted!", "This field holds one line. What you paste has line breaks.");
-        person::press(Qt::Key_A, Qt::ControlModifier);
-        person::paste(text);
-        EXPECT_EQ(screen->name->text(), texts.last());
-    }
+    person::paste(hundredThousand.left(32000));
+    EXPECT_EQ(screen->name->text().size(), 32000);
 }
 
 TEST_F(UiFields, SelectTheirTextOnFocusByKeyAndByMouse) {
