@@ -9,7 +9,6 @@
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/icons.h"
 #include "shell/child_area.h"
-#include "shell/child_mnemonics.h"
 #include "shell/frame_activation.h"
 #include "shell/frame_keys.h"
 #include "shell/frame_menus.h"
@@ -80,7 +79,6 @@ mdiMain::mdiMain()
     connect(area_, &ChildArea::childrenChanged, this, &mdiMain::readActiveChild);
     listChildrenIn(menus_->menu("mnuWindow"), area_);
     new FrameKeys(this, *menus_);
-    new ChildMnemonics(this);
 }
 
 // What its children tell on their way out reaches a frame that is no longer one.

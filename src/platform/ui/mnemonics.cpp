@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
 
 void Mnemonics::install() {
     // Lives as long as the application, which the screens do not outlive.
@@ -23,14 +24,23 @@ static ChildScreen* screenAround(QObject* target) {
     return nullptr;
 }
 
-static QList<QAbstractButton*> buttonsFor(const ChildScreen* screen, const QKeyEvent* event) {
+// A button itself, or what a label stands for; null when its text has another mnemonic.
+static QWidget* controlOf(QWidget* widget, const QKeySequence& pressed) {
+    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+        return QKeySequence::mnemonic(button->text()) == pressed ? button : nullptr;
+    if (auto* label = qobject_cast<QLabel*>(widget))
+        return QKeySequence::mnemonic(label->text()) == pressed ? label->buddy() : nullptr;
+    return nullptr;
+}
+
+static QList<QWidget*> controlsFor(const ChildScreen* screen, const QKeyEvent* event) {
     const QKeySequence pressed(event->keyCombination());
-    QList<QAbstractButton*> buttons;
-    for (auto* button : screen->findChildren<QAbstractButton*>())
-        if (button->isVisible() && button->isEnabled() && button->window() == screen->window() &&
-            QKeySequence::mnemonic(button->text()) == pressed)
-            buttons += button;
-    return buttons;
+    QList<QWidget*> controls;
+    for (QWidget* widget : screen->findChildren<QWidget*>())
+        if (QWidget* control = controlOf(widget, pressed);
+            control && control->isVisible() && control->isEnabled() && control->window() == screen->window())
+            controls += control;
+    return controls;
 }
 
 static void pressButton(QAbstractButton* button) {
@@ -40,25 +50,30 @@ static void pressButton(QAbstractButton* button) {
     if (!kept || button->focusPolicy() == Qt::NoFocus) button->click();
 }
 
-// Buttons that share a mnemonic take the focus in turn; a person presses the one that is meant.
-static void goToNext(const QList<QAbstractButton*>& twins) {
+// Controls that share a mnemonic take the focus in turn; a person presses the one that is meant.
+static void goToNext(const QList<QWidget*>& twins) {
     const auto focused = std::ranges::find(twins, QApplication::focusWidget());
     const bool last = focused == twins.end() || focused + 1 == twins.end();
     (last ? twins.first() : *(focused + 1))->setFocus(Qt::ShortcutFocusReason);
 }
 
+static void answer(const QList<QWidget*>& controls) {
+    auto* button = qobject_cast<QAbstractButton*>(controls.first());
+    if (controls.size() > 1 || !button)
+        goToNext(controls);
+    else
+        pressButton(button);
+}
+
+// An accepted override keeps the key from the menus; it then comes as a key.
 bool Mnemonics::eventFilter(QObject* target, QEvent* event) {
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
     if (key->modifiers() != Qt::AltModifier) return false;
     ChildScreen* screen = screenAround(target);
-    const auto buttons = screen ? buttonsFor(screen, key) : QList<QAbstractButton*>();
-    if (buttons.isEmpty()) return false;
+    const auto controls = screen ? controlsFor(screen, key) : QList<QWidget*>();
+    if (controls.isEmpty()) return false;
     event->accept();
-    if (event->type() != QEvent::KeyPress) return true;
-    if (buttons.size() == 1)
-        pressButton(buttons.first());
-    else
-        goToNext(buttons);
+    if (event->type() == QEvent::KeyPress) answer(controls);
     return true;
 }

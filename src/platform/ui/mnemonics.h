@@ -1,13 +1,10 @@
 #pragma once
 #include <QObject>
 
-class QAbstractButton;
-class QKeyEvent;
-
-// The mnemonics of the buttons of a screen come before those of the frame's menus, which use the same
-// letters: Alt+A is "&Add Item" where there is one, and "&Administration" elsewhere. The button takes the
-// focus first; where the field that is left keeps it, the button is not pressed. Buttons that share a letter
-// only take the focus, in turn.
+// The mnemonics of a screen's buttons and labels come before those of the frame's menus, which use the same
+// letters: Alt+A is "&Add Item" where there is one, and "&Administration" elsewhere. A label gives the focus
+// to its control. A button takes the focus first; where the field that is left keeps it, the button is not
+// pressed. Controls that share a letter only take the focus, in turn.
 class Mnemonics : public QObject {
     Q_OBJECT
   public:
