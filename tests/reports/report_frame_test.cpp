@@ -168,8 +168,8 @@ TEST(ReportFrame, SubReportsGrowSideBySide) {
                   label("lblEnd", "End", 0, 50, 900, 225)})}};
     const auto lists = [&strip](const ReportSource&, SectionFields& fields) {
         const auto run = [&strip](QList<QStringList> texts) {
-            return std::make_shared<SubReportRun>(
-                SubReportRun{strip, std::make_unique<Rows>(QStringList{"Text"}, std::move(texts)), {}});
+            return std::make_shared<ReportJobParts>(
+                ReportJobParts{strip, std::make_unique<Rows>(QStringList{"Text"}, std::move(texts)), {}});
         };
         fields.setSubReport("subLeft", run({{"a1"}, {"a2"}, {"a3"}}));
         fields.setSubReport("subRight", run({{"b1"}}));

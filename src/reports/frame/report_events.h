@@ -6,7 +6,7 @@
 #include <functional>
 #include <memory>
 
-struct SubReportRun;
+struct ReportJobParts;
 
 // The controls of one section while it is formatted: their texts, as bound, and as the report's events change
 // them. A name that the section does not have is a fault of the report and throws std::logic_error.
@@ -19,14 +19,14 @@ class SectionFields {
     void setText(const QString& name, const QString& text) { states_[indexOf(name)].text = text; }
     void setVisible(const QString& name, bool visible) { states_[indexOf(name)].isVisible = visible; }
     void setPicture(const QString& name, const QString& path) { states_[indexOf(name)].text = path; }
-    void setSubReport(const QString& name, std::shared_ptr<SubReportRun> run) {
+    void setSubReport(const QString& name, std::shared_ptr<ReportJobParts> run) {
         states_[indexOf(name)].subReport = std::move(run);
     }
 
     struct State {
         QString text;
         bool isVisible = true;
-        std::shared_ptr<SubReportRun> subReport;
+        std::shared_ptr<ReportJobParts> subReport;
     };
     // By the place of the control in its section.
     State& state(qsizetype control) { return states_[control]; }
@@ -45,8 +45,9 @@ using FormatEvent = std::function<void(const ReportSource& row, SectionFields& f
 using ReportEvents = QHash<int, FormatEvent>;  // by SectionKind
 inline int on(SectionKind kind) { return static_cast<int>(kind); }
 
-// A report within a control of another: its detail lines, walked where the control stands.
-struct SubReportRun {
+// What a run of a report is made of. Within a control of another report its detail lines are walked where the
+// control stands.
+struct ReportJobParts {
     const ReportLayout& layout;
     std::unique_ptr<ReportSource> rows;
     ReportEvents events;

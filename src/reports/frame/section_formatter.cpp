@@ -104,7 +104,7 @@ class Layer {
         return std::max(control.height, used);
     }
 
-    int laySubReport(const ReportControl& control, SubReportRun& run, int top) {
+    int laySubReport(const ReportControl& control, ReportJobParts& run, int top) {
         const ReportSection* detail = run.layout.section(SectionKind::Detail);
         int bottom = top;
         while (detail && run.rows->next()) {
