@@ -1,0 +1,149 @@
+#include "reports/documents/document_parts.h"
+
+#include "foundation/shared_routines.h"
+#include "platform/masks.h"
+#include "platform/parsing.h"
+
+namespace {
+constexpr int lineOfText = 225;
+constexpr TextStyle tight{Typeface::Tahoma, 8, false, Qt::AlignLeft};
+constexpr TextStyle tightNumber{Typeface::Tahoma, 8, false, Qt::AlignRight};
+constexpr TextStyle tightCentred{Typeface::Tahoma, 8, false, Qt::AlignHCenter};
+constexpr TextStyle centredHead{Typeface::Tahoma, 8, true, Qt::AlignHCenter};
+constexpr TextStyle head{Typeface::Tahoma, 8, true, Qt::AlignLeft};
+constexpr TextStyle numberHead{Typeface::Tahoma, 8, true, Qt::AlignRight};
+
+int rightEdge(const ColumnPlace& column) { return column.left + column.width; }
+
+QList<ReportControl> companyBlock() {
+    return {image("imgCheck", 90, 90, 1350, 1170), label("lblCompany", "", 1530, 90, 9000, 270, bold(10)),
+            label("lblAddress", "", 1530, 360, 9000, lineOfText),
+            label("lblTelNo", "", 1530, 630, 9000, lineOfText)};
+}
+
+QList<ReportControl> partyBlock(const DocumentPaper& paper) {
+    return {label("lblParty", paper.party, 90, 1350, 900, lineOfText),
+            field("txtContactName", "ContactName", 990, 1350, 6210, lineOfText, bold()),
+            growing(field("txtAddress", "Address", 990, 1620, 6210, 540))};
+}
+
+QList<ReportControl> numberBlock(const DocumentPaper& paper) {
+    return {label("lblTitle", paper.title, 7650, 990, 3060, 300, bold(12)),
+            label("lblNumber", paper.number, 7650, 1350, 1080, lineOfText),
+            field("txtNumber", paper.numberColumn, 8820, 1350, 1890, lineOfText, bold()),
+            label("lblDate", paper.date, 7650, 1620, 1080, lineOfText),
+            field("txtDate", paper.dateColumn, 8820, 1620, 1890, lineOfText, {}, mask::date),
+            label("lblTerms", "Terms :", 7650, 1890, 1080, lineOfText),
+            field("txtTerms", "Terms", 8820, 1890, 1890, lineOfText, {}, plainDigits)};
+}
+
+ReportControl columnHead(const char* name, const QString& text, const ColumnPlace& place,
+                         const TextStyle& style) {
+    return label(name, text, place.left, 2340, place.width, lineOfText, style);
+}
+
+QList<ReportControl> columnHeads(const DocumentPaper& paper) {
+    const DocumentColumns& at = paper.columns;
+    return {columnHead("lblOrdered", "Ordered", at.ordered, numberHead),
+            columnHead("lblMoved", paper.moved, at.moved, numberHead),
+            columnHead("lblUnit", "Unit", at.unit, centredHead),
+            columnHead("lblItemCode", "Item Code", at.item, head),
+            columnHead("lblDescription", "Description", at.description, head),
+            columnHead("lblGross", "Gross", at.gross, numberHead),
+            columnHead("lblDiscount", "Discount", {at.discount.left, at.discount.width + 180}, numberHead),
+            columnHead("lblNet", "Net Price", at.net, numberHead),
+            columnHead("lblAmount", "Amount", at.amount, numberHead)};
+}
+
+ReportControl lineText(const char* name, const char* column, const ColumnPlace& place) {
+    return growing(field(name, column, place.left, 30, place.width, lineOfText, tight));
+}
+
+ReportControl lineNumber(const char* name, const char* column, const ColumnPlace& place,
+                         const char* numberMask) {
+    return field(name, column, place.left, 30, place.width, lineOfText, tightNumber, numberMask);
+}
+
+void fillHeading(Connection& store, const ReportSource& row, SectionFields& fields) {
+    fields.setText("lblCompany", GetCompanyName(store));
+    fields.setText("lblAddress", GetCompanyAddress(store));
+    fields.setText("lblTelNo", GetCompanyTelNo(store));
+    if (const QString logo = GetCompanyLogo(store); !logo.isEmpty()) fields.setPicture("imgCheck", logo);
+    fields.setText("txtAddress", row.text("Address") + '\n' + row.text("TelNo"));
+    fields.setText("txtTerms", trim(fields.text("txtTerms")) + " Days");
+}
+
+// Rounded once, as a whole.
+Currency netPrice(Currency gross, Currency discount) {
+    return Currency::fromDouble(gross.toDouble() - gross.toDouble() * (discount.toDouble() / 100.0));
+}
+
+// The discount is a percent of the gross price; the amount of the line is printed as stored.
+void fillLine(Connection& store, const ReportSource& row, SectionFields& fields) {
+    fields.setText("txtProductDes", LookupField(store, "ItemCode", "tblItemMaster", "Description",
+                                                row.text("ItemID"), LookupMode::DisplayText));
+    const Currency discount = numberOrZero(fields.text("txtDiscount"));
+    if (discount.isZero()) fields.setText("txtDiscount", formatNumber(discount, mask::percent));
+    fields.setText("txtNet", formatNumber(netPrice(row.currency("UnitPrice"), discount), mask::price));
+}
+
+void fillFooter(Connection& store, const DocumentPaper& paper, Currency total, SectionFields& fields) {
+    using Person = QString (*)(Connection&);
+    static const QHash<QString, Person> people{
+        {"lblPrepared", GetPreparedBy}, {"lblChecked", GetCheckedBy}, {"lblApproved", GetApprovedBy}};
+    fields.setText(paper.totalName, formatNumber(total, mask::amount));
+    for (const Signature& signature : paper.signatures)
+        fields.setText(signature.name, people[signature.name](store));
+}
+}  // namespace
+
+ReportSection documentHeader(const DocumentPaper& paper) {
+    const int left = paper.columns.ordered.left;
+    const ReportControl rule = line("linHead", left, 2250, rightEdge(paper.columns.amount) - left);
+    return section(
+        SectionKind::PageHeader, 2670,
+        companyBlock() + partyBlock(paper) + numberBlock(paper) + QList{rule} + columnHeads(paper));
+}
+
+ReportSection documentLine(const DocumentPaper& paper) {
+    const DocumentColumns& at = paper.columns;
+    return section(SectionKind::Detail, 285,
+                   {lineNumber("txtOrdered", "Ordered", at.ordered, plainDigits),
+                    lineNumber("txtMoved", paper.moved, at.moved, plainDigits),
+                    field("txtUnit", "Unit", at.unit.left, 30, at.unit.width, lineOfText, tightCentred),
+                    lineText("txtItemCode", "ItemID", at.item), lineText("txtProductDes", "", at.description),
+                    lineNumber("txtGross", "UnitPrice", at.gross, mask::price),
+                    lineNumber("txtDiscount", "Discount", at.discount, plainDigits),
+                    label("txtSymbol", "%", rightEdge(at.discount), 30, 180, lineOfText, tight),
+                    lineNumber("txtNet", "", at.net, nullptr),
+                    lineNumber("txtTotal", "Total", at.amount, mask::amount)});
+}
+
+ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportControl>& more) {
+    const DocumentColumns& at = paper.columns;
+    QList<ReportControl> controls{
+        label("lblRemarks", "Remarks : ", 90, 90, 900, lineOfText),
+        growing(field("txtParticulars", "Remarks", 990, 90, 6210, 540)),
+        label("lblTotal", "Total = ", at.net.left, 90, at.net.width, lineOfText, numberHead),
+        field(paper.totalName, "", at.amount.left, 90, at.amount.width, lineOfText, numberHead)};
+    for (const Signature& signature : paper.signatures)
+        controls += {label(QString("lbl") + signature.caption, signature.caption, signature.left, 810, 2700,
+                           lineOfText),
+                     label(signature.name, "", signature.left, 1530, 2700, lineOfText)};
+    return section(SectionKind::ReportFooter, 2325, controls + more);
+}
+
+ReportEvents documentEvents(Connection& store, const DocumentPaper& paper) {
+    const auto total = std::make_shared<Currency>();
+    return {
+        {on(SectionKind::PageHeader),
+         [&store](const ReportSource& row, SectionFields& fields) { fillHeading(store, row, fields); }},
+        {on(SectionKind::Detail),
+         [&store, total](const ReportSource& row, SectionFields& fields) {
+             fillLine(store, row, fields);
+             *total += numberOrZero(fields.text("txtTotal"));
+         }},
+        {on(SectionKind::ReportFooter), [&store, &paper, total](const ReportSource&, SectionFields& fields) {
+             fillFooter(store, paper, *total, fields);
+         }}};
+}

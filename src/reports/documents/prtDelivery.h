@@ -1,0 +1,12 @@
+#pragma once
+#include "reports/frame/report_events.h"
+
+#include <optional>
+
+class Connection;
+
+// The delivery receipt of a sale: who gets what at which price, with the signatures of both sides.
+const ReportLayout& prtDelivery();
+
+// Its run for one number; none when nothing is to be printed. The store must outlive the run.
+std::optional<ReportJobParts> deliveryReport(Connection& store, const QString& refNo);

@@ -1,0 +1,12 @@
+#pragma once
+#include "reports/frame/report_events.h"
+
+#include <optional>
+
+class Connection;
+
+// The purchase order: what is ordered from a supplier at which price, with the signatures of the firm.
+const ReportLayout& prtPurchase();
+
+// Its run for one number; none when nothing is to be printed. The store must outlive the run.
+std::optional<ReportJobParts> purchaseReport(Connection& store, const QString& purchaseNo);

@@ -1,0 +1,142 @@
+#include "platform/store/connection.h"
+#include "reports/documents/prtDelivery.h"
+#include "reports/documents/prtPurchase.h"
+#include "reports/frame/report_fonts.h"
+#include "reports/frame/report_output.h"
+#include "reports/frame/report_run.h"
+#include "reports/inventory/prtReorder.h"
+#include "support/test_store.h"
+
+#include <QFontMetrics>
+
+namespace {
+using Report = std::function<std::optional<ReportJobParts>(Connection&, const QString&)>;
+
+ReportPages pagesOf(std::optional<ReportJobParts> report) {
+    if (!report) return {};
+    return runReport(report->layout, *report->rows, report->events);
+}
+
+// The heading, signatures and masters that the papers are made from.
+void fillFirm(Connection& store) {
+    store.run("DELETE FROM tblSystemProfile");
+    store.run(
+        {"INSERT INTO tblSystemProfile (CompanyName, CompanyAddress, CompanyTelNo, Prepared, Checked, "
+         "Approved) VALUES (?, ?, ?, ?, ?, ?)",
+         {"Mabini Trading", "12 Colon Street, Cebu City", "(032) 255-0101", "Maria Dizon", "Jun Abella",
+          "Rosa Abella"}});
+    addContact(store, {.id = "C1", .name = "Ana Cruz & Sons", .terms = amount(30)});
+    store.run({"UPDATE tblContactMaster SET Address = ?, TelNo = ?", {"7 Mango Avenue", "0917 555 0101"}});
+    addItem(store, {.code = "NAIL-2", .description = "Common nail 2 inch", .unit = "KG"});
+    addItem(store, {.code = "CEM-40", .description = "Portland cement in a bag of forty kilograms"});
+}
+
+// A label and its place from the left margin and from the top of its section.
+struct Place {
+    const char* text;
+    int left, top;
+};
+
+// The document of one kind of paper, its lines as a table: item, quantity, price, discount.
+struct Paper {
+    const char* name;
+    Report report;
+    void (*add)(Connection&, const DocumentRow&);
+    const char* lines;
+    const char* master;
+    std::vector<Place> heading, foot;
+};
+const Paper papers[] = {
+    {"delivery",
+     deliveryReport,
+     addSale,
+     "tblSalesDetails",
+     "tblSalesMaster",
+     {{"Mabini Trading", 1530, 90},
+      {"12 Colon Street, Cebu City", 1530, 360},
+      {"(032) 255-0101", 1530, 630},
+      {"Delivery Receipt", 7650, 990},
+      {"Sold To :", 90, 1350},
+      {"D.R. No. :", 7650, 1350},
+      {"Terms :", 7650, 1890},
+      {"Item Code", 2790, 2340},
+      {"Description", 3870, 2340}},
+     {{"Maria Dizon", 90, 1530},
+      {"Jun Abella", 3330, 1530},
+      {"RECEIVED THE ABOVE ARTICLES IN GOOD CONDITION :", 6120, 810},
+      {"BY :", 6120, 1080},
+      {"CUSTOMER SIGNATURE / REPRESENTATIVE SIGNATURE", 6120, 1890}}},
+    {"purchase",
+     purchaseReport,
+     addPurchase,
+     "tblPurchaseDetails",
+     "tblPurchaseMaster",
+     {{"Mabini Trading", 1530, 90},
+      {"12 Colon Street, Cebu City", 1530, 360},
+      {"(032) 255-0101", 1530, 630},
+      {"Purchase Order", 7650, 990},
+      {"Supplier :", 90, 1350},
+      {"P.O. No. :", 7650, 1350},
+      {"Terms :", 7650, 1890},
+      {"Item Code", 2970, 2340},
+      {"Description", 4050, 2340}},
+     {{"Maria Dizon", 90, 1530}, {"Jun Abella", 3510, 1530}, {"Rosa Abella", 6930, 1530}}}};
+
+class Documents : public ::testing::TestWithParam<Paper> {
+  protected:
+    void SetUp() override { fillFirm(store()); }
+    Connection& store() { return store_.connection(); }
+    void add(std::vector<LineRow> lines) {
+        GetParam().add(store(), {"000123", QDate(2026, 3, 9), "C1", std::move(lines)});
+    }
+    void run(const QString& statement, const QVariantList& values = {}) { store().run({statement, values}); }
+    ReportPages pages() { return pagesOf(GetParam().report(store(), "000123")); }
+
+    TestStore store_;
+};
+}  // namespace
+
+TEST_P(Documents, ThreePages) {
+    add(std::vector<LineRow>(85, {"NAIL-2", amount(1), amount(10)}));
+    EXPECT_EQ(pages().pages.size(), 3u);
+}
+
+TEST_P(Documents, NothingForANumberWithoutLines) {
+    add({});
+    EXPECT_FALSE(GetParam().report(store(), "000123"));
+    EXPECT_FALSE(GetParam().report(store(), "' OR '1'='1"));
+}
+
+// Where people look for them, and where the signatures go.
+TEST_P(Documents, LabelsStandAtTheirPlaces) {
+    add({{"NAIL-2", amount(1), amount(10)}});
+    const ReportPages paper = pages();
+    ASSERT_EQ(paper.pages.size(), 1u);
+    const auto check = [&](const std::vector<Place>& places, int sectionTop) {
+        for (const Place& wanted : places) {
+            const auto& items = paper.pages[0].items;
+            const auto found = std::find_if(items.begin(), items.end(),
+                                            [&](const PageItem& item) { return item.text == wanted.text; });
+            ASSERT_NE(found, items.end()) << wanted.text;
+            EXPECT_EQ(found->place.topLeft(), QPoint(650 + wanted.left, sectionTop + wanted.top))
+                << wanted.text;
+            EXPECT_EQ(paper.styles[found->style].alignment, Qt::AlignLeft) << wanted.text;
+        }
+    };
+    check(GetParam().heading, 750);
+    check(GetParam().foot, 750 + 2670 + 285);
+}
+
+INSTANTIATE_TEST_SUITE_P(Papers, Documents, ::testing::ValuesIn(papers),
+                         [](const auto& paper) { return std::string(paper.param.name); });
+
+TEST(Papers, NoLabelIsCutAtItsControl) {
+    for (const ReportLayout* layout : {&prtDelivery(), &prtPurchase(), &prtReorder()})
+        for (const ReportSection& section : layout->sections)
+            for (const ReportControl& control : section.controls) {
+                const QFontMetrics metrics(fontInTwips(control.style));
+                EXPECT_LE(metrics.horizontalAdvance(control.text), control.width)
+                    << qPrintable(layout->name + ": " + control.text);
+                EXPECT_LE(control.left + control.width, layout->page.printWidth) << qPrintable(control.name);
+            }
+}
