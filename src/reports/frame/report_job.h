@@ -1,0 +1,33 @@
+#pragma once
+#include "reports/frame/report_output.h"
+#include "reports/frame/report_run.h"
+
+// A report in progress and all that it stands on: its layout, its rows and its events.
+class ReportJob {
+  public:
+    ReportJob(ReportLayout layout, std::unique_ptr<ReportSource> rows, ReportEvents events,
+              reportOutput::Rendering rendering = reportOutput::Rendering::Full)
+        : layout_(std::move(layout)),
+          rows_(std::move(rows)),
+          run_(layout_, *rows_, std::move(events)),
+          rendering_(rendering) {}
+    ReportJob(const ReportJob&) = delete;
+    ReportJob& operator=(const ReportJob&) = delete;
+
+    const ReportLayout& layout() const { return layout_; }
+    reportOutput::Rendering rendering() const { return rendering_; }
+    const ReportPages& pages() const { return run_.pages(); }
+    bool layOutPage() { return run_.layOutPage(); }
+    bool isComplete() const { return run_.isComplete(); }
+    // The pages that can be looked at: while the report is not complete, the last one is still being filled.
+    int shownPages() const {
+        const int count = static_cast<int>(pages().pages.size());
+        return isComplete() ? count : std::max(0, count - 1);
+    }
+
+  private:
+    ReportLayout layout_;
+    std::unique_ptr<ReportSource> rows_;
+    ReportRun run_;
+    reportOutput::Rendering rendering_;
+};

@@ -1,0 +1,101 @@
+#include "reports/frame/report_printer.h"
+
+#include "platform/ui/boxes.h"
+#include "platform/ui/file_dialogs.h"
+#include "platform/ui/front_watch.h"
+
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+namespace {
+bool hasPrinter() {
+    if (!QPrinterInfo::availablePrinterNames().isEmpty()) return true;
+    showBox(exclamation("No Printer!",
+                        "There is no printer on this machine. Add one in the settings of the desktop, then "
+                        "print again."));
+    return false;
+}
+
+bool sendOrTell(QPrinter& printer, const ReportPages& pages, reportOutput::Rendering rendering,
+                Progress& progress) {
+    const QString failure = reportPrinter::sendPages(printer, pages, rendering, progress);
+    if (failure.isEmpty()) return true;
+    showBox(exclamation("Not Printed!", failure));
+    return false;
+}
+
+struct PageRange {
+    int first, last;  // from 0
+};
+
+PageRange chosenRange(const QPrinter& printer, const ReportPages& pages) {
+    const int last = static_cast<int>(pages.pages.size()) - 1;
+    if (printer.printRange() != QPrinter::PageRange || printer.fromPage() == 0) return {0, last};
+    return {std::clamp(printer.fromPage() - 1, 0, last), std::clamp(printer.toPage() - 1, 0, last)};
+}
+
+void paint(QPainter& painter, const QPrinter& printer, const ReportPages& pages, int page,
+           reportOutput::Rendering rendering) {
+    painter.save();
+    painter.scale(printer.logicalDpiX() / 1440.0, printer.logicalDpiY() / 1440.0);
+    reportOutput::paintPage(painter, pages, static_cast<std::size_t>(page), rendering);
+    painter.restore();
+}
+}  // namespace
+
+namespace reportPrinter {
+
+void setUpPaper(QPrinter& printer, const ReportPages& pages) {
+    const QSize paper = pages.setup.paper();
+    const bool isLandscape = paper.width() > paper.height();
+    const QSizeF upright = QSizeF(isLandscape ? paper.transposed() : paper) / 20.0;
+    printer.setPageLayout(QPageLayout(QPageSize(upright, QPageSize::Point),
+                                      isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+                                      QMarginsF(), QPageLayout::Point));
+    printer.setFullPage(true);
+    printer.setDocName(pages.caption);
+}
+
+QString sendPages(QPrinter& printer, const ReportPages& pages, reportOutput::Rendering rendering,
+                  Progress& progress) {
+    const QString failure = "The printer took no pages. Look at the printer, then print again.";
+    const auto [first, last] = chosenRange(printer, pages);
+    QPainter painter;
+    if (last < first || !painter.begin(&printer)) return failure;
+    progress.begin("Printing...", last - first + 1);
+    bool isSent = true;
+    for (int page = first; page <= last && isSent; ++page) {
+        if (page > first) isSent = printer.newPage();
+        if (isSent) paint(painter, printer, pages, page, rendering);
+        progress.setValue(page - first + 1);
+    }
+    progress.end();
+    if (!isSent) printer.abort();
+    return painter.end() && isSent ? QString() : failure;
+}
+
+bool printWithDialog(const ReportPages& pages, reportOutput::Rendering rendering, QWidget* parent,
+                     Progress& progress) {
+    if (!hasPrinter()) return false;
+    QPrinter printer(QPrinterInfo::printerInfo(desk::printerName()), QPrinter::HighResolution);
+    setUpPaper(printer, pages);
+    {
+        const FrontHold hold;
+        QPrintDialog dialog(&printer, parent);
+        dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+        dialog.setMinMax(1, static_cast<int>(pages.pages.size()));
+        if (dialog.exec() != QDialog::Accepted) return false;
+    }
+    return sendOrTell(printer, pages, rendering, progress);
+}
+
+bool printAtOnce(const ReportPages& pages, reportOutput::Rendering rendering, Progress& progress) {
+    if (!hasPrinter()) return false;
+    QPrinter printer(QPrinterInfo::printerInfo(desk::printerName()), QPrinter::HighResolution);
+    setUpPaper(printer, pages);
+    return sendOrTell(printer, pages, rendering, progress);
+}
+
+}  // namespace reportPrinter
