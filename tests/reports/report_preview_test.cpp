@@ -71,7 +71,9 @@ class ReportPreviewTest : public ::testing::Test {
     }
     static PageView* view(ReportPreview* preview) { return preview->findChild<PageView*>(); }
     void saveTo(const QString& path) {
-        desk::setDoors({.saveFile = [path](const QString&) { return path; }});
+        desk::Doors doors;
+        doors.saveFile = [path](const QString&) { return path; };
+        desk::setDoors(doors);
     }
 
     QTemporaryDir folder_;
@@ -93,7 +95,7 @@ TEST_F(ReportPreviewTest, PageOneIsThereBeforeTheEndAndItsCountIsPending) {
     EXPECT_EQ(finished, 0);
     ASSERT_TRUE(QTest::qWaitFor([&] { return finished > 0; }, 20000));
     EXPECT_TRUE(preview->job().isComplete());
-    EXPECT_EQ(person::read(preview, "lblPages").trimmed(), "of 105");
+    EXPECT_EQ(person::read(preview, "lblPages").trimmed(), "of 100");
     EXPECT_TRUE(preview->findChild<QAction*>("tbrPages_SavePdf")->isEnabled());
     EXPECT_EQ(finished, 1);
 }
@@ -164,7 +166,7 @@ TEST_F(ReportPreviewTest, SearchFindsOnEveryPageAndGoesAround) {
     person::type("customer 99");
     EXPECT_EQ(preview->search().hits().size(), 11u);  // 99 and 990 to 999
     EXPECT_EQ(person::read(preview, "lblHits").trimmed(), "1 of 11");
-    EXPECT_EQ(view(preview)->page(), 2);
+    EXPECT_EQ(view(preview)->page(), 1);
     person::press(Qt::Key_Return);
     EXPECT_EQ(view(preview)->page(), preview->job().shownPages() - 1);
     person::press(Qt::Key_F3, Qt::ShiftModifier);
@@ -279,10 +281,10 @@ TEST_F(ReportPreviewTest, AFaultOnTheWayIsTold) {
 }
 
 TEST_F(ReportPreviewTest, AThousandPagesComeWithoutAPause) {
-    ReportPreview* preview = open(48000);
+    ReportPreview* preview = open(52000);
     QElapsedTimer turn;
     qint64 longest = 0;
-    person::press(Qt::Key_T, Qt::ControlModifier);
+    preview->toggleThumbnails();
     while (!preview->job().isComplete()) {
         turn.start();
         QTest::keyClick(view(preview), Qt::Key_PageDown);

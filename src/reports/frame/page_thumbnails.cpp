@@ -46,6 +46,9 @@ QPixmap PageThumbnails::picture(int page) const {
     const double scale = double(picture.width()) / job_.pages().setup.paperWidth;
     painter.scale(scale, scale);
     reportOutput::paintPage(painter, job_.pages(), static_cast<std::size_t>(page), job_.rendering());
+    painter.resetTransform();
+    painter.setPen(Qt::gray);
+    painter.drawRect(0, 0, picture.width() - 1, picture.height() - 1);
     painter.end();
     picture.setDevicePixelRatio(devicePixelRatio_);
     pictures_.insert(page, new QPixmap(picture));

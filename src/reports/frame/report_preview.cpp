@@ -18,6 +18,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -98,7 +99,7 @@ void ReportPreview::addCommands(QToolBar* bar, const QStringList& names) {
         const auto command = std::ranges::find(commands(), name, &Command::name);
         const QString keys =
             QKeySequence::listFromString(command->keys).first().toString(QKeySequence::NativeText);
-        QAction* added = bar->addAction(bundledIcon(command->icon), command->text);
+        QAction* added = bar->addAction(bundledIcon(command->icon), QString());
         added->setObjectName(bar->objectName() + "_" + name);
         added->setToolTip(QString("%1 (%2)").arg(command->text, keys));
         connect(added, &QAction::triggered, this, [this, command] { run(*command); });
@@ -141,8 +142,10 @@ void ReportPreview::buildBars() {
     pages->addWidget(lblPages);
     addCommands(pages, {"Next", "Last"});
     pages->addSeparator();
-    QAction* close = pages->addAction(bundledIcon("close"), "Close");
+    QAction* close = pages->addAction(bundledIcon("close"), QString());
     close->setObjectName("tbrPages_Close");
+    pages->widgetForAction(close)->setObjectName("tbrPages_Close");
+    pages->widgetForAction(close)->setAccessibleName("Close");
     close->setToolTip("Close (Esc)");
     connect(close, &QAction::triggered, this, &ReportPreview::CloseRecord, Qt::QueuedConnection);
 
@@ -194,11 +197,12 @@ void ReportPreview::buildThumbnails() {
     lvwPages->setWrapping(false);
     lvwPages->setMovement(QListView::Static);
     lvwPages->setUniformItemSizes(true);
-    lvwPages->setSpacing(4);
     lvwPages->setVerticalScrollMode(QListView::ScrollPerPixel);
     lvwPages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     lvwPages->setIconSize(thumbnails_->pictureSize());
-    lvwPages->setFixedWidth(thumbnails_->pictureSize().width() + form::charactersWide(lvwPages, 6));
+    const QSize cell = thumbnails_->pictureSize() + QSize(24, lvwPages->fontMetrics().height() + 16);
+    lvwPages->setGridSize(cell);
+    lvwPages->setFixedWidth(cell.width() + lvwPages->verticalScrollBar()->sizeHint().width() + 8);
     lvwPages->setModel(thumbnails_);
     lvwPages->hide();
     connect(lvwPages->selectionModel(), &QItemSelectionModel::currentChanged, this,
