@@ -4,6 +4,7 @@
 #include "platform/ui/combo_box.h"
 #include "platform/ui/screen_registry.h"
 #include "platform/ui/text_box.h"
+#include "sales/sales_document.h"
 #include "support/screen_tour.h"
 
 #include <QCheckBox>
@@ -212,6 +213,25 @@ TEST_F(HostileTexts, AreHeldWholeByEveryField) {
     }
     EXPECT_GT(fields, 32 * 30);
     EXPECT_EQ(itemFigure("SellingPrice"), "10.00");
+}
+
+// What a document stores of them, down to its lines.
+TEST_F(HostileTexts, AreStoredExactlyOnDocuments) {
+    const Currency one = Currency::fromInteger(1);
+    for (const QString& hostile : hostileTexts()) {
+        SCOPED_TRACE(qPrintable(hostile.left(40)));
+        OrderDocument sale = newOrder(store(), salesOrders);
+        sale.contactName = "Cora Store";
+        sale.remarks = hostile;
+        sale.lines = {makeOrderLine("1001", "RICE", hostile, one, Currency(), one, Currency())};
+        ASSERT_TRUE(isDone(saveOrder(store(), salesOrders, sale)));
+        const Recordset master =
+            store().execute({"SELECT Remarks FROM tblSalesMaster WHERE RefNo = ?", {sale.code}});
+        const Recordset line =
+            store().execute({"SELECT Unit FROM tblSalesDetails WHERE Reference = ?", {sale.code}});
+        EXPECT_EQ(master.text("Remarks"), trim(hostile));
+        EXPECT_EQ(line.text("Unit"), trim(hostile));
+    }
 }
 
 // The apostrophe as a key: the free text fields do not take it.
