@@ -7,16 +7,6 @@
 namespace {
 const Currency most = Currency::fromTenThousandths(std::numeric_limits<qint64>::max());
 
-// Records what a pass tells its progress box.
-struct RecordedProgress : Progress {
-    void begin(const QString& text, qint64 maximum) override {
-        told += QString("%1 %2").arg(text).arg(maximum);
-    }
-    void setValue(qint64 value) override { last = value; }
-    void end() override { told += "end"; }
-    QStringList told;
-    qint64 last = 0;
-};
 }  // namespace
 
 class BalancesTest : public BooksTest {
@@ -34,31 +24,6 @@ class BalancesTest : public BooksTest {
             "INSERT INTO tblReceiptMaster (PayNo, CustomerNo, PaymentAmount, TotalDiscAmount) VALUES (?, "
             "'C1', ?, ?)",
             {++zevRef_, paid, granted});
-    }
-    void addPurchaseOf(const QString& number, Currency total, const QDate& date = day(1)) {
-        write(
-            "INSERT INTO tblPurchaseMaster (PurchaseNo, PurchaseDate, ContactNo, PurchaseAmount) VALUES (?, "
-            "?, "
-            "'C1', ?)",
-            {number, date, bound(total)});
-    }
-    void addVoucherLine(const QString& purchase, Currency paid, bool direct) {
-        write(
-            "INSERT INTO tblDisbursementDetails (VoucherID, PuchaseID, PayAmount, DirectPayment) VALUES "
-            "('V1', ?, ?, "
-            "?)",
-            {purchase, bound(paid), direct});
-    }
-    void addDelivery(const QString& number, const QString& item, Currency quantity) {
-        write("INSERT INTO tblPurchaseDetails (Reference, ItemID, Delivered) VALUES (?, ?, ?)",
-              {number, item, bound(quantity)});
-    }
-    void addServed(const QString& refNo, const QString& item, Currency quantity) {
-        write("INSERT INTO tblSalesDetails (Reference, ItemID, Served) VALUES (?, ?, ?)",
-              {refNo, item, bound(quantity)});
-    }
-    Currency salesBalance(const QString& refNo) {
-        return currency("SELECT Balance AS v FROM tblSalesMaster WHERE RefNo = ?", {refNo});
     }
 
   private:
@@ -92,41 +57,11 @@ TEST_F(BalancesTest, AReceivableIsTheSaleLessThePayment) {
     }
 }
 
-TEST_F(BalancesTest, AKeyWithoutRowsHasNoBalance) {
-    EXPECT_EQ(SalesBalance(store, "none"), Currency());
-    EXPECT_EQ(PurchaseBalance(store, "none"), Currency());
-    EXPECT_EQ(CustomerBalance(store, "none"), Currency());
-    EXPECT_EQ(SupplierBalance(store, "none"), Currency());
-    EXPECT_EQ(ItemBalance(store, "none"), Currency());
-    EXPECT_EQ(ServedOnOrder(store, "none", "none"), Currency());
-    EXPECT_EQ(ItemBalanceBetween(store, "none", day(1)), Currency());
-}
-
-TEST_F(BalancesTest, ADirectPaymentIsNoPaymentOfThePurchase) {
-    addPurchaseOf("P1", amount(500));
-    write("INSERT INTO tblDisbursementMaster (VoucherNo, ContactNo) VALUES ('V1', 'C1')");
-    addVoucherLine("P1", amount(120), false);
-    addVoucherLine("P1", amount(300), true);
-    EXPECT_EQ(PurchaseBalance(store, "P1"), amount(380));
-    EXPECT_EQ(SupplierBalance(store, "C1"), amount(380));
-    addVoucherLine("P1", amount(-20), false);
-    EXPECT_EQ(PurchaseBalance(store, "P1"), amount(400));
-}
-
-TEST_F(BalancesTest, StockCountsDeliveredLessServed) {
+TEST_F(BalancesTest, ALineWithoutADocumentCountsButOnNoDay) {
     addItems({"A"});
-    addPurchaseOf("P1", amount(0), day(10));
-    addSaleOf("S1", amount(0), day(5));
-    addDelivery("P1", "a", amount(7.5));
-    addServed("S1", "A", amount(10));
-    addServed("S1", "A", amount(0.25));
-    addDelivery("gone", "A", amount(100));
-    EXPECT_EQ(ItemBalance(store, "A"), amount(97.25));
-    EXPECT_EQ(ServedOnOrder(store, "A", "S1"), amount(10.25));
-    EXPECT_EQ(ItemBalanceBetween(store, "A", day(4)), amount(0));
-    EXPECT_EQ(ItemBalanceBetween(store, "A", day(9)), amount(-10.25));
-    EXPECT_EQ(ItemBalanceBetween(store, "A", day(10)), amount(-2.75))
-        << "both ends inside, lines without a document not";
+    write("INSERT INTO tblPurchaseDetails (Reference, ItemID, Delivered) VALUES ('gone', 'A', 10000)");
+    EXPECT_EQ(ItemBalance(store, "A"), amount(1));
+    EXPECT_EQ(ItemBalanceBetween(store, "A", day(100)), amount(0));
 }
 
 TEST_F(BalancesTest, StoringTellsAMissingKeyAndUpdatingDoesNot) {
@@ -146,21 +81,6 @@ TEST_F(BalancesTest, StoringTellsAMissingKeyAndUpdatingDoesNot) {
         routines.store(store, "none", boxes);
         EXPECT_EQ(boxes, Boxes{exclamation("Error!", routines.text)});
     }
-}
-
-TEST_F(BalancesTest, StoredBalancesFollowTheBooks) {
-    Boxes boxes;
-    addItems({"A"});
-    addSaleOf("S1", amount(80));
-    addPurchaseOf("P1", amount(60));
-    addServed("S1", "A", amount(4));
-    UpdateSalesBalance(store, "s1", boxes);
-    UpdatePurchaseBalance(store, "P1", boxes);
-    UpdateItemBalance(store, "A", boxes);
-    EXPECT_EQ(salesBalance("S1"), amount(80));
-    EXPECT_EQ(currency("SELECT Balance AS v FROM tblPurchaseMaster"), amount(60));
-    EXPECT_EQ(currency("SELECT Balance AS v FROM tblItemMaster WHERE ItemCode = 'A'"), amount(-4));
-    EXPECT_EQ(boxes, Boxes());
 }
 
 TEST_F(BalancesTest, AnOverflowStopsNoOtherKey) {
@@ -208,24 +128,5 @@ TEST_F(BalancesTest, RecomputingWritesOnlyWhatChanged) {
     RecomputeReceivableBalances(store, Progress::none());
     Connection::setStatementHook({});
     EXPECT_EQ(writes, 1);
-    EXPECT_EQ(salesBalance("S2"), amount(99));
-}
-
-TEST_F(BalancesTest, EachPassShowsItsBox) {
-    addItems({"A", "B"});
-    const struct {
-        void (*recompute)(Connection&, Progress&);
-        const char* text;
-        int rows;
-    } cases[] = {
-        {RecomputeInventoryBalances, "Please Wait While System Computes for Inventory Balances... 2", 2},
-        {RecomputePayableBalances, "Please Wait While System Computes for Payable Balances... 0", 0},
-        {RecomputeReceivableBalances, "Please Wait While System Computes for Receivable Balances... 0", 0},
-    };
-    for (const auto& [recompute, text, rows] : cases) {
-        RecordedProgress progress;
-        recompute(store, progress);
-        EXPECT_EQ(progress.told, QStringList({text, "end"}));
-        EXPECT_EQ(progress.last, rows);
-    }
+    EXPECT_EQ(column("SELECT Balance FROM tblSalesMaster WHERE RefNo = 'S2'"), "990000");
 }

@@ -24,13 +24,6 @@ class BenchSumsTest : public testing::Test {
             EXPECT_EQ(rows, rowsOf(bareBooks.connection(), query)) << qPrintable(query);
         }
     }
-
-  private:
-    static QStringList rowsOf(Connection& store, const QString& query) {
-        QStringList rows;
-        for (auto row = store.execute(query); !row.eof(); row.moveNext()) rows += row.textAt(0);
-        return rows;
-    }
 };
 
 static const QString ledgerRows =

@@ -12,6 +12,12 @@ Boxes runEndOfDay(Connection& store) {
     return boxes;
 }
 
+QStringList rowsOf(Connection& store, const Sql& query) {
+    QStringList rows;
+    for (auto row = store.execute(query); !row.eof(); row.moveNext()) rows += row.textAt(0);
+    return rows;
+}
+
 void BooksTest::addItems(const QStringList& codes) {
     for (const QString& code : codes) addItem(store, {code, "Item " + code});
 }
@@ -40,9 +46,5 @@ Currency BooksTest::currency(const QString& statement, const QVariantList& value
 }
 
 QString BooksTest::column(const QString& statement, const QVariantList& values) {
-    QStringList texts;
-    for (auto rows = store.execute({"SELECT v FROM (" + statement + ")", values}); !rows.eof();
-         rows.moveNext())
-        texts += rows.text("v");
-    return texts.join(u' ');
+    return rowsOf(store, {statement, values}).join(u' ');
 }

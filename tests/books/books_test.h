@@ -9,6 +9,9 @@ inline QDate day(int number) { return QDate(2026, 1, 1).addDays(number - 1); }
 // Posts and costs all that waits; the boxes it gave.
 Boxes runEndOfDay(Connection& store);
 
+// The first column of a query, row by row.
+QStringList rowsOf(Connection& store, const Sql& query);
+
 // A delivered store with the contact C1 "Ana".
 class BooksTest : public testing::Test {
   protected:

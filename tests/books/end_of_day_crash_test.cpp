@@ -1,17 +1,11 @@
-#include "books_test.h"
 #include "books/posting_queue.h"
+#include "books_test.h"
 #include "support/crash_runner.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 void endTheDay(Connection& store) { EXPECT_EQ(runEndOfDay(store), Boxes()); }
-
-QStringList rowsOf(Connection& store, const char* statement) {
-    QStringList texts;
-    for (auto rows = store.execute(statement); !rows.eof(); rows.moveNext()) texts += rows.textAt(0);
-    return texts;
-}
 
 QStringList ledger(Connection& store) {
     return rowsOf(

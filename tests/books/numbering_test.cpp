@@ -22,13 +22,6 @@ TEST_F(NumberingTest, SerialFollowsWhateverTheCounterHolds) {
     EXPECT_EQ(NextPurchaseSerial(store), "1001");
 }
 
-TEST_F(NumberingTest, ASerialMayGoBack) {
-    StorePurchaseSerial(store, "5000");
-    StorePurchaseSerial(store, "1500");
-    EXPECT_EQ(NextPurchaseSerial(store), "1501");
-    EXPECT_EQ(documentNumber("11", NextPurchaseSerial(store), "2026"), "11-1501-2026");
-}
-
 TEST_F(NumberingTest, EveryReadTakesAKey) {
     const struct {
         RowKey key;

@@ -43,9 +43,3 @@ TEST_F(PostingQueueTest, EitherTableIsPending) {
     QueueItemForPosting(store, "A");
     EXPECT_TRUE(HasPendingPosting(store));
 }
-
-TEST_F(PostingQueueTest, FailuresGoToTheSave) {
-    write("DROP TABLE tblForPosting");
-    EXPECT_THROW(QueueBookForPosting(store, "S", "1", "C1", day(1)), StoreError);
-    EXPECT_THROW(RemoveForPosting(store, "S", "1"), StoreError);
-}

@@ -99,6 +99,7 @@ TEST_P(RandomBooksTest, StoredBalancesOfOneAndOfAllAreTheModels) {
 TEST_P(RandomBooksTest, TheLedgerIsTheModels) {
     const BooksModel model(books);
     const Boxes boxes = runEndOfDay(store);
+    EXPECT_FALSE(boxes.isEmpty()) << "the items without a master";
     for (const Box& box : boxes)
         EXPECT_EQ(box.text, "Inventory Balance could not be Updated! Item Not Found!");
     expectLedger(model);
