@@ -3,42 +3,34 @@
 using ::testing::HasSubstr;
 
 namespace {
-struct PriceCase {
-    const char* cost;
-    const char* discount;
-    const char* serve;
-    const char* netPrice;
-    const char* total;
-};
-
-class LinePrice : public ::testing::TestWithParam<PriceCase> {};
-
-TEST_P(LinePrice, FollowsCostDiscountAndServedQuantity) {
-    LineEntry entry;
-    entry.cost = GetParam().cost;
-    entry.discount = GetParam().discount;
-    entry.serve = GetParam().serve;
-    computeNetPrice(entry);
-    EXPECT_FALSE(computeLineTotal(entry));
-    EXPECT_EQ(entry.netPrice, GetParam().netPrice);
-    EXPECT_EQ(entry.total, GetParam().total);
+TEST(LinePrice, FollowsCostDiscountAndServedQuantity) {
+    const struct {
+        const char *cost, *discount, *serve, *netPrice, *total;
+    } cases[]{{"100.0000", "12.5", "1", "87.5000", "87.50"},
+              {"100.0000", "99.9999", "1", "0.0001", "0.00"},
+              // Without a discount the cost stands as it was typed.
+              {"7.5", "0", "2", "7.5", "15.00"},
+              {"7.5", "", "2", "7.5", "15.00"},
+              {"1,234.5000", "10", "3", "1,111.0500", "3,333.15"},
+              // The order counts nothing until it is served.
+              {"50.0000", "0", "0", "50.0000", "0.00"},
+              {"50.0000", "0", "", "50.0000", "0.00"},
+              // Printed halves of a centavo go away from zero.
+              {"0.0050", "0", "1", "0.0050", "0.01"},
+              {"0.0150", "0", "1", "0.0150", "0.02"},
+              // A product beyond the range is no number.
+              {"900000000000", "0", "900000000000", "900000000000", ""}};
+    for (const auto& row : cases) {
+        LineEntry entry;
+        entry.cost = row.cost;
+        entry.discount = row.discount;
+        entry.serve = row.serve;
+        computeNetPrice(entry);
+        EXPECT_FALSE(computeLineTotal(entry));
+        EXPECT_EQ(entry.netPrice, row.netPrice) << row.cost << ' ' << row.discount;
+        EXPECT_EQ(entry.total, row.total) << row.cost << " x " << row.serve;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Prices, LinePrice,
-    ::testing::Values(PriceCase{"100.0000", "12.5", "1", "87.5000", "87.50"},
-                      PriceCase{"100.0000", "99.9999", "1", "0.0001", "0.00"},
-                      // Without a discount the cost stands as it was typed.
-                      PriceCase{"7.5", "0", "2", "7.5", "15.00"}, PriceCase{"7.5", "", "2", "7.5", "15.00"},
-                      PriceCase{"1,234.5000", "10", "3", "1,111.0500", "3,333.15"},
-                      // The order counts nothing until it is served.
-                      PriceCase{"50.0000", "0", "0", "50.0000", "0.00"},
-                      PriceCase{"50.0000", "0", "", "50.0000", "0.00"},
-                      // Printed halves of a centavo go away from zero.
-                      PriceCase{"0.0050", "0", "1", "0.0050", "0.01"},
-                      PriceCase{"0.0150", "0", "1", "0.0150", "0.02"},
-                      // A product beyond the range is no number.
-                      PriceCase{"900000000000", "0", "900000000000", "900000000000", ""}));
 
 TEST(LineDiscount, StopsBelowOneHundred) {
     struct {
