@@ -8,7 +8,6 @@
 #include "shell/frmForUpload.h"
 #include "shell/register.h"
 #include "support/box_script.h"
-#include "support/screen_checks.h"
 #include "support/test_store.h"
 
 #include <QLabel>
@@ -63,12 +62,6 @@ class EndOfDayScreen : public SessionTest {
     qint64 count(const char* table) {
         return store().execute(Sql{QString("SELECT COUNT(*) AS Ihap FROM ") + table}).integer("Ihap");
     }
-    Currency salesCost(const QString& reference) {
-        return store()
-            .execute(
-                {"SELECT SalesCost FROM tblStockValuation WHERE BookID = 'S' AND Reference = ?", {reference}})
-            .currency("SalesCost");
-    }
     static void press(QWidget* screen, const char* button) {
         screen->findChild<QToolButton*>(button)->click();
     }
@@ -98,17 +91,6 @@ TEST_F(EndOfDayScreen, ListsPurchasesFirstAndEachBookByDate) {
                 ::testing::UnorderedElementsAre(QStringList{"I1", "Goods I1", "Ready for Processing"},
                                                 QStringList{"I2", "Goods I2", "Ready for Processing"}));
     EXPECT_EQ(screen->findChild<QLabel*>("lblStatus")->text(), QString("2"));
-    EXPECT_EQ(check::faults(screen), QStringList());
-}
-
-TEST_F(EndOfDayScreen, CostsASaleFromALaterPurchaseAndCloses) {
-    buyAndSell();
-    QPointer screen = open();
-    boxes.expect(success);
-    press(screen, "imgUpload");
-    EXPECT_EQ(salesCost("S1"), Currency::fromInteger(20));
-    EXPECT_FALSE(HasPendingPosting(store()));
-    EXPECT_EQ(ScreenRegistry::instance().opened("frmForUpload"), nullptr);
 }
 
 TEST_F(EndOfDayScreen, OnlyItemsQueuedShowsTheFirstProblemAndStillCosts) {

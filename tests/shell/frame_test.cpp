@@ -10,13 +10,13 @@
 #include "shell/frmShortcuts.h"
 #include "shell/menu_catalogue.h"
 #include "shell/screen_opening.h"
+#include "support/screen_checks.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMdiSubWindow>
 #include <QMenu>
 #include <QStatusBar>
 #include <QTest>
@@ -79,23 +79,6 @@ TEST_F(FrameTest, AUserReachesWhatTheirRowsGrantAndNothingElse) {
     EXPECT_EQ(panel(frame, "UserName")->text(), "Current User : clerk - Administrator");
 }
 
-TEST_F(FrameTest, NoKeyAndNoToolReachesAnItemThatIsShut) {
-    addUser(store(), "nobody", "abc");
-    logIn("nobody");
-    ScreenRegistry::instance().opened("frmReorder")->unload();
-    for (const QAction* action : frame->findChildren<QAction*>())
-        if (!action->shortcut().isEmpty()) {
-            EXPECT_FALSE(itemsWithARight().contains(action->objectName())) << "a key";
-            QTest::keySequence(frame, action->shortcut());
-        }
-    for (const ToolRow& tool : toolCatalogue())
-        EXPECT_FALSE(itemsWithARight().contains(tool.item)) << tool.key;
-    QStringList screens;
-    for (const ChildScreen* screen : ScreenRegistry::instance().openScreens())
-        screens << screen->objectName();
-    EXPECT_EQ(screens, QStringList{"frmSearch"});
-}
-
 TEST_F(FrameTest, TheAdministratorGetsTheRecordLockInPlaceOfTheHiddenItem) {
     logIn();
     EXPECT_EQ(item("mnuAdminItem_2")->text(), "&Transaction Record Lock...");
@@ -147,25 +130,6 @@ TEST_F(FrameTest, CommandsGoToTheActiveChildByNameAndMissOnesDoNothing) {
     EXPECT_EQ(first->calls, QStringList{"NewRecord"});
 }
 
-TEST_F(FrameTest, KeysWorkFromATextBox) {
-    logIn();
-    TestScreen* screen = open("frmItem");
-    auto* field = screen->findChild<QLineEdit*>("txtField");
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClick(field, Qt::Key_Delete, Qt::ShiftModifier);
-    EXPECT_EQ(field->text(), "typed text");
-    QTest::keyClick(field, Qt::Key_N, Qt::ControlModifier);
-    QTest::keyClick(field, Qt::Key_F5);
-    EXPECT_EQ(screen->calls, (QStringList{"DeleteRecord", "NewRecord", "RefreshRecord"}));
-    QTest::keyClick(field, Qt::Key_F, Qt::ControlModifier);
-    EXPECT_TRUE(opened("frmSearch"));
-    ScreenRegistry::instance().open("frmItem");
-    QTest::qWait(1);
-    QTest::keyClick(field, Qt::Key_W, Qt::ControlModifier);
-    EXPECT_FALSE(opened("frmItem"));
-}
-
 // Whatever kind of control has the focus, and without a change to what it holds.
 TEST_F(FrameTest, KeysWorkFromEveryKindOfField) {
     logIn();
@@ -205,28 +169,13 @@ TEST_F(FrameTest, KeysWorkFromEveryKindOfField) {
     choose("mnuEditItem_7");
     choose("mnuEditItem_2");
     EXPECT_EQ(open->text(), "");
+    QTest::keyClick(grid, Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(opened("frmSearch"));
+    ScreenRegistry::instance().open("frmItem");
     grid->setFocus();
+    QTest::qWait(1);
     QTest::keyClick(grid, Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(opened("frmItem"));
-}
-
-TEST_F(FrameTest, WithoutTheRightToDeleteNeitherMenuToolNorKeyDeletes) {
-    logIn();
-    TestScreen* screen = open("frmSalesGrid");
-    screen->mayDelete = false;
-    TestScreen* other = open("frmItem");
-    ScreenRegistry::instance().open("frmSalesGrid");
-    QTest::qWait(1);
-    EXPECT_FALSE(item("mnuRecordItem_3")->isEnabled());
-    EXPECT_FALSE(frame->findChild<QToolButton*>("tbrMain_Delete")->isEnabled());
-    choose("mnuRecordItem_3");
-    QTest::keyClick(screen->findChild<QLineEdit*>("txtField"), Qt::Key_Delete, Qt::ShiftModifier);
-    EXPECT_EQ(screen->calls, QStringList());
-    screen->unload();
-    QTest::qWait(1);
-    EXPECT_TRUE(item("mnuRecordItem_3")->isEnabled());
-    choose("mnuRecordItem_3");
-    EXPECT_EQ(other->calls, QStringList{"DeleteRecord"});
 }
 
 TEST_F(FrameTest, AReportScreenHidesTheReportsAsLongAsItIsOpen) {
@@ -275,6 +224,7 @@ TEST_F(FrameTest, ThePanelLiesOverTheEmptyFrameOnly) {
     waitForTimers();
     EXPECT_TRUE(shortcuts->isVisible());
     EXPECT_TRUE(shortcuts->property("mblnFocus").toBool());
+    EXPECT_EQ(check::unnamedControls(frame), QStringList());
     EXPECT_EQ(panelKeys(frame).first(), "frmSalesGrid");
     QTest::keyClick(frame->findChild<QListWidget*>("lvMenu"), Qt::Key_Return);
     ASSERT_TRUE(opened("frmSalesGrid"));
@@ -312,13 +262,6 @@ TEST_F(FrameTest, LogoffAndExitStopAfterACancelAndRemindOfTheEndOfDay) {
     EXPECT_FALSE(frame && frame->isVisible());
 }
 
-TEST_F(FrameTest, ExitEndsTheProcessWithoutAReminderWhenNothingWaits) {
-    BoxScript noBoxes;
-    logIn();
-    frame->findChild<QToolButton*>("tbrMain_Exit")->click();
-    EXPECT_EQ(ended, 1);
-}
-
 TEST_F(FrameTest, AQueueThatCannotBeReadKeepsNobodyIn) {
     BoxScript noBoxes;
     logIn();
@@ -353,13 +296,6 @@ TEST_F(FrameTest, ListsWithoutRowsSayThatThereIsNothingToPrint) {
     store().run("INSERT INTO tblContactMaster (ContactID, ContactName) VALUES ('1', 'Anna')");
     boxes.expect("Zevrin!", "\"Print Contact Directory Listing\" is not part of this version yet.");
     choose("mnuReportItem_25");
-}
-
-TEST_F(FrameTest, AScreenOfALaterVersionSaysSoOnlyToWhoeverAsksForIt) {
-    BoxScript boxes;
-    openIfKnown("frmNoSuchScreen");
-    boxes.expect("Zevrin!", "\"Print Bar Code\" is not part of this version yet.");
-    openChosenScreen("frmNoSuchScreen", {}, "Print Bar Code");
 }
 
 TEST_F(FrameTest, TheBalancesAreRecomputedOnlyAfterAYes) {
@@ -414,20 +350,6 @@ TEST_F(FrameTest, NoArrangementMakesAScreenSmallerThanItCanBeRead) {
         EXPECT_GE(room.width(), 700) << arrangement;
         EXPECT_GE(room.height(), 500) << arrangement;
     }
-}
-
-TEST_F(FrameTest, NothingOfAClosedScreenStays) {
-    logIn();
-    for (int i = 0; i < 20; ++i) {
-        open("frmItem")->unload();
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QTest::qWait(1);
-    }
-    opened("frmReorder")->unload();
-    QTest::qWait(1);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_TRUE(frame->findChildren<QMdiSubWindow*>().isEmpty());
-    EXPECT_TRUE(frame->findChildren<ChildScreen*>().isEmpty());
 }
 
 TEST_F(FrameTest, FilesThatTheDesktopCannotOpenAreTold) {

@@ -124,9 +124,4 @@ TEST_F(RecordLockTest, LeavingTheNumberReadsItsStatus) {
     EXPECT_EQ(buttons(), qMakePair(true, false));
 }
 
-TEST_F(RecordLockTest, AnUnknownJournalIsRefused) {
-    const Outcome outcome = changeLock(store(), LockChange::Lock, "Bad Order Entry", "1", true);
-    EXPECT_EQ(std::get<Fault>(outcome).box.text, "Please Select Transaction Journal First!");
-}
-
 }  // namespace

@@ -2,8 +2,6 @@
 #include "platform/ui/list_view.h"
 #include "shell/frmReorder.h"
 #include "support/box_script.h"
-#include "support/screen_checks.h"
-#include "support/screen_driver.h"
 #include "support/test_store.h"
 
 #include <QHeaderView>
@@ -52,8 +50,6 @@ TEST_F(Reorder, ListsWhatIsBelowItsLevelByDescription) {
     const QList<QStringList> rows{{"B", "Alum", "", "1,500.00", "-3.00", "A1"},
                                   {"A", "Zinc sheet", "Reyes Trading", "10.00", "9.00", "A1"}};
     EXPECT_EQ(list->rows(), rows);
-    person::look(screen.get());
-    EXPECT_EQ(check::faults(screen.get()), QStringList());
 }
 
 TEST_F(Reorder, AHeaderSortsOnItsColumnAndAmountsAsNumbers) {

@@ -72,10 +72,18 @@ class SalesDayInFrame : public FrameTest {
         press(Qt::Key_Return);
         ASSERT_TRUE(entry());
     }
-    void startLine() {
+    void startSale() {
         ScreenRegistry::instance().open("frmSalesEntry");
         person::settle();
         person::type("Nena");
+    }
+    void clickBesideIt() {
+        frame->activateWindow();
+        frame->setFocus();
+        person::settle();
+    }
+    void startLine() {
+        startSale();
         press(Qt::Key_Insert);
         ASSERT_TRUE(at("frmAddItem"));
     }
@@ -145,6 +153,39 @@ TEST_F(SalesDayInFrame, SellsEditsAndDeletesWithTheKeysOfTheFrame) {
     boxes.expect("Confirm Delete", "", BoxAnswer::Yes);
     press(Qt::Key_D, Qt::AltModifier);
     EXPECT_FALSE(grid()->hasCurrent());
+}
+
+TEST_F(SalesDayInFrame, EntryTakesItsMnemonicsBeforeTheMenus) {
+    startSale();
+    press(Qt::Key_A, Qt::AltModifier);
+    ASSERT_TRUE(at("frmAddItem")) << "not the Administration menu";
+    person::fill(at("frmAddItem"), "txtDiscount", "100");
+    boxes.expect("Error!", "Discount Percentage should not be Equal or Greater than 100%");
+    press(Qt::Key_O, Qt::AltModifier);
+    EXPECT_EQ(person::focusName(), "txtDiscount") << "a field at fault is not left";
+    person::fill(at("frmAddItem"), "txtDiscount", "10");
+    press(Qt::Key_C, Qt::AltModifier);
+    EXPECT_FALSE(at("frmAddItem"));
+}
+
+TEST_F(SalesDayInFrame, LineDialogKeepsTheFrontAndTheQuantityPopupGivesWay) {
+    startLine();
+    boxes.expect("Lost Focus!", "Please Click on Close Button to Exit!");
+    clickBesideIt();
+    boxes.verify();
+    ASSERT_TRUE(at("frmAddItem"));
+    EXPECT_TRUE(at("frmAddItem")->isActiveWindow());
+    boxes.expect("Lost Focus!");
+    choose("mnuRecordItem_4");
+    boxes.verify();
+    person::click(at("frmAddItem"), "cmdCancel");
+    entry()->addLine(makeOrderLine("I1", "Rice", "PC", amount(1), amount(1), amount(15), amount(0)));
+    person::goTo(entry(), "lvwItems");
+    list()->setCurrentRow(0);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(at("frmInputInList"));
+    clickBesideIt();
+    EXPECT_FALSE(at("frmInputInList"));
 }
 
 TEST_F(SalesDayInFrame, OneSearchForAnItemAtATime) {

@@ -21,12 +21,6 @@ TEST(WindowArrangement, TilesFillTheRoomAndNeverOverlap) {
         }
 }
 
-TEST(WindowArrangement, HorizontalTilesLieOneUnderTheOther) {
-    const QRect room(0, 0, 900, 600);
-    EXPECT_EQ(tiled(room, 2, Qt::Horizontal), (QList<QRect>{{0, 0, 900, 300}, {0, 300, 900, 300}}));
-    EXPECT_EQ(tiled(room, 2, Qt::Vertical), (QList<QRect>{{0, 0, 450, 600}, {450, 0, 450, 600}}));
-}
-
 TEST(WindowArrangement, IconsLieAlongTheBottomAndThenUpwards) {
     const QList<QRect> places = alongBottom(QRect(0, 0, 500, 400), 3, QSize(200, 30));
     EXPECT_EQ(places, (QList<QRect>{{0, 370, 200, 30}, {200, 370, 200, 30}, {0, 340, 200, 30}}));
