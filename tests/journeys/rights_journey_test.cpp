@@ -1,8 +1,8 @@
 #include "journeys/journey.h"
 
-#include "foundation/encryption.h"
 #include "platform/ui/screen_registry.h"
 #include "shell/menu_catalogue.h"
+#include "support/users.h"
 
 #include <QListWidget>
 
@@ -11,15 +11,7 @@ class ClerkJourney : public Journey {
   protected:
     void SetUp() override {
         Journey::SetUp();
-        Recordset user = store().openTable("tblUserMaster");
-        user.addNew();
-        user.set("UserCode", "CLERK");
-        user.set("FullName", "Maria Dizon");
-        user.set("Password", EncryptText("clerk"));
-        user.set("PrintDRAccess", true);
-        user.update();
-        for (const int menu : {100, 101, 200, 202})
-            store().run({"INSERT INTO tblUserDetails (UserID, MenuID) VALUES ('CLERK', ?)", {menu}});
+        addUser(store(), "CLERK", "clerk", {100, 101, 200, 202}, {"PrintDRAccess"});
         play("log in CLERK clerk");
     }
 
