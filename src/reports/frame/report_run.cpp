@@ -87,7 +87,7 @@ class ReportRun::Engine {
     }
 
     bool isComplete() const { return isComplete_; }
-    const ReportPages& pages() const { return pages_; }
+    ReportPages& pages() { return pages_; }
 
   private:
     void addGroup(SectionKind header, SectionKind footer) {
@@ -262,9 +262,11 @@ bool ReportRun::isComplete() const { return engine_->isComplete(); }
 
 const ReportPages& ReportRun::pages() const { return engine_->pages(); }
 
+ReportPages ReportRun::takePages() { return std::move(engine_->pages()); }
+
 ReportPages runReport(const ReportLayout& layout, ReportSource& rows, const ReportEvents& events) {
     ReportRun run(layout, rows, events);
     while (run.layOutPage()) {
     }
-    return run.pages();
+    return run.takePages();
 }

@@ -19,6 +19,8 @@ class ReportRun {
     bool layOutPage();
     bool isComplete() const;
     const ReportPages& pages() const;
+    // The pages of a complete run, which keeps none.
+    ReportPages takePages();
 
   private:
     class Engine;
