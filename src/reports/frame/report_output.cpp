@@ -1,9 +1,8 @@
 #include "reports/frame/report_output.h"
 
-#include "reports/frame/report_fonts.h"
+#include "reports/frame/page_fonts.h"
 
 #include <QBuffer>
-#include <QFontMetrics>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSaveFile>
@@ -11,28 +10,7 @@
 namespace {
 using reportOutput::Rendering;
 
-// Fonts of one set of pages, made once.
-class Fonts {
-  public:
-    Fonts(const ReportPages& pages, Rendering rendering) {
-        for (const TextStyle& style : pages.styles) {
-            QFont font = fontInTwips(style);
-            if (rendering == Rendering::DotMatrix) font.setFamily("DejaVu Sans Mono");
-            fonts_.push_back(font);
-            metrics_.emplace_back(font);
-        }
-    }
-    const QFont& font(const PageItem& item) const { return fonts_[item.style]; }
-    bool fits(const PageItem& item) const {
-        return metrics_[item.style].horizontalAdvance(item.text) <= item.place.width();
-    }
-
-  private:
-    std::vector<QFont> fonts_;
-    std::vector<QFontMetrics> metrics_;
-};
-
-void paintText(QPainter& painter, const PageItem& item, Qt::Alignment alignment, const Fonts& fonts) {
+void paintText(QPainter& painter, const PageItem& item, Qt::Alignment alignment, const PageFonts& fonts) {
     painter.setFont(fonts.font(item));
     const int flags = static_cast<int>(alignment | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip;
     if (fonts.fits(item)) {
@@ -54,7 +32,7 @@ void paintImage(QPainter& painter, const PageItem& item) {
 }
 
 void paintItems(QPainter& painter, const ReportPages& pages, const ReportPage& page, Rendering rendering,
-                const Fonts& fonts) {
+                const PageFonts& fonts) {
     painter.setPen(QPen(Qt::black, rendering == Rendering::DotMatrix ? 20 : 10));
     for (const PageItem& item : page.items) {
         if (item.kind == ControlKind::Line)
@@ -71,7 +49,7 @@ void paintItems(QPainter& painter, const ReportPages& pages, const ReportPage& p
 namespace reportOutput {
 
 void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page, Rendering rendering) {
-    paintItems(painter, pages, pages.pages[page], rendering, Fonts(pages, rendering));
+    paintItems(painter, pages, pages.pages[page], rendering, PageFonts(pages, rendering));
 }
 
 QByteArray pdf(const ReportPages& pages, Rendering rendering) {
@@ -83,7 +61,7 @@ QByteArray pdf(const ReportPages& pages, Rendering rendering) {
     writer.setPageSize(QPageSize(QSizeF(pages.setup.paper()) / 20.0, QPageSize::Point));
     writer.setPageMargins(QMarginsF());
     writer.setResolution(1440);
-    const Fonts fonts(pages, rendering);
+    const PageFonts fonts(pages, rendering);
     QPainter painter(&writer);
     for (std::size_t page = 0; page < pages.pages.size(); ++page) {
         if (page > 0) writer.newPage();

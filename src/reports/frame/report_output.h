@@ -22,6 +22,11 @@ QByteArray pdf(const ReportPages& pages, Rendering rendering = Rendering::Full);
 // The pages as plain text in a fixed pitch: columns stand under each other, a form feed stands between pages.
 QString plainText(const ReportPages& pages);
 
+// The pages as rich text for a word processor: a paragraph with tab stops for each line, so that columns and
+// pages stay as they are and the text can be edited. A text that is wider than its control is cut as in plain
+// text.
+QByteArray rtf(const ReportPages& pages);
+
 // Writes a file whole or not at all: an older one stays as it is when this fails. The text of the failure;
 // empty: written.
 QString writeFile(const QString& path, const QByteArray& content);

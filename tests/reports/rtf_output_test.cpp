@@ -1,0 +1,148 @@
+#include "reports/frame/report_output.h"
+#include "reports/sales_by_town.h"
+
+#include <gtest/gtest.h>
+#include <QImage>
+
+namespace {
+// Reads rich text as a word processor does, as far as our own goes: a tab is a blank, and the heads and the
+// pictures are passed over.
+class RichText {
+  public:
+    explicit RichText(const QByteArray& rtf) : rtf_(rtf) {
+        while (at_ < rtf_.size()) take();
+    }
+    QString text;
+    int depth = 0, deepest = 0, pageBreaks = 0;
+
+  private:
+    void take() {
+        const char c = rtf_[at_++];
+        if (c == '{') deepest = std::max(deepest, ++depth);
+        if (c == '}' && depth-- == skipped_) skipped_ = 0;
+        if (c == '\\')
+            takeControl();
+        else if (!std::strchr("{}\n", c))
+            add(QLatin1Char(c));
+    }
+
+    void takeControl() {
+        static const QRegularExpression control("\\\\(?:([a-z]+)(-?[0-9]+)? ?|(.))");
+        const auto match =
+            control.match(QString::fromLatin1(rtf_.mid(at_ - 1, 40)), 0, QRegularExpression::NormalMatch,
+                          QRegularExpression::AnchorAtOffsetMatchOption);
+        at_ += match.capturedLength() - 1;
+        const QString word = match.captured(1);
+        if (word.isEmpty() && match.captured(3) != "*") add(match.captured(3)[0]);
+        if (word == "fonttbl" || word == "info" || word == "shp") skipped_ = depth;
+        if (word == "tab") add(' ');
+        if (word == "par") add('\n');
+        if (word == "pagebb") ++pageBreaks;
+        if (word != "u") return;
+        add(QChar(static_cast<char16_t>(match.captured(2).toInt())));
+        ++at_;  // what stands for the letter in an older reader
+    }
+
+    void add(QChar character) {
+        if (!skipped_) text += character;
+    }
+
+    const QByteArray& rtf_;
+    qsizetype at_ = 0;
+    int skipped_ = 0;
+};
+
+QStringList wordsOf(const QString& text) {
+    static const QRegularExpression space("\\s+"), rule("^-+$");
+    QStringList words = text.split(space, Qt::SkipEmptyParts);
+    words.removeIf([](const QString& word) { return rule.match(word).hasMatch(); });
+    return words;
+}
+
+// A page of texts on one line, each 1,200 twips wide, one behind the other.
+ReportPages lineOf(const QStringList& texts, const TextStyle& style = {}) {
+    ReportPages pages{"Texts...", letterPortrait(720, 720, 10800), {style}, {{}}};
+    for (int i = 0; i < texts.size(); ++i)
+        pages.pages[0].items.push_back(
+            {ControlKind::Label, QRect(720 + i * 1200, 750, 1200, 225), texts[i], 0});
+    return pages;
+}
+}  // namespace
+
+TEST(RtfOutput, HasTheWordsAndThePagesOfThePlainText) {
+    for (const int sales : {1, 48, 120}) {
+        const ReportPages pages = salesReport(manySales(sales));
+        const RichText rich(reportOutput::rtf(pages));
+        EXPECT_EQ(wordsOf(rich.text), wordsOf(reportOutput::plainText(pages))) << sales;
+        EXPECT_EQ(rich.pageBreaks + 1, static_cast<int>(pages.pages.size())) << sales;
+        EXPECT_EQ(rich.depth, 0) << sales;
+    }
+}
+
+TEST(RtfOutput, EscapesWhatRichTextReads) {
+    const QStringList texts{"a\\b{c}", "\\par", "Niño", "₱1.00", "😀", "{", "tab\there"};
+    const ReportPages pages = lineOf(texts);
+    const QByteArray rtf = reportOutput::rtf(pages);
+    const RichText rich(rtf);
+    EXPECT_EQ(wordsOf(rich.text), wordsOf(texts.join(' ')));
+    EXPECT_EQ(rich.depth, 0);
+    EXPECT_TRUE(std::all_of(rtf.begin(), rtf.end(), [](char c) { return c > 0 && c < 0x7f; }));
+}
+
+// Where the columns stand: left edges, right edges and middles, from the margin.
+TEST(RtfOutput, ColumnsAreTabStopsOfTheirKind) {
+    TextStyle style;
+    const auto stopsOf = [&style](const QStringList& texts) {
+        static const QRegularExpression stops("\\\\slmult0(\\S*)");
+        return stops.match(QString::fromLatin1(reportOutput::rtf(lineOf(texts, style)))).captured(1);
+    };
+    EXPECT_EQ(stopsOf({"a", "b", "c"}), "\\tx1200\\tx2400");
+    style.alignment = Qt::AlignRight;
+    EXPECT_EQ(stopsOf({"1.00", "200.00"}), "\\tqr\\tx1200\\tqr\\tx2400");
+    style.alignment = Qt::AlignHCenter;
+    EXPECT_EQ(stopsOf({"mm", "mmmm"}), "\\tqc\\tx600\\tqc\\tx1800");
+}
+
+TEST(RtfOutput, ATextTooWideForItsControlPushesNoColumn) {
+    const ReportPages pages = lineOf({QString(30, 'W'), "1.00"});
+    const QByteArray rtf = reportOutput::rtf(pages);
+    EXPECT_TRUE(rtf.contains("\\tx1200")) << rtf.constData();
+    EXPECT_TRUE(rtf.contains("\\charscalex"));
+    EXPECT_EQ(wordsOf(RichText(rtf).text), wordsOf(reportOutput::plainText(pages)));
+}
+
+TEST(RtfOutput, ARuleTakesNoPartInTheFigureUnderIt) {
+    ReportPages pages = lineOf({"12.50"}, rightAligned());
+    pages.pages[0].items.push_back({ControlKind::Line, QRect(720, 740, 1200, 0), {}, 0});
+    EXPECT_EQ(reportOutput::plainText(pages).simplified(), "------------ 12.50");
+    EXPECT_TRUE(reportOutput::rtf(pages).contains("\\tlul\\tx1200"));
+}
+
+// The heights and gaps of a page's lines add up to the page, wherever its lines stand.
+TEST(RtfOutput, NoPageRunsOver) {
+    const QString rtf = QString::fromLatin1(reportOutput::rtf(salesReport(manySales(120))));
+    static const QRegularExpression lines("(\\\\pagebb)?\\\\sb(\\d+)\\\\sl-(\\d+)");
+    int used = 0, most = 0;
+    for (auto each = lines.globalMatch(rtf); each.hasNext();) {
+        const auto line = each.next();
+        used = (line.hasCaptured(1) ? 0 : used) + line.captured(2).toInt() + line.captured(3).toInt();
+        most = std::max(most, used);
+    }
+    EXPECT_GT(most, 10000);
+    EXPECT_LE(most, 15840 - 2 * 750);
+}
+
+TEST(RtfOutput, APictureLiesWhereItStands) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("logo.png");
+    QImage logo(40, 20, QImage::Format_RGB32);
+    logo.fill(Qt::red);
+    ASSERT_TRUE(logo.save(path));
+    ReportPages pages = lineOf({"Firm"});
+    pages.pages[0].items.push_back({ControlKind::Image, QRect(5000, 800, 1000, 1000), path, 0});
+    pages.pages.push_back({{{ControlKind::Image, QRect(5000, 800, 1000, 1000), path + "none", 0}}});
+    const QByteArray rtf = reportOutput::rtf(pages);
+    EXPECT_TRUE(rtf.contains("\\shpleft5000\\shptop800\\shpright6000\\shpbottom1300"));
+    EXPECT_EQ(rtf.count("89504e470d0a1a0a"), 1);  // how a PNG begins
+    EXPECT_EQ(RichText(rtf).pageBreaks, 1);       // of the page without a text
+}
