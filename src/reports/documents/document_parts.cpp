@@ -124,12 +124,12 @@ ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportContr
     QList<ReportControl> controls{
         label("lblRemarks", "Remarks : ", 90, 90, 900, lineOfText),
         growing(field("txtParticulars", "Remarks", 990, 90, 6210, 540)),
-        label("lblTotal", "Total = ", at.net.left, 90, at.net.width, lineOfText, numberHead),
-        field(paper.totalName, "", at.amount.left, 90, at.amount.width, lineOfText, numberHead)};
+        label("lblTotal", "Total = ", at.net.left, 90, 720, lineOfText, numberHead),
+        field(paper.totalName, "", at.amount.left - 360, 90, at.amount.width + 360, lineOfText, numberHead)};
     for (const Signature& signature : paper.signatures)
-        controls += {label(QString("lbl") + signature.caption, signature.caption, signature.left, 810, 2700,
-                           lineOfText),
-                     label(signature.name, "", signature.left, 1530, 2700, lineOfText)};
+        controls += {
+            label(signature.name + QString("Head"), signature.caption, signature.left, 810, 2700, lineOfText),
+            label(signature.name, "", signature.left, 1530, 2700, lineOfText)};
     return section(SectionKind::ReportFooter, 2325, controls + more);
 }
 
