@@ -1,9 +1,11 @@
+#include "platform/clock.h"
 #include "platform/store/connection.h"
 #include "reports/documents/prtDelivery.h"
 #include "reports/documents/prtPurchase.h"
 #include "reports/frame/report_fonts.h"
 #include "reports/frame/report_output.h"
 #include "reports/frame/report_run.h"
+#include "reports/golden.h"
 #include "reports/inventory/prtReorder.h"
 #include "support/test_store.h"
 
@@ -91,14 +93,28 @@ class Documents : public ::testing::TestWithParam<Paper> {
     }
     void run(const QString& statement, const QVariantList& values = {}) { store().run({statement, values}); }
     ReportPages pages() { return pagesOf(GetParam().report(store(), "000123")); }
+    QString golden(const char* what) { return QString("%1_%2.txt").arg(GetParam().name, what); }
 
     TestStore store_;
 };
 }  // namespace
 
+TEST_P(Documents, LinesAndTotalAsOnThePaper) {
+    const Paper& paper = GetParam();
+    add({{"NAIL-2", amount(2), amount(100), amount(10)},
+         {"CEM-40", amount(12.5), amount(1234.5678)},
+         {"GONE", amount(1), amount(0.0001), amount(50)},
+         {"NAIL-2", amount(3), amount(80)}});
+    run(QString("UPDATE %1 SET Discount = NULL WHERE UnitPrice = ?").arg(paper.lines), {bound(amount(80))});
+    run(QString("UPDATE %1 SET Remarks = ?").arg(paper.master), {"Deliver before noon.\nRing twice."});
+    compareWithGolden(golden("lines"), reportOutput::plainText(pages()));
+}
+
 TEST_P(Documents, ThreePages) {
     add(std::vector<LineRow>(85, {"NAIL-2", amount(1), amount(10)}));
-    EXPECT_EQ(pages().pages.size(), 3u);
+    const ReportPages three = pages();
+    EXPECT_EQ(three.pages.size(), 3u);
+    compareWithGolden(golden("three_pages"), reportOutput::plainText(three));
 }
 
 TEST_P(Documents, NothingForANumberWithoutLines) {
@@ -129,6 +145,21 @@ TEST_P(Documents, LabelsStandAtTheirPlaces) {
 
 INSTANTIATE_TEST_SUITE_P(Papers, Documents, ::testing::ValuesIn(papers),
                          [](const auto& paper) { return std::string(paper.param.name); });
+
+TEST(Reorder, ItemsBelowTheirLevel) {
+    TestStore store;
+    fillFirm(store.connection());
+    addItem(store.connection(), {.code = "AT", .description = "At its level", .orderLevel = amount(5)});
+    store.connection().run("UPDATE tblItemMaster SET Balance = 50000 WHERE ItemCode = 'AT'");
+    EXPECT_FALSE(reorderReport(store.connection()));
+    addItem(store.connection(),
+            {.code = "LOW", .description = "Zinc sheet", .cost = amount(1234.5), .orderLevel = amount(1000)});
+    addItem(store.connection(), {.code = "NONE", .description = "Angle bar", .orderLevel = amount(0.01)});
+    store.connection().run("UPDATE tblItemMaster SET SupplierCode = 'C1' WHERE ItemCode = 'LOW'");
+    Clock::freeze(QDateTime(QDate(2026, 3, 9), QTime(14, 5, 6)));
+    compareWithGolden("reorder.txt", reportOutput::plainText(pagesOf(reorderReport(store.connection()))));
+    Clock::unfreeze();
+}
 
 TEST(Papers, NoLabelIsCutAtItsControl) {
     for (const ReportLayout* layout : {&prtDelivery(), &prtPurchase(), &prtReorder()})

@@ -1,0 +1,26 @@
+#include "reports/golden.h"
+
+#include <gtest/gtest.h>
+#include <QFile>
+
+static QString differences(const QStringList& wanted, const QStringList& got) {
+    QString text;
+    for (qsizetype i = 0; i < std::max(wanted.size(), got.size()); ++i)
+        if (wanted.value(i) != got.value(i))
+            text +=
+                QString("line %1\n  kept: %2\n  now:  %3\n").arg(i + 1).arg(wanted.value(i), got.value(i));
+    return text;
+}
+
+void compareWithGolden(const QString& name, const QString& text) {
+    QFile file(QString(ZEVRIN_SOURCE_DIR "/tests/reports/golden/") + name);
+    if (qEnvironmentVariableIsSet("ZEVRIN_WRITE_GOLDEN")) {
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(file.errorString());
+        file.write(text.toUtf8());
+        return;
+    }
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name + ": " + file.errorString());
+    const QString kept = QString::fromUtf8(file.readAll());
+    EXPECT_TRUE(kept == text) << qPrintable(name) << '\n'
+                              << qPrintable(differences(kept.split('\n'), text.split('\n')));
+}
