@@ -172,7 +172,7 @@ void PageView::keyPressEvent(QKeyEvent* event) {
 
 void PageView::wheelEvent(QWheelEvent* event) {
     const int turned = event->angleDelta().y();
-    if (event->modifiers() & Qt::ControlModifier)
+    if (turned != 0 && (event->modifiers() & Qt::ControlModifier))
         turned > 0 ? zoomIn() : zoomOut();
     else if (isContinuous_ || turned == 0 || !turnPage(turned < 0 ? Qt::Key_Down : Qt::Key_Up))
         QAbstractScrollArea::wheelEvent(event);

@@ -77,6 +77,8 @@ ReportPreview::ReportPreview(std::unique_ptr<ReportJob> job, PreviewHooks hooks)
     view_->setFocus();
     view_->pagesAdded();
     showProgress();
+    // Each slice starts the next: none comes while the box of a fault is open, or after it.
+    slices_.setSingleShot(true);
     slices_.start(0);
 }
 
@@ -231,16 +233,16 @@ void ReportPreview::laySlice() {
     const bool isWell = guarded([&] {
         while (!job_->isComplete() && clock.elapsed() < sliceMilliseconds) job_->layOutPage();
     });
-    if (!isWell) return slices_.stop();
+    if (!isWell) return;
     if (job_->isComplete()) return complete();
     view_->pagesAdded();
     thumbnails_->pagesAdded();
     search_.searchTo(job_->pages(), job_->shownPages());
     showProgress();
+    slices_.start(0);
 }
 
 void ReportPreview::complete() {
-    slices_.stop();
     view_->pagesChanged();
     thumbnails_->pagesChanged();
     searchCompletePages();

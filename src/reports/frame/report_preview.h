@@ -29,8 +29,7 @@ struct PreviewHooks {
 // others follow while it answers keys. Several may stand open at once: ScreenRegistry::show.
 //
 //     auto job = std::make_unique<ReportJob>(layout, std::move(rows), events);
-//     ScreenRegistry::instance().show(new ReportPreview(std::move(job), {.finished = ..., .queryClose =
-//     ...}));
+//     ScreenRegistry::instance().show(new ReportPreview(std::move(job), hooks));
 class ReportPreview : public ChildScreen {
     Q_OBJECT
   public:
@@ -58,6 +57,7 @@ class ReportPreview : public ChildScreen {
 
     // As the frame's commands call them.
     void SaveRecord() { savePdf(); }
+    void PrintRecord() { print(); }
     void FirstRecord();
     void PrevRecord();
     void NextRecord();

@@ -1,0 +1,70 @@
+#include "reports/frame/report_preview.h"
+#include "shell/frame_fixture.h"
+
+#include "platform/ui/file_dialogs.h"
+#include "reports/frame/page_view.h"
+#include "support/screen_driver.h"
+
+namespace {
+class Lines : public ReportSource {
+  public:
+    bool next() override { return ++at_ <= 200; }
+    void lookBack(bool looksBack) override { at_ += looksBack ? -1 : 1; }
+    QString text(const QString&) const override { return QString("Line %1").arg(at_); }
+    Currency currency(const QString&) const override { return {}; }
+    QDateTime dateTime(const QString&) const override { return {}; }
+    bool isNull(const QString&) const override { return false; }
+
+  private:
+    int at_ = 0;
+};
+
+ReportPreview* openPreview() {
+    const ReportLayout layout{
+        "prtLines",
+        "Lines...",
+        letterPortrait(720, 720, 10800),
+        {section(SectionKind::Detail, 270, {field("txtLine", "Line", 0, 0, 3000, 225)})}};
+    auto* preview =
+        new ReportPreview(std::make_unique<ReportJob>(layout, std::make_unique<Lines>(), ReportEvents()));
+    ScreenRegistry::instance().show(preview);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return preview->job().isComplete(); }));
+    person::settle();
+    return preview;
+}
+}  // namespace
+
+// The frame's menus have keys of their own: those of the preview do what they do there, too.
+TEST_F(FrameTest, APreviewKeepsItsKeysBesideTheMenus) {
+    logIn();
+    ReportPreview* preview = openPreview();
+    const QPointer<ReportPreview> other = openPreview();
+    EXPECT_EQ(frame->findChildren<ReportPreview*>().size(), 2);
+    EXPECT_EQ(person::focusName(), "PageView");
+    if (qEnvironmentVariableIsSet("PREVIEW_PICTURE"))
+        person::takePicture(frame, qEnvironmentVariable("PREVIEW_PICTURE"));
+
+    person::press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QApplication::clipboard()->text().contains("Line 1\n"));
+    person::press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_GT(other->findChild<PageView*>()->page(), 0);
+    choose("mnuRecordItem_7");  // First
+    EXPECT_EQ(other->findChild<PageView*>()->page(), 0);
+
+    QStringList asked;
+    desk::Doors doors;
+    doors.saveFile = [&](const QString& title) {
+        asked += title;
+        return QString();
+    };
+    desk::setDoors(doors);
+    person::press(Qt::Key_S, Qt::ControlModifier);
+    person::press(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(asked, (QStringList{"Save as PDF", "Save as Text"}));
+    desk::setDoors({});
+
+    person::press(Qt::Key_Escape);
+    EXPECT_TRUE(!other || other->hasUnloaded());
+    person::press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(ScreenRegistry::instance().openScreens().isEmpty()) << preview->objectName();
+}
