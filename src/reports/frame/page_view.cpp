@@ -115,15 +115,17 @@ void PageView::setFit(Fit fit) {
     emit zoomChanged();
 }
 
-// What stood in the middle of the window stays there.
+// What stood in the middle of the window stays there; the top of the first page stays the top.
 void PageView::applyZoom(int percent) {
+    const bool isAtTop = verticalScrollBar()->value() == 0;
     const int shown = page();
     const double step = pageStep();
     const double middle = (verticalScrollBar()->value() + viewport()->height() / 2 - topOf(shown)) / step;
     zoom_ = std::clamp(percent, leastZoom, mostZoom);
     cache_.clear();
     updateScrollBars();
-    verticalScrollBar()->setValue(topOf(shown) + qRound(middle * pageStep()) - viewport()->height() / 2);
+    const int middleNow = topOf(shown) + qRound(middle * pageStep());
+    verticalScrollBar()->setValue(isAtTop ? 0 : middleNow - viewport()->height() / 2);
     viewport()->update();
     tellPage();
 }
