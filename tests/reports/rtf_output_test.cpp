@@ -103,6 +103,13 @@ TEST(RtfOutput, ColumnsAreTabStopsOfTheirKind) {
     EXPECT_EQ(stopsOf({"mm", "mmmm"}), "\\tqc\\tx600\\tqc\\tx1800");
 }
 
+TEST(RtfOutput, WhatFollowsARightEdgeLeavesItsColumnInPlace) {
+    ReportPages pages = lineOf({"5.0000", "%"}, rightAligned());
+    pages.styles.push_back({});
+    pages.pages[0].items[1].style = 1;
+    EXPECT_TRUE(reportOutput::rtf(pages).contains("\\tqr\\tx1200\\tx1220 "));
+}
+
 TEST(RtfOutput, ATextTooWideForItsControlPushesNoColumn) {
     const ReportPages pages = lineOf({QString(30, 'W'), "1.00"});
     const QByteArray rtf = reportOutput::rtf(pages);

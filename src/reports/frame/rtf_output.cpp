@@ -13,6 +13,8 @@
 namespace {
 constexpr int leastHeight = 40;
 constexpr int blankWidth = 60;
+// What stands right behind a right edge has a stop of its own, or it would push that column to the left.
+constexpr int leastGap = 20;
 
 QByteArray control(const char* word, int number) {
     return QByteArray("\\") + word + QByteArray::number(number);
@@ -119,9 +121,9 @@ class Line {
     }
 
     void tabTo(const char* stop, int place) {
-        if (place <= stop_) return;  // at the margin, or where the text stands already
-        stop_ = place;
-        stops_ += stop + QByteArray::number(place);
+        if (place <= 0) return;  // the margin
+        stop_ = std::max(place, stop_ + leastGap);
+        stops_ += stop + QByteArray::number(stop_);
         text_ += "\\tab ";
     }
 
