@@ -199,6 +199,9 @@ TEST_F(ReportPreviewTest, SavesTheSamePagesOrLeavesTheOldFile) {
     saveTo(folder_.filePath("list"));
     preview->savePdf();
     EXPECT_TRUE(contentOf(folder_.filePath("list.pdf")).startsWith("%PDF"));
+    saveTo(folder_.filePath("list.rtf"));
+    preview->saveRichText();
+    EXPECT_TRUE(contentOf(folder_.filePath("list.rtf")).startsWith("{\\rtf"));
     saveTo(folder_.filePath("list.txt"));
     preview->saveText();
     const QByteArray text = contentOf(folder_.filePath("list.txt"));

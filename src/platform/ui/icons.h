@@ -6,5 +6,6 @@
 // "delete", "save", "close", "first", "previous", "next", "last", "print", "search", "refresh", "exit",
 // "copy", "cut", "paste", "item", "contact", "unit", "sales", "purchase", "receipt", "disbursement", "users",
 // "company", "register", "calculator", "help", "switch", "upload", "bird", "arrow-up", "arrow-down", "lock",
-// "zoom-in", "zoom-out", "fit-width", "fit-page", "page", "pages", "thumbnails", "text", "copy-all".
+// "zoom-in", "zoom-out", "fit-width", "fit-page", "page", "pages", "thumbnails", "text", "rich-text",
+// "copy-all".
 QIcon bundledIcon(const QString& name);

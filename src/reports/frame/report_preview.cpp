@@ -41,6 +41,7 @@ const QList<ReportPreview::Command>& ReportPreview::commands() {
     static const QList<Command> list{
         {"Print", "print", "Print", "Ctrl+P", &P::print, true},
         {"SavePdf", "save", "Save as PDF", "Ctrl+S", &P::savePdf, true},
+        {"SaveRichText", "rich-text", "Save as rich text", "Ctrl+Shift+R", &P::saveRichText, true},
         {"SaveText", "text", "Save as text", "Ctrl+Shift+S", &P::saveText, true},
         {"Copy", "copy", "Copy the text of this page", "Ctrl+C", &P::copyPage},
         {"CopyAll", "copy-all", "Copy the text of all pages", "Ctrl+Shift+C", &P::copyReport, true},
@@ -137,7 +138,7 @@ void ReportPreview::buildBars() {
     buildZoom();
 
     auto* pages = bar("tbrPages", "Pages");
-    addCommands(pages, {"Print", "SavePdf", "SaveText", "Copy", "CopyAll"});
+    addCommands(pages, {"Print", "SavePdf", "SaveRichText", "SaveText", "Copy", "CopyAll"});
     pages->addSeparator();
     addCommands(pages, {"First", "Previous"});
     pages->addWidget(txtPage);
@@ -402,6 +403,11 @@ void ReportPreview::print() {
 void ReportPreview::savePdf() {
     save("Save as PDF", "PDF (*.pdf)", "pdf",
          [this] { return reportOutput::pdf(job_->pages(), job_->rendering()); });
+}
+
+void ReportPreview::saveRichText() {
+    save("Save as Rich Text", "Rich Text Format (*.rtf)", "rtf",
+         [this] { return reportOutput::rtf(job_->pages()); });
 }
 
 void ReportPreview::saveText() {

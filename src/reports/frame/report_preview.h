@@ -45,6 +45,7 @@ class ReportPreview : public ChildScreen {
     // Printing and saving wait for the last page: until then they do nothing.
     void print();
     void savePdf();
+    void saveRichText();
     void saveText();
     void copyPage();
     void copyReport();
