@@ -363,7 +363,8 @@ TEST(UiDesk, WithoutAPrinterABoxSaysSo) {
 TEST(UiIcons, EveryPictureIsBundledAndSeenOnLightAndOnDark) {
     bundledIcon("new");  // loads them
     const QStringList names = QDir(":/icons").entryList({"*.svg"});
-    EXPECT_EQ(names.size(), 34);
+    EXPECT_EQ(names, QDir(QString(ZEVRIN_SOURCE_DIR) + "/src/platform/ui/icons").entryList({"*.svg"}));
+    EXPECT_GE(names.size(), 34);
     const auto contrast = [](const QImage& picture, int background) {
         int strongest = 0;
         for (int y = 0; y < picture.height(); ++y)
