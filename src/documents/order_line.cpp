@@ -213,7 +213,8 @@ void computeNetPrice(LineEntry& entry) {
         entry.netPrice = entry.cost;
         return;
     }
-    entry.netPrice = asPrice(NetPrice(numberOrZero(entry.cost), discount));
+    const Currency cost = numberOrZero(entry.cost);
+    entry.netPrice = asPrice(cost - PercentOf(discount, cost));
 }
 
 std::optional<Fault> computeLineTotal(LineEntry& entry) {

@@ -35,10 +35,6 @@ QDate documentDate(Connection& store, const char* table, const char* column, con
     const Recordset row = store.execute(QString("SELECT %1(%2) AS Found FROM %3").arg(which, column, table));
     return row.isNull("Found") ? Clock::today() : row.date("Found");
 }
-
-Currency percentOf(Currency percent, Currency amount) {
-    return Currency::fromDouble(amount.toDouble() * (percent.toDouble() / 100));
-}
 }  // namespace
 
 void DeleteWhereText(Connection& store, const QString& column, const QString& table, const QString& value) {
@@ -82,9 +78,15 @@ bool FlagFieldSet(Connection& store, const QString& table, const QString& keyCol
 
 bool ValidFilePath(const QString& name) { return name.contains(u'\\') && name.contains(u':'); }
 
-Currency NetOfPercent(Currency percent, Currency amount) { return amount - percentOf(percent, amount).abs(); }
+Currency PercentOf(Currency percent, Currency amount) {
+    return Currency::fromDouble(amount.toDouble() * (percent.toDouble() / 100.0));
+}
 
-Currency NetPrice(Currency price, Currency discount) { return price - percentOf(discount, price); }
+Currency NetOfPercent(Currency percent, Currency amount) { return amount - PercentOf(percent, amount).abs(); }
+
+Currency NetPrice(Currency price, Currency discount) {
+    return Currency::fromDouble(price.toDouble() - price.toDouble() * (discount.toDouble() / 100.0));
+}
 
 Currency MultiplyAmounts(Currency a, Currency b) { return a * b; }
 

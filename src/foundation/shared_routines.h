@@ -38,10 +38,13 @@ bool FlagFieldSet(Connection& store, const QString& table, const QString& keyCol
 // At least one back slash and one colon.
 bool ValidFilePath(const QString& name);
 
-// The amount less the absolute value of the discount: amount x (percent / 100) in double, once, then
-// currency.
+// The percent of an amount: amount x (percent / 100) in double, once, then currency.
+Currency PercentOf(Currency percent, Currency amount);
+// The amount less the absolute value of its percent.
 Currency NetOfPercent(Currency percent, Currency amount);
-// As NetOfPercent, but signed: price - price x (discount / 100).
+// price - price x (discount / 100) in double, rounded once, as a whole: what a stored line shows and prints.
+// The line dialog rounds the discount first (documents/order_line), and the two can differ by a
+// ten-thousandth.
 Currency NetPrice(Currency price, Currency discount);
 Currency MultiplyAmounts(Currency a, Currency b);
 

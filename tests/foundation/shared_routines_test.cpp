@@ -95,7 +95,8 @@ TEST_F(SharedRoutines, PercentsGoThroughDoubleOnce) {
                  {10, 100, 90, 90},
                  {-10, 100, 90, 110},
                  {33.3333, 99.99, 66.66, 66.66},
-                 {5, 0.0010, 0.0010, 0.0010},  // 0.00005 rounds to the even ten-thousandth
+                 {5, 0.0010, 0.0010, 0.0010},     // 0.00005 rounds to the even ten-thousandth
+                 {12.5, 0.0244, 0.0213, 0.0214},  // each rounds a half of its own
                  {100, 12.34, 0, 0}};
     for (const auto& row : table) {
         EXPECT_EQ(NetOfPercent(amount(row.percent), amount(row.value)).tenThousandths(),

@@ -30,7 +30,9 @@ QString deliveredStore() {
     return path;
 }
 
-Currency totalOf(const LineRow& line) { return line.quantity * NetPrice(line.price, line.discount); }
+Currency totalOf(const LineRow& line) {
+    return line.quantity * (line.price - PercentOf(line.discount, line.price));
+}
 
 void addMaster(Connection& store, const Book& book, const DocumentRow& document, Currency total) {
     Recordset master = store.openTable(book.master);

@@ -73,18 +73,13 @@ void fillHeading(Connection& store, const ReportSource& row, SectionFields& fiel
     fields.setText("txtTerms", trim(fields.text("txtTerms")) + " Days");
 }
 
-// Rounded once, as a whole.
-Currency netPrice(Currency gross, Currency discount) {
-    return Currency::fromDouble(gross.toDouble() - gross.toDouble() * (discount.toDouble() / 100.0));
-}
-
 // The discount is a percent of the gross price; the amount of the line is printed as stored.
 void fillLine(Connection& store, const ReportSource& row, SectionFields& fields) {
     fields.setText("txtProductDes", LookupField(store, "ItemCode", "tblItemMaster", "Description",
                                                 row.text("ItemID"), LookupMode::DisplayText));
     const Currency discount = numberOrZero(fields.text("txtDiscount"));
     if (discount.isZero()) fields.setText("txtDiscount", formatNumber(discount, mask::percent));
-    fields.setText("txtNet", formatNumber(netPrice(row.currency("UnitPrice"), discount), mask::price));
+    fields.setText("txtNet", formatNumber(NetPrice(row.currency("UnitPrice"), discount), mask::price));
 }
 
 void fillFooter(Connection& store, const DocumentPaper& paper, Currency total, SectionFields& fields) {
