@@ -260,7 +260,6 @@ void BareEndOfDay::post(const Document& document) {
     const bool purchase = document.book == "P";
     Statement& lines = purchase ? purchases_ : sales_;
     Statement& add = purchase ? addIn_ : addOut_;
-    ::run(engine_, "BEGIN IMMEDIATE");
     removeStock_.bind(1, document.book).bind(2, document.reference).run();
     std::string contact;
     for (contact_.bind(1, document.name); contact_.next();) contact = contact_.text(0);
@@ -274,7 +273,6 @@ void BareEndOfDay::post(const Document& document) {
     }
     storeKey_.bind(1, key).run();
     leave_.bind(1, document.book).bind(2, document.reference).run();
-    ::run(engine_, "COMMIT");
 }
 
 Count BareEndOfDay::valuation(const std::string& item) {
@@ -294,7 +292,6 @@ Count BareEndOfDay::valuation(const std::string& item) {
 }
 
 void BareEndOfDay::cost(const std::string& item) {
-    ::run(engine_, "BEGIN IMMEDIATE");
     std::vector<Row> rows;
     for (rows_.bind(1, item); rows_.next();) rows.push_back(readRow(rows_));
     costRows(rows);
@@ -306,7 +303,6 @@ void BareEndOfDay::cost(const std::string& item) {
         .bind(2, item)
         .run();
     leaveItem_.bind(1, item).run();
-    ::run(engine_, "COMMIT");
 }
 
 void BareEndOfDay::run() {
@@ -321,8 +317,15 @@ void BareEndOfDay::run() {
     std::vector<std::string> items;
     for (Statement queue(engine_, "SELECT ItemID FROM tblForPostingItem"); queue.next();)
         items.emplace_back(queue.text(0));
-    for (const Document& document : documents) post(document);
-    for (const std::string& item : items) cost(item);
+    Units units(engine_);
+    for (const Document& document : documents) {
+        post(document);
+        units.breathe();
+    }
+    for (const std::string& item : items) {
+        cost(item);
+        units.breathe();
+    }
 }
 }  // namespace
 
