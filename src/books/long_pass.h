@@ -1,6 +1,6 @@
 #pragma once
 #include "books/passed_over.h"
-#include "platform/progress.h"
+#include "platform/progress_scope.h"
 #include "platform/store/sql.h"
 
 #include <QElapsedTimer>
@@ -17,20 +17,6 @@ class UnitClock {
   private:
     static constexpr qint64 workMs = 120;
     QElapsedTimer timer_;
-};
-
-// The progress box of a pass, taken away however the pass ends.
-class ProgressScope {
-  public:
-    ProgressScope(Progress& progress, const QString& text, qint64 maximum) : progress_(progress) {
-        progress_.begin(text, maximum);
-    }
-    ~ProgressScope() { progress_.end(); }
-    ProgressScope(const ProgressScope&) = delete;
-    ProgressScope& operator=(const ProgressScope&) = delete;
-
-  private:
-    Progress& progress_;
 };
 
 // How far a pass has come through the keys of a table, in their order.

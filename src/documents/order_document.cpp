@@ -7,6 +7,7 @@
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/progress_scope.h"
 #include "platform/store/transaction.h"
 
 namespace {
@@ -160,18 +161,6 @@ class OrderSave {
     Boxes boxes_;
     // Two clerks who pass the test for a duplicate together meet again at the key of the master row.
     QString duplicateText_ = "Reference No. already exists, please edit and assign another number.";
-};
-
-// Shows the progress for as long as it lives.
-class ProgressScope {
-  public:
-    explicit ProgressScope(Progress& progress) : progress_(progress) {}
-    ~ProgressScope() { progress_.end(); }
-    ProgressScope(const ProgressScope&) = delete;
-    ProgressScope& operator=(const ProgressScope&) = delete;
-
-  private:
-    Progress& progress_;
 };
 
 OrderLine lineOfRow(const Recordset& row, const OrderBook& book) {
