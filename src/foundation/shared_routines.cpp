@@ -76,7 +76,9 @@ bool FlagFieldSet(Connection& store, const QString& table, const QString& keyCol
     return !row.eof() && row.flag(flagColumn);
 }
 
-bool ValidFilePath(const QString& name) { return name.contains(u'\\') && name.contains(u':'); }
+bool ValidFilePath(const QString& name) {
+    return name.startsWith(u'/') || (name.contains(u'\\') && name.contains(u':'));
+}
 
 Currency PercentOf(Currency percent, Currency amount) {
     return Currency::fromDouble(amount.toDouble() * (percent.toDouble() / 100.0));

@@ -35,7 +35,7 @@ void SetFlagField(Connection& store, const QString& table, const QString& keyCol
 bool FlagFieldSet(Connection& store, const QString& table, const QString& keyColumn, const QVariant& key,
                   const QString& flagColumn);
 
-// At least one back slash and one colon.
+// A name that tells its place: an absolute path, or at least one back slash and one colon.
 bool ValidFilePath(const QString& name);
 
 // The percent of an amount: amount x (percent / 100) in double, once, then currency.

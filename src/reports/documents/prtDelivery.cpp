@@ -58,3 +58,9 @@ const ReportLayout& prtDelivery() {
 std::optional<ReportJobParts> deliveryReport(Connection& store, const QString& refNo) {
     return reportOfQuery(store, prtDelivery(), linesOf(refNo), documentEvents(store, paper()));
 }
+
+const DocumentTagging& deliveryTagging() {
+    static const DocumentTagging tagging{{{"tblSalesMaster", "RefNo"}},
+                                         "Do you want to Tag this Sales Order as Printed?"};
+    return tagging;
+}

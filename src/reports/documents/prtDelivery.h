@@ -1,7 +1,5 @@
 #pragma once
-#include "reports/frame/report_events.h"
-
-#include <optional>
+#include "reports/frame/report_start.h"
 
 class Connection;
 
@@ -10,3 +8,6 @@ const ReportLayout& prtDelivery();
 
 // Its run for one number; none when nothing is to be printed. The store must outlive the run.
 std::optional<ReportJobParts> deliveryReport(Connection& store, const QString& refNo);
+
+// The record of the sale is tagged when its paper has been printed.
+const DocumentTagging& deliveryTagging();

@@ -51,3 +51,9 @@ const ReportLayout& prtPurchase() {
 std::optional<ReportJobParts> purchaseReport(Connection& store, const QString& purchaseNo) {
     return reportOfQuery(store, prtPurchase(), linesOf(purchaseNo), documentEvents(store, paper()));
 }
+
+const DocumentTagging& purchaseTagging() {
+    static const DocumentTagging tagging{{{"tblPurchaseMaster", "PurchaseNo"}},
+                                         "Do you want to Tag this Purchase Order as Printed?"};
+    return tagging;
+}

@@ -1,10 +1,10 @@
 #include "reports/frame/report_preview.h"
 
 #include "platform/ui/boxes.h"
-#include "platform/ui/file_dialogs.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/icons.h"
+#include "reports/frame/export_file.h"
 #include "reports/frame/page_thumbnails.h"
 #include "reports/frame/page_view.h"
 #include "reports/frame/report_printer.h"
@@ -14,7 +14,6 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
@@ -401,38 +400,28 @@ void ReportPreview::print() {
 }
 
 void ReportPreview::savePdf() {
-    save("Save as PDF", "PDF (*.pdf)", "pdf",
+    save("Save as PDF", FileKind::pdf,
          [this] { return reportOutput::pdf(job_->pages(), job_->rendering()); });
 }
 
 void ReportPreview::saveRichText() {
-    save("Save as Rich Text", "Rich Text Format (*.rtf)", "rtf",
-         [this] { return reportOutput::rtf(job_->pages()); });
+    save("Save as Rich Text", FileKind::richText, [this] { return reportOutput::rtf(job_->pages()); });
 }
 
 void ReportPreview::saveText() {
-    save("Save as Text", "Text (*.txt)", "txt",
+    save("Save as Text", FileKind::plainText,
          [this] { return reportOutput::plainText(job_->pages()).toUtf8(); });
 }
 
-void ReportPreview::save(const QString& title, const QString& filter, const QString& suffix,
+void ReportPreview::save(const QString& title, const FileKind& kind,
                          const std::function<QByteArray()>& content) {
     if (!job_->isComplete()) return;
-    const QString name = job_->layout().name + "." + suffix;
-    QString path = desk::saveFile(this, title, name, filter);
+    const QString path = askFileToWrite(this, title, job_->layout().name + "." + kind.suffix, kind);
     if (path.isEmpty()) return;
-    // A name without an ending gets one; a file of that name is not written over unasked.
-    if (QFileInfo(path).suffix().isEmpty() && !QFileInfo::exists(path)) {
-        path += "." + suffix;
-        if (QFileInfo::exists(path) &&
-            !askYes(question(title, path + " already exists. Write over it?", BoxAnswer::No)))
-            return;
-    }
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QString failure = reportOutput::writeFile(path, content());
+    const QByteArray bytes = content();
     QApplication::restoreOverrideCursor();
-    if (!failure.isEmpty())
-        showBox(exclamation("Not Saved!", "The file could not be saved: " + path + "\n" + failure));
+    writeOrTell(path, bytes);
 }
 
 void ReportPreview::copyPage() {

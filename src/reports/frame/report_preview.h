@@ -13,6 +13,7 @@ class QLineEdit;
 class QListView;
 class QSpinBox;
 class QToolBar;
+struct FileKind;
 
 class ReportPreview;
 
@@ -93,8 +94,7 @@ class ReportPreview : public ChildScreen {
     void searchCompletePages();
     void goToHit(qsizetype hit);
     void showHitCount();
-    void save(const QString& title, const QString& filter, const QString& suffix,
-              const std::function<QByteArray()>& content);
+    void save(const QString& title, const FileKind& kind, const std::function<QByteArray()>& content);
 
     void zoomIn();
     void zoomOut();

@@ -1,0 +1,43 @@
+#include "reports/frame/export_file.h"
+
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/file_dialogs.h"
+#include "reports/frame/report_output.h"
+
+#include <QFileInfo>
+
+const FileKind FileKind::richText{"Rich Text Format (*.rtf)", "rtf"};
+const FileKind FileKind::plainText{"ASCII Text Format (*.txt)", "txt"};
+const FileKind FileKind::pdf{"PDF (*.pdf)", "pdf"};
+
+QString askFileToWrite(QWidget* parent, const QString& title, const QString& suggested,
+                       const FileKind& kind) {
+    const QString path = desk::saveFile(parent, title, suggested, kind.filter);
+    // The dialog has asked about the name that was typed, not about the one with the ending.
+    if (path.isEmpty() || !QFileInfo(path).suffix().isEmpty() || QFileInfo::exists(path)) return path;
+    const QString whole = path + "." + kind.suffix;
+    const bool keepsOld = QFileInfo::exists(whole) &&
+                          !askYes(question(title, whole + " already exists. Write over it?", BoxAnswer::No));
+    return keepsOld ? QString() : whole;
+}
+
+bool writeOrTell(const QString& path, const QByteArray& content) {
+    const QString failure = reportOutput::writeFile(path, content);
+    if (failure.isEmpty()) return true;
+    showBox(exclamation("Not Saved!", "The file could not be saved: " + path + "\n" + failure));
+    return false;
+}
+
+Box noExportFile() { return exclamation("No File!", "Please Specify a Valid Filename and Location!"); }
+
+bool readyToExport(QWidget* parent, ReportTarget target, const Box& refusal) {
+    if (target == ReportTarget::Preview || target == ReportTarget::Printer) return true;
+    const FileKind& kind = target == ReportTarget::RichText ? FileKind::richText : FileKind::plainText;
+    QString& file = session().ExportFileName;
+    file = askFileToWrite(parent, "Export", file, kind);
+    if (!file.trimmed().isEmpty() && ValidFilePath(file)) return true;
+    showBox(refusal);
+    return false;
+}

@@ -1,0 +1,172 @@
+#include "reports/frame/report_start.h"
+
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "platform/parsing.h"
+#include "platform/progress_scope.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/frmStatus.h"
+#include "platform/ui/screen_registry.h"
+#include "reports/frame/export_file.h"
+#include "reports/frame/report_preview.h"
+#include "reports/frame/report_printer.h"
+
+namespace {
+
+reportOutput::Rendering rendering() {
+    return session().ReportPrinterKind == "D" ? reportOutput::Rendering::DotMatrix
+                                              : reportOutput::Rendering::Full;
+}
+
+// The rules of one run at its end and its close, with the values that it was started with.
+class RunRules {
+  public:
+    RunRules(ReportTarget target, const DocumentTagging* tagging)
+        : target_(target),
+          tagging_(tagging),
+          fromEntry_(session().ReportFromEntry),
+          isDirect_(session().ReportDirectPrint),
+          exportFile_(trim(session().ExportFileName)) {}
+
+    ReportTarget target() const { return target_; }
+    const QString& exportFile() const { return exportFile_; }
+
+    // Reads the document's number off the paper, whenever its heading is made.
+    void readNumber(ReportEvents& events) {
+        if (!tagging_) return;
+        FormatEvent& heading = events[on(SectionKind::PageHeader)];
+        heading = [this, fill = heading](const ReportSource& row, SectionFields& fields) {
+            if (fill) fill(row, fields);
+            number_ = trim(fields.text("txtNumber"));
+        };
+    }
+
+    // ReportEnd: a paper for an entry screen is tagged as soon as its pages are made.
+    void end() const {
+        if (tagging_ && fromEntry_) tagPrinted();
+    }
+
+    // QueryClose
+    void queryClose() const {
+        if (!tagging_) return;
+        if (isDirect_) return tagPrinted();
+        if (fromEntry_) return;
+        if (askYes(question("Printed?", tagging_->question)))
+            tagPrinted();
+        else
+            setFlag("Printed", false);
+    }
+
+  private:
+    void tagPrinted() const {
+        setFlag("Printed", true);
+        setFlag("RecordLock", true);
+    }
+
+    void setFlag(const char* flag, bool value) const {
+        for (const DocumentTagging::Record& record : tagging_->records)
+            SetFlagField(StoreConnection(), record.table, record.key, number_, flag, value);
+    }
+
+    ReportTarget target_;
+    const DocumentTagging* tagging_;
+    bool fromEntry_, isDirect_;
+    QString exportFile_;
+    QString number_;
+};
+
+using Rules = std::shared_ptr<RunRules>;
+
+std::unique_ptr<ReportJob> jobOf(ReportJobParts parts, RunRules& rules) {
+    rules.readNumber(parts.events);
+    return std::make_unique<ReportJob>(parts.layout, std::move(parts.rows), std::move(parts.events),
+                                       rendering());
+}
+
+void layOut(ReportJob& job) {
+    frmStatus status;
+    const ProgressScope scope(status, "Please Wait While System is Making the Pages...", 0);
+    while (job.layOutPage()) status.setValue(0);
+}
+
+ReportPreview* showPreview(std::unique_ptr<ReportJob> job, const PreviewHooks& hooks) {
+    auto* preview = new ReportPreview(std::move(job), hooks);
+    ScreenRegistry::instance().show(preview);
+    return preview;
+}
+
+ReportPreview* preview(ReportJobParts parts, const Rules& rules) {
+    return showPreview(jobOf(std::move(parts), *rules),
+                       {[rules](ReportPreview&) { rules->end(); }, [rules] { rules->queryClose(); }});
+}
+
+bool print(ReportJobParts parts, RunRules& rules) {
+    const auto job = jobOf(std::move(parts), rules);
+    layOut(*job);
+    frmStatus status;
+    if (!reportPrinter::printAtOnce(job->pages(), job->rendering(), status)) return false;
+    rules.end();
+    rules.queryClose();
+    return true;
+}
+
+QByteArray exported(const ReportJob& job, ReportTarget target) {
+    return target == ReportTarget::RichText ? reportOutput::rtf(job.pages())
+                                            : reportOutput::plainText(job.pages()).toUtf8();
+}
+
+bool writeExport(const ReportJob& job, const RunRules& rules) {
+    if (rules.exportFile().isEmpty()) {
+        showBox(exclamation("Error!", "Cannot Export File! Please specify a Filename and Location first..."));
+        return false;
+    }
+    return writeOrTell(rules.exportFile(), exported(job, rules.target()));
+}
+
+bool exportToFile(ReportJobParts parts, const Rules& rules) {
+    auto job = jobOf(std::move(parts), *rules);
+    layOut(*job);
+    if (!writeExport(*job, *rules)) {
+        showPreview(std::move(job), {{}, [rules] { rules->queryClose(); }});
+        return false;
+    }
+    rules->queryClose();
+    showBox(information("Thank You!", "File is saved at : " + rules->exportFile()));
+    return true;
+}
+
+}  // namespace
+
+Box nothingToPrint() { return information("Nothing to Print!", "No Records to Print..."); }
+
+ReportPreview* previewFromEntry(std::optional<ReportJobParts> report, const DocumentTagging* tagging) {
+    if (!report) {
+        showBox(nothingToPrint());
+        return nullptr;
+    }
+    session().ReportFromEntry = true;
+    session().ReportDirectPrint = false;
+    return preview(std::move(*report), std::make_shared<RunRules>(ReportTarget::Preview, tagging));
+}
+
+bool runFromPrintScreen(std::optional<ReportJobParts> report, ReportTarget target,
+                        const DocumentTagging* tagging) {
+    if (!report) {
+        showBox(nothingToPrint());
+        return true;
+    }
+    session().ReportFromEntry = false;
+    session().ReportDirectPrint = target == ReportTarget::Printer;
+    const auto rules = std::make_shared<RunRules>(target, tagging);
+    switch (target) {
+        case ReportTarget::Preview:
+            preview(std::move(*report), rules);
+            return true;
+        case ReportTarget::Printer:
+            return print(std::move(*report), *rules);
+        case ReportTarget::RichText:
+        case ReportTarget::PlainText:
+            return exportToFile(std::move(*report), rules);
+    }
+    return true;
+}

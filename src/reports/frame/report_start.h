@@ -1,0 +1,42 @@
+#pragma once
+#include "platform/box.h"
+#include "reports/frame/report_events.h"
+
+#include <optional>
+
+class ReportPreview;
+
+// Starts reports, and does what they are told to do at their end and when they close. A run keeps the values
+// that it was started with (target, ReportFromEntry, ReportDirectPrint, ExportFileName): whatever is started
+// while its preview stands open, it ends and asks as its own start was.
+
+enum class ReportTarget { Preview, Printer, RichText, PlainText };
+
+// How the paper of a document is tagged as printed: Printed and RecordLock of its records. Its number is what
+// the paper shows in its field txtNumber, trimmed.
+struct DocumentTagging {
+    struct Record {
+        const char* table;
+        const char* key;
+    };
+    QList<Record> records;
+    const char* question;  // under "Printed?", when a paper from a print screen closes
+};
+
+// Shows a report as a preview for an entry screen, a journal or a list. A document is tagged as soon as its
+// pages are made, without a question. Null when there is nothing to print: a box has said so.
+ReportPreview* previewFromEntry(std::optional<ReportJobParts> report,
+                                const DocumentTagging* tagging = nullptr);
+
+// Runs a report for a print screen:
+// - Preview opens a window, which asks whether a document is to be tagged when it closes.
+// - Printer sends the pages at once; a document that has been sent is tagged without a question.
+// - RichText and PlainText write ExportFileName, ask as a preview does, and tell where the file is. What
+// could
+//   not be written stays open as a preview.
+// False when the output failed: a walk over several documents ends there. Nothing to print is no failure.
+bool runFromPrintScreen(std::optional<ReportJobParts> report, ReportTarget target,
+                        const DocumentTagging* tagging = nullptr);
+
+// "No Records to Print..."
+Box nothingToPrint();
