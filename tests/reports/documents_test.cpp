@@ -2,6 +2,7 @@
 #include "platform/store/connection.h"
 #include "reports/documents/prtDelivery.h"
 #include "reports/documents/prtPurchase.h"
+#include "reports/frame/page_lines.h"
 #include "reports/frame/report_fonts.h"
 #include "reports/frame/report_output.h"
 #include "reports/frame/report_run.h"
@@ -169,5 +170,8 @@ TEST(Papers, NoLabelIsCutAtItsControl) {
                 EXPECT_LE(metrics.horizontalAdvance(control.text), control.width)
                     << qPrintable(layout->name + ": " + control.text);
                 EXPECT_LE(control.left + control.width, layout->page.printWidth) << qPrintable(control.name);
+                const QRect place(layout->page.left + control.left, 0, control.width, control.height);
+                EXPECT_LE(control.text.size(), columnsOf({control.kind, place, control.text, 0}))
+                    << qPrintable(layout->name + " as plain text: " + control.text);
             }
 }

@@ -11,18 +11,18 @@ QStringList pagesOf(const ReportPages& pages) { return reportOutput::plainText(p
 TEST(ReportFrame, GroupsSumAndCount) {
     const ReportPages pages =
         salesReport({sale("Bogo", "Ana", 1234.5), sale("Bogo", "Ben", 0.25), sale("Toledo", "Cora", 10)});
-    EXPECT_EQ(reportOutput::plainText(pages), R"(       Sales by Town
-                                            Amount
-       Bogo
-          Ana                             1,234.50         308.63
-          Ben                                 0.25           0.06
-          Total of the town               1,234.75
-       Toledo
-          Cora                               10.00           2.50
-          Total of the town                  10.00
-       3                                  1,244.75
+    EXPECT_EQ(reportOutput::plainText(pages), R"(        Sales by Town
+                                                    Amount
+        Bogo
+            Ana                                   1,234.50           308.63
+            Ben                                       0.25             0.06
+            Total of the town                     1,234.75
+        Toledo
+            Cora                                     10.00             2.50
+            Total of the town                        10.00
+        3                                         1,244.75
 
-       Page: 1 of  1
+        Page: 1 of  1
 )");
 }
 
@@ -30,7 +30,7 @@ TEST(ReportFrame, PagesRepeatTheirHeadingsAndKnowTheirNumber) {
     const QStringList pages = pagesOf(salesReport(manySales(120)));
     ASSERT_EQ(pages.size(), 3);
     for (int page = 0; page < 3; ++page) {
-        EXPECT_TRUE(pages[page].startsWith("       Sales by Town\n")) << page;
+        EXPECT_TRUE(pages[page].startsWith("        Sales by Town\n")) << page;
         EXPECT_EQ(pages[page].count("Cebu"), 1) << page;
         EXPECT_TRUE(pages[page].contains(QString("Page: %1 of  3").arg(page + 1)));
     }

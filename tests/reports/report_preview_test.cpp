@@ -150,7 +150,7 @@ TEST_F(ReportPreviewTest, EveryCommandHasItsKey) {
 
     press(Qt::Key_C);
     const QString page = QApplication::clipboard()->text();
-    EXPECT_TRUE(page.startsWith("       Customers")) << qPrintable(page);
+    EXPECT_TRUE(page.startsWith("        Customers")) << qPrintable(page);
     EXPECT_FALSE(page.contains('\f'));
     press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(QApplication::clipboard()->text(), reportOutput::plainText(preview->job().pages()));

@@ -111,9 +111,9 @@ TEST(RtfOutput, WhatFollowsARightEdgeLeavesItsColumnInPlace) {
 }
 
 TEST(RtfOutput, ATextTooWideForItsControlPushesNoColumn) {
-    const ReportPages pages = lineOf({QString(30, 'W'), "1.00"});
+    const ReportPages pages = lineOf({QString(30, 'W'), "", "1.00"});
     const QByteArray rtf = reportOutput::rtf(pages);
-    EXPECT_TRUE(rtf.contains("\\tx1200")) << rtf.constData();
+    EXPECT_TRUE(rtf.contains("\\tx2400")) << rtf.constData();
     EXPECT_TRUE(rtf.contains("\\charscalex"));
     EXPECT_EQ(wordsOf(RichText(rtf).text), wordsOf(reportOutput::plainText(pages)));
 }
@@ -121,7 +121,7 @@ TEST(RtfOutput, ATextTooWideForItsControlPushesNoColumn) {
 TEST(RtfOutput, ARuleTakesNoPartInTheFigureUnderIt) {
     ReportPages pages = lineOf({"12.50"}, rightAligned());
     pages.pages[0].items.push_back({ControlKind::Line, QRect(720, 740, 1200, 0), {}, 0});
-    EXPECT_EQ(reportOutput::plainText(pages).simplified(), "------------ 12.50");
+    EXPECT_EQ(reportOutput::plainText(pages).simplified(), "-------------- 12.50");
     EXPECT_TRUE(reportOutput::rtf(pages).contains("\\tlul\\tx1200"));
 }
 

@@ -33,4 +33,7 @@ std::vector<PageLine> linesOf(const ReportPage& page) {
     return lines;
 }
 
-int columnsOf(const PageItem& item) { return std::max(1, item.place.width() / characterWidth); }
+int columnsOf(const PageItem& item) {
+    const int left = item.place.left();
+    return std::max(1, columnAt(left + item.place.width()) - columnAt(left));
+}

@@ -12,7 +12,9 @@ struct PageLine {
 // The lines of a page from the top, without pictures and upright rules. The items point into the page.
 std::vector<PageLine> linesOf(const ReportPage& page);
 
-// In a fixed pitch, fifteen characters to the inch: an amount of the narrowest column keeps all its digits.
-inline constexpr int characterWidth = 96;
-// The characters that a control has room for in a fixed pitch, at least one.
+// In a fixed pitch: the condensed pitch of dot matrix printers, 120 characters to seven inches. The heads of
+// the papers stand whole in it, and two controls that do not touch do not touch in it either.
+inline constexpr int characterWidth = 84;
+inline int columnAt(int place) { return place / characterWidth; }
+// The columns of a control, at least one: from that of its left edge to that of its right edge.
 int columnsOf(const PageItem& item);

@@ -9,11 +9,9 @@ namespace {
 // A gap of more than this between lines is an empty line.
 constexpr int emptyLine = 420;
 
-int columnOf(int place) { return place / characterWidth; }
-
 // A text cut or padded to this many columns from the one where its control stands.
 void write(QString& line, const PageItem& item, QString text, int width, Qt::Alignment alignment) {
-    const int from = columnOf(item.place.left());
+    const int from = columnAt(item.place.left());
     text.truncate(width);
     if (alignment & Qt::AlignRight) text = text.rightJustified(columnsOf(item));
     if (alignment & Qt::AlignHCenter) text = QString((width - text.size()) / 2, ' ') + text;
@@ -53,12 +51,12 @@ class TextOfLines {
         int next = INT_MAX;
         for (const PageItem* other : line.items)
             if (other->place.left() > item.place.left()) next = std::min(next, firstColumn(*other));
-        return next == INT_MAX ? next : next - columnOf(item.place.left()) - 1;
+        return next == INT_MAX ? next : next - columnAt(item.place.left()) - 1;
     }
 
     int firstColumn(const PageItem& item) const {
         const int blanks = std::max(0, columnsOf(item) - static_cast<int>(item.text.size()));
-        return columnOf(item.place.left()) + (alignment(item) & Qt::AlignRight ? blanks : 0);
+        return columnAt(item.place.left()) + (alignment(item) & Qt::AlignRight ? blanks : 0);
     }
 
     const ReportPages& pages_;
