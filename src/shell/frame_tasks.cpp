@@ -2,11 +2,11 @@
 
 #include "books/balances.h"
 #include "books/posting_queue.h"
+#include "foundation/comes_later.h"
 #include "foundation/session.h"
 #include "platform/clock.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/frmStatus.h"
-#include "shell/screen_opening.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ void printList(const Sql& set, const QString& name) {
         if (StoreConnection().execute(set).eof())
             showBox(information("Nothing to Print!", "No Records to Print..."));
         else
-            tellNotYet(name);
+            showBox(notInThisVersion(name));
     });
 }
 

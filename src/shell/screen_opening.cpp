@@ -1,5 +1,6 @@
 #include "shell/screen_opening.h"
 
+#include "foundation/comes_later.h"
 #include "foundation/session.h"
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
@@ -29,15 +30,11 @@ void openChosenScreen(const QString& screen, const ScreenArguments& arguments, c
     if (ScreenRegistry::instance().knows(screen))
         ScreenRegistry::instance().open(screen, arguments);
     else
-        tellNotYet(name);
+        showBox(notInThisVersion(name));
 }
 
 void openIfKnown(const QString& screen) {
     if (ScreenRegistry::instance().knows(screen)) ScreenRegistry::instance().open(screen);
-}
-
-void tellNotYet(const QString& name) {
-    showBox(information("Zevrin!", QString("\"%1\" is not part of this version yet.").arg(name)));
 }
 
 void openProgramFile(const QString& fileName) {

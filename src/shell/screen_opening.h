@@ -7,9 +7,6 @@ void openChosenScreen(const QString& screen, const ScreenArguments& arguments, c
 // Shows a screen that opens by itself; nothing where this version lacks it.
 void openIfKnown(const QString& screen);
 
-// Tells that this version lacks what a person asked for.
-void tellNotYet(const QString& name);
-
 // Opens a file of the program's folder with the desktop. A box when it is not there, or nothing opens it.
 void openProgramFile(const QString& fileName);
 
