@@ -35,6 +35,8 @@ void ListView::connectSignals() {
     });
 }
 
+void ListView::setHeadings(const QStringList& headings) { model_->setHeadings(headings); }
+
 int ListView::rowCount() const { return model_->rowCount(); }
 QList<QStringList> ListView::rows() const { return model_->rows(); }
 QStringList ListView::row(int row) const { return model_->rows().value(row); }

@@ -18,6 +18,8 @@ class ListView : public QTreeView {
   public:
     ListView(const QString& name, const QList<ListColumn>& columns, QWidget* parent = nullptr);
 
+    void setHeadings(const QStringList& headings);  // of the columns from the first
+
     int rowCount() const;
     QStringList row(int row) const;
     QString text(int row, int column) const;

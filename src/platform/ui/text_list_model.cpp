@@ -39,6 +39,12 @@ QVariant TextListModel::headerData(int section, Qt::Orientation orientation, int
     return {};
 }
 
+void TextListModel::setHeadings(const QStringList& headings) {
+    const qsizetype count = std::min(headings.size(), columns_.size());
+    for (qsizetype column = 0; column < count; ++column) columns_[column].heading = headings.at(column);
+    emit headerDataChanged(Qt::Horizontal, 0, static_cast<int>(count) - 1);
+}
+
 QStringList TextListModel::wholeRow(QStringList texts) const {
     texts.resize(columns_.size());
     return texts;

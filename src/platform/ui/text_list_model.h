@@ -14,6 +14,8 @@ class TextListModel : public QAbstractTableModel {
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+    void setHeadings(const QStringList& headings);
+
     const QList<QStringList>& rows() const { return rows_; }
     void setText(int row, int column, const QString& text);
     void addRow(const QStringList& texts);
