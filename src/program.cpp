@@ -6,6 +6,7 @@
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/icons.h"
 #include "purchases/register.h"
+#include "reports/register.h"
 #include "sales/register.h"
 #include "shell/register.h"
 
@@ -14,6 +15,7 @@
 static void registerScreens() {
     registerFoundationScreens();
     registerMasterScreens();
+    registerReportScreens();
     registerDocumentScreens();
     registerSalesScreens();
     registerPurchaseScreens();

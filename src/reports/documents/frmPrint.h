@@ -1,0 +1,35 @@
+#pragma once
+#include "platform/ui/child_screen.h"
+
+class ListView;
+class PrintChoice;
+class QGroupBox;
+class QRadioButton;
+struct PrintKind;
+
+// Lists the printed or the unprinted documents of one kind, to mark and print them one after another. Opened
+// with the code of a kind; without one it lists deliveries.
+class frmPrint : public ChildScreen {
+    Q_OBJECT
+  public:
+    frmPrint();
+    bool receive(const ScreenArguments& arguments) override;
+    bool hidesReportMenu() const override { return true; }
+    QSize sizeHint() const override;
+
+  public slots:
+    void RefreshRecord();
+
+  private:
+    void build();
+    QGroupBox* listFrame();
+    QLayout* buttonRow();
+    void load(const PrintKind& kind);
+    void LoadGrid(const QString& flag);
+
+    const PrintKind* kind_ = nullptr;
+    ListView* lvwRecord;
+    QRadioButton* optPrinted;
+    QRadioButton* optUnPrinted;
+    PrintChoice* fraChoice;
+};

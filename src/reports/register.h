@@ -1,0 +1,4 @@
+#pragma once
+
+// Registers the screens of this floor by name.
+void registerReportScreens();
