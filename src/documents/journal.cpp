@@ -1,6 +1,5 @@
 #include "documents/journal.h"
 
-#include "foundation/comes_later.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "platform/parsing.h"
@@ -44,11 +43,6 @@ Box confirmDeletion() {
     return question("Confirm Delete", "Confirm Deletion of this Record. Delete Record Now?", BoxAnswer::No);
 }
 
-void bringForward(ChildScreen* screen) {
-    if (ScreenHost* host = ScreenRegistry::instance().host()) return host->bringForward(screen);
-    screen->raise();
-    screen->activateWindow();
-}
 }  // namespace
 
 Journal::Journal(const JournalBook& book)
@@ -233,7 +227,7 @@ void Journal::EditRecord() {
 
 void Journal::edit() {
     const QString key = dbgMyGrid->currentText(book_.lock.key);
-    if (ChildScreen* entry = entryShowing(key)) return bringForward(entry);
+    if (ChildScreen* entry = entryShowing(key)) return ScreenRegistry::instance().show(entry);
     switch (key.isEmpty() ? LockResult::Gone : takeRecordLock(StoreConnection(), book_.lock, key)) {
         case LockResult::Locked:
             showBox(locked());
@@ -296,5 +290,5 @@ void Journal::PrintRecord() {
     else if (!dbgMyGrid->hasCurrent())
         showBox(exclamation("Nothing to Print!", "No Records to Print..."));
     else
-        showBox(printingComesLater());
+        guarded([this] { book_.print(dbgMyGrid->currentText(book_.lock.key)); });
 }

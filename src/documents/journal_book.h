@@ -2,6 +2,7 @@
 #include "books/record_lock.h"
 #include "documents/document_delete.h"
 #include "documents/journal_query.h"
+#include "platform/ui/child_screen.h"
 #include "platform/ui/data_grid.h"
 
 // A column of a journal, and the order that a click on its header gives.
@@ -26,6 +27,7 @@ struct JournalBook {
     JournalTables tables;
     DeletionRules deletion;
     const char* printRight;
+    ChildScreen* (*print)(const QString& number);  // shows the paper; null: there is none
     const char* deleteRight;
     const char* initialCategory;
     QList<JournalSort> sorts;

@@ -3,9 +3,7 @@
 #include "documents/ask.h"
 #include "documents/frmAddItem.h"
 #include "documents/frmInputInList.h"
-#include "foundation/comes_later.h"
 #include "foundation/session.h"
-#include "foundation/setting_files.h"
 #include "foundation/shared_routines.h"
 #include "masters/frmContactFound.h"
 #include "platform/clock.h"
@@ -342,16 +340,18 @@ void OrderEntry::finishSave(const Boxes& boxes) {
     // The save itself has cleared the lock.
     held_.clear();
     showBoxes(boxes);
-    offerPrint();
+    const QPointer<ChildScreen> paper = offerPrint();
     showBox(exclamation("Saved!", "Record Successfully Saved!"));
     startNew();
+    if (paper) ScreenRegistry::instance().show(paper);
 }
 
-void OrderEntry::offerPrint() {
-    if (!canPrint_ || !askYes(question("Print", screen_.printQuestion))) return;
-    ReadReceiptIni();
-    ReadReceiptPrinterIni();
-    showBox(printingComesLater());
+// The preview of the document's paper; null when none was asked for.
+ChildScreen* OrderEntry::offerPrint() {
+    if (!canPrint_ || !askYes(question("Print", screen_.printQuestion))) return nullptr;
+    ChildScreen* paper = nullptr;
+    guarded([&] { paper = screen_.print(trim(ui.txtCode->text())); });
+    return paper;
 }
 
 // The closing question, when there is something to ask about. False: stay.

@@ -67,7 +67,7 @@ class OrderEntry : public RecordScreen, public LineOwner {
     bool lineDialogHolds();
 
     void finishSave(const Boxes& boxes);
-    void offerPrint();
+    ChildScreen* offerPrint();
     bool settleChanges();
     void releaseLock();
 

@@ -30,6 +30,7 @@ struct OrderScreen {
 
     const char* printRight;
     const char* printQuestion;
+    ChildScreen* (*print)(const QString& number);  // shows the paper; null: there is none
 
     QStringList dirtyingFields;  // whose key presses raise mblnUpdated
     bool sortDirties;            // so does a click on a column header

@@ -1,5 +1,6 @@
 #include "purchases/frmPurchaseEntry.h"
 
+#include "purchases/print_purchase.h"
 #include "purchases/purchase_document.h"
 
 namespace {
@@ -27,6 +28,7 @@ const OrderScreen& purchaseScreen() {
         .noContactIcon = BoxIcon::Information,
         .printRight = "PrintPOAccess",
         .printQuestion = "Do you want to Print Purchase Order for this Purchase Transaction?",
+        .print = PrintPurchaseOrder,
         .dirtyingFields = {"cboCustomer"},
         .sortDirties = true,
         .newShowsUser = true,

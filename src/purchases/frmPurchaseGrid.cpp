@@ -1,6 +1,7 @@
 #include "purchases/frmPurchaseGrid.h"
 
 #include "books/balances.h"
+#include "purchases/print_purchase.h"
 #include "purchases/purchase_document.h"
 
 const JournalBook& purchaseJournal() {
@@ -26,6 +27,7 @@ const JournalBook& purchaseJournal() {
                                     "Order! Remove Payment First!",
                      .recomputeMoney = RecomputePayableBalances},
         .printRight = "PrintPOAccess",
+        .print = PrintPurchaseOrder,
         .deleteRight = "DeletePOAccess",
         .initialCategory = "Supplier Name",
         .sorts = {{"optPackNo", "P.O. No.", " ORDER BY PurchaseNo ASC"},

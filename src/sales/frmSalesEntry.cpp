@@ -1,5 +1,6 @@
 #include "sales/frmSalesEntry.h"
 
+#include "sales/print_delivery.h"
 #include "sales/sales_document.h"
 
 namespace {
@@ -27,6 +28,7 @@ const OrderScreen& salesScreen() {
         .noContactIcon = BoxIcon::Exclamation,
         .printRight = "PrintDRAccess",
         .printQuestion = "Do you want to Print Delivery Receipt for this Sales Transaction?",
+        .print = PrintDeliveryReceipt,
         .dirtyingFields = {"cboCustomer", "txtCode", "txtRemarks", "txtRefDate", "txtSerialCode"},
         .sortDirties = false,
         .newShowsUser = false,

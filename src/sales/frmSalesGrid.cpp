@@ -1,6 +1,7 @@
 #include "sales/frmSalesGrid.h"
 
 #include "books/balances.h"
+#include "sales/print_delivery.h"
 #include "sales/sales_document.h"
 
 const JournalBook& salesJournal() {
@@ -26,6 +27,7 @@ const JournalBook& salesJournal() {
                                     "Order! Remove Payment First!",
                      .recomputeMoney = RecomputeReceivableBalances},
         .printRight = "PrintDRAccess",
+        .print = PrintDeliveryReceipt,
         .deleteRight = "DeleteDRAccess",
         .initialCategory = "Customer Name",
         .sorts = {{"optPackNo", "D.R. No.", " ORDER BY RefNo ASC"},
