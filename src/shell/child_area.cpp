@@ -26,11 +26,12 @@ void freeKeys(const QMdiSubWindow* window) {
         for (QAction* action : menu->actions()) action->setShortcuts(QList<QKeySequence>());
 }
 
-// The area gives the focus to the first field, which refuses it while it is locked; the next that takes it
-// shall have it.
+// The area gives the focus to the first field, which refuses it while it is locked; the screen's own choice,
+// or the next that takes it, shall have it.
 void ensureFocusIn(ChildScreen* screen) {
     const QWidget* focused = screen->window()->focusWidget();
-    if (!focused || !screen->isAncestorOf(focused)) focusNextField(screen);
+    if (focused && screen->isAncestorOf(focused)) return;
+    screen->focusProxy() ? screen->setFocus() : focusNextField(screen);
 }
 
 }  // namespace
