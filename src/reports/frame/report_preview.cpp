@@ -416,7 +416,9 @@ void ReportPreview::saveText() {
 void ReportPreview::save(const QString& title, const FileKind& kind,
                          const std::function<QByteArray()>& content) {
     if (!job_->isComplete()) return;
-    const QString path = askFileToWrite(this, title, job_->layout().name + "." + kind.suffix, kind);
+    QString name = job_->layout().caption;
+    while (name.endsWith('.')) name.chop(1);
+    const QString path = askFileToWrite(this, title, name + "." + kind.suffix, kind);
     if (path.isEmpty()) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const QByteArray bytes = content();
