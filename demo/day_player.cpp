@@ -4,15 +4,18 @@
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "platform/ui/data_grid.h"
+#include "platform/ui/file_dialogs.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/screen_registry.h"
 #include "support/program_driver.h"
 
 #include <QCheckBox>
 #include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
 
-DayPlayer::DayPlayer(const QString& pictures, Say say)
-    : pictures_(pictures), say_(std::move(say)), boxes_([this](const QString& line) { say_(line); }) {}
+DayPlayer::DayPlayer(const QString& folder, Say say)
+    : folder_(folder), say_(std::move(say)), boxes_([this](const QString& line) { say_(line); }) {}
 
 void DayPlayer::play(const QList<DayStep>& steps) {
     for (const DayStep& step : steps) {
@@ -83,6 +86,7 @@ struct Side {
     const char* master;
     const char* key;
     const char* printQuestion;
+    const char* paper;
 };
 
 const Side& sideOf(const DayStep& step) {
@@ -91,12 +95,18 @@ const Side& sideOf(const DayStep& step) {
                            "frmSalesEntry",
                            "tblSalesMaster",
                            "RefNo",
-                           "Do you want to Print Delivery Receipt for this Sales Transaction?"};
+                           "Do you want to Print Delivery Receipt for this Sales Transaction?",
+                           "prtDelivery"};
     static const Side purchase{
         "mnuTransactionItem_5", "frmPurchaseGrid",
         "frmPurchaseEntry",     "tblPurchaseMaster",
-        "PurchaseNo",           "Do you want to Print Purchase Order for this Purchase Transaction?"};
+        "PurchaseNo",           "Do you want to Print Purchase Order for this Purchase Transaction?",
+        "prtPurchase"};
     return step.kind == DayStep::Sale ? sale : purchase;
+}
+
+bool isFlagged(const Side& side, const QString& number, const char* flag) {
+    return FlagFieldSet(StoreConnection(), side.master, side.key, number, flag);
 }
 
 int linesOn(QWidget* entry) { return person::find<ListView>(entry, "lvwItems")->rowCount(); }
@@ -234,11 +244,33 @@ void DayPlayer::save(QWidget* entry, const DayStep& step) {
     const QString number = person::read(entry, "txtCode");
     const QString total = person::read(entry, "txtAmount");
     picture(side.entry);
-    act({{{}, side.printQuestion, BoxAnswer::No, true}, {"Saved!", "Record Successfully Saved!"}},
+    const BoxAnswer prints = step.isPrinted ? BoxAnswer::Yes : BoxAnswer::No;
+    act({{{}, side.printQuestion, prints, !step.isPrinted}, {"Saved!", "Record Successfully Saved!"}},
         [] { person::press(Qt::Key_S, Qt::ControlModifier); });
     require(RecordFound(StoreConnection(), side.master, side.key, number), number + " is not in the books");
     saved_ += number;
     say_(QString("    %1 saved, %2").arg(number, total));
+    if (step.isPrinted) savePaper(step, number);
+}
+
+// The paper comes up in front, is saved as a PDF, and is tagged in the books.
+void DayPlayer::savePaper(const DayStep& step, const QString& number) {
+    const Side& side = sideOf(step);
+    const QTemporaryDir passing;
+    const QString file = QDir(folder_.isEmpty() ? passing.path() : folder_).filePath(QString("%1 %2.pdf").arg(side.paper, number));
+    desk::setDoors({.saveFile = [file](const QString&) { return file; }});
+    act({}, [&] {
+        person::screen(side.paper);
+        person::waitFor([&] { return isFlagged(side, number, "Printed"); }, "the paper to be tagged");
+        picture(side.paper);
+        person::press(Qt::Key_S, Qt::ControlModifier);
+        person::press(Qt::Key_Escape);
+        person::waitFor([&] { return !person::isOpen(side.paper); }, "the paper to close");
+    });
+    desk::setDoors({});
+    require(QFileInfo(file).size() > 0, file + " was not written");
+    require(isFlagged(side, number, "RecordLock"), number + " can still be changed");
+    say_(QString("    %1 printed").arg(number));
 }
 
 void DayPlayer::endOfDay() {
@@ -274,7 +306,7 @@ void DayPlayer::closeScreens() {
 }
 
 void DayPlayer::picture(const QString& name) {
-    if (pictures_.isEmpty()) return;
+    if (folder_.isEmpty()) return;
     const QString file = QString("%1 %2.png").arg(++pictureNumber_, 3, 10, QChar('0')).arg(name);
-    if (!person::picture().save(QDir(pictures_).filePath(file))) say_("    no picture: " + file);
+    if (!person::picture().save(QDir(folder_).filePath(file))) say_("    no picture: " + file);
 }

@@ -17,8 +17,8 @@ struct DayFault : std::runtime_error {
 class DayPlayer {
   public:
     using Say = std::function<void(const QString& line)>;
-    // Pictures of the screens it passes go into the folder; empty: there are none.
-    DayPlayer(const QString& pictures, Say say);
+    // Pictures of the screens it passes and the printed papers go into the folder; empty: they are not kept.
+    DayPlayer(const QString& folder, Say say);
 
     // Throws DayFault with the number of the line in the script.
     void play(const QList<DayStep>& steps);
@@ -40,6 +40,7 @@ class DayPlayer {
     void refuseLine(QWidget* entry, QWidget* dialog, const DayLine& line);
     void closeLineDialog();
     void save(QWidget* entry, const DayStep& step);
+    void savePaper(const DayStep& step, const QString& number);
     void endOfDay();
     void logOff();
 
@@ -49,7 +50,7 @@ class DayPlayer {
     void closeScreens();
     void picture(const QString& name);
 
-    QString pictures_;
+    QString folder_;
     Say say_;
     DayBoxes boxes_;
     int line_ = 0;  // of the script

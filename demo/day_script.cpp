@@ -70,6 +70,8 @@ class Reader {
         if (!inDocument()) fail("an indented line belongs to a purchase or a sale");
         if (words.startsWith("remarks "))
             steps_.last().remarks = words.mid(8).trimmed();
+        else if (words == "printed")
+            steps_.last().isPrinted = true;
         else
             steps_.last().lines += readLine(words);
     }

@@ -23,6 +23,7 @@ struct DayStep {
     QString contact;
     bool wholesale = false;
     QString remarks;
+    bool isPrinted = false;  // its paper is printed when it is saved
     QList<DayLine> lines;
 };
 

@@ -1,7 +1,7 @@
 // Plays a trading day on the real screens, over a fresh demo firm, and tells what happened:
 //     play_day SCRIPT FOLDER
-// The store and the pictures of the screens go into FOLDER. Ends with 1 when something that the script tells
-// did not happen.
+// The store, the printed papers and the pictures of the screens go into FOLDER. Ends with 1 when something
+// that the script tells did not happen.
 //     play_day --pictures FOLDER
 // writes one picture of each screen instead, at 1024 x 768 and at 200 %.
 #include "demo/day_player.h"
@@ -62,7 +62,7 @@ static int played(const QString& script, const QDir& folder) {
         return 1;
     }
     say("");
-    say(QString("The day is done, in %1 seconds. Pictures of its screens are in %2")
+    say(QString("The day is done, in %1 seconds. Its papers and pictures of its screens are in %2")
             .arg(QString::number(static_cast<double>(time.elapsed()) / 1000, 'f', 1), folder.absolutePath()));
     return 0;
 }

@@ -9,6 +9,7 @@ TEST(DayScript, ReadsDocumentsWithTheirLines) {
         "\n"
         "purchase from Bulacan PVC & Plumbing\n"
         "    remarks By boat\n"
+        "    printed\n"
         "    400 delivered 250 x DEFORMED BAR 10 MM X 6 M at 1,231.50\n"
         "sale to Liloan Hardware wholesale\n"
         "    1000 x GRANITE TILE 60 X 60\n"
@@ -19,6 +20,7 @@ TEST(DayScript, ReadsDocumentsWithTheirLines) {
     EXPECT_EQ(steps[0].password, "admin");
     EXPECT_EQ(steps[1].contact, "Bulacan PVC & Plumbing");
     EXPECT_EQ(steps[1].remarks, "By boat");
+    EXPECT_TRUE(steps[1].isPrinted && !steps[2].isPrinted);
     EXPECT_EQ(steps[1].lines[0].ordered, "400");
     EXPECT_EQ(steps[1].lines[0].moved, "250");
     EXPECT_EQ(steps[1].lines[0].item, "DEFORMED BAR 10 MM X 6 M");

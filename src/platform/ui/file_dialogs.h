@@ -17,10 +17,10 @@ bool setUpPrinter(QWidget* parent);
 QString printerName();
 
 struct Doors {
-    std::function<QString(const QString& title)> openFile;
-    std::function<QString(const QString& title)> saveFile;
-    std::function<bool(const QString& fileOrUrl)> openWithDesktop;
-    std::function<bool()> setUpPrinter;
+    std::function<QString(const QString& title)> openFile = {};
+    std::function<QString(const QString& title)> saveFile = {};
+    std::function<bool(const QString& fileOrUrl)> openWithDesktop = {};
+    std::function<bool()> setUpPrinter = {};
 };
 void setDoors(const Doors& doors);
 }  // namespace desk
