@@ -295,3 +295,38 @@ TEST(UiList, TheTextsAreTheData) {
     EXPECT_EQ(list.rowCount(), 1);
     EXPECT_EQ(list.text(5, 5), "");
 }
+
+TEST(UiList, MarksAreSetByKeyAndClickAndGoWithTheirRows) {
+    ListView list("lvwRecord", {{"No."}, {"Date", 12, ListColumn::Date}});
+    const QAbstractItemModelTester tester(list.model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
+    list.showMarks();
+    list.setRows({{"1", "12-31-2025"}, {"2", "02-01-2026"}, {"3", "01-15-2026"}});
+    person::look(&list);
+    list.setCurrentRow(0);
+    person::press(Qt::Key_Space);
+    QStyleOptionViewItem option;
+    option.rect = list.visualRect(list.model()->index(2, 0));
+    option.features = QStyleOptionViewItem::HasCheckIndicator;
+    const QRect box = list.style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &option, &list);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, box.center());
+    EXPECT_EQ(list.markedRows(), (QList<int>{0, 2}));
+
+    list.toggleSort(1);
+    list.toggleSort(1);
+    EXPECT_EQ(firsts(list), (QStringList{"2", "3", "1"}));
+    EXPECT_EQ(list.markedRows(), (QList<int>{1, 2}));
+    list.removeRow(1);
+    EXPECT_EQ(list.markedRows(), QList<int>{1});
+    person::press(Qt::Key_Home);
+    person::press(Qt::Key_End);
+    person::press(Qt::Key_Space);
+    EXPECT_EQ(list.markedRows(), QList<int>());
+    list.setAllMarked(true);
+    EXPECT_EQ(list.markedRows().size(), 2);
+    auto* cell = QAccessible::queryAccessibleInterface(&list)->child(2);
+    qDebug() << QAccessible::queryAccessibleInterface(&list)->childCount() << cell->state().checked
+             << cell->state().checkable << cell->text(QAccessible::Name);
+    list.setRows({{"4", ""}});
+    EXPECT_FALSE(list.isMarked(0));
+}

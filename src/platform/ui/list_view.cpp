@@ -78,6 +78,18 @@ int ListView::findRow(int column, const QString& text) const {
     return -1;
 }
 
+void ListView::showMarks() { model_->showMarks(); }
+bool ListView::isMarked(int row) const { return model_->isMarked(row); }
+void ListView::setMarked(int row, bool marked) { model_->setMarked(row, marked); }
+void ListView::setAllMarked(bool marked) { model_->setAllMarked(marked); }
+
+QList<int> ListView::markedRows() const {
+    QList<int> marked;
+    for (int row = 0; row < rowCount(); ++row)
+        if (isMarked(row)) marked += row;
+    return marked;
+}
+
 void ListView::toggleSort(int column) {
     const bool again = column == sortedColumn_ && order_ == Qt::AscendingOrder;
     order_ = again ? Qt::DescendingOrder : Qt::AscendingOrder;
@@ -100,7 +112,9 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
     const int key = plain ? event->key() : 0;
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (enter && waitsFor(&ListView::entered))
+    if (key == Qt::Key_Space && model_->showsMarks())
+        setMarked(currentRow(), !isMarked(currentRow()));
+    else if (enter && waitsFor(&ListView::entered))
         emit entered(currentRow());
     else if (key == Qt::Key_Insert && waitsFor(&ListView::insertPressed))
         emit insertPressed();

@@ -33,6 +33,14 @@ class ListView : public QTreeView {
     void setCurrentRow(int row);                         // selects it and scrolls it into view
     int findRow(int column, const QString& text) const;  // without regard to case; -1: none
 
+    // A box before each row, to mark it by: with a click, or Space on the current row. A mark goes with its
+    // row wherever a sort puts it; new rows come without.
+    void showMarks();
+    bool isMarked(int row) const;
+    void setMarked(int row, bool marked = true);
+    void setAllMarked(bool marked);
+    QList<int> markedRows() const;  // from the first
+
     // Sorts once by a column and remembers it: the same column again turns the order over.
     void toggleSort(int column);
     Qt::SortOrder sortOrder() const;

@@ -29,7 +29,42 @@ QVariant TextListModel::data(const QModelIndex& index, int role) const {
     if (!shows(index.row(), index.column())) return {};
     if (role == Qt::DisplayRole) return shownText(rows_.at(index.row()).at(index.column()));
     if (role == Qt::TextAlignmentRole) return QVariant::fromValue(alignment(index.column()));
+    if (role == Qt::CheckStateRole && hasBox(index))
+        return isMarked(index.row()) ? Qt::Checked : Qt::Unchecked;
     return {};
+}
+
+bool TextListModel::hasBox(const QModelIndex& index) const {
+    return showsMarks_ && index.column() == 0 && shows(index.row(), 0);
+}
+
+Qt::ItemFlags TextListModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags plain = QAbstractTableModel::flags(index);
+    return hasBox(index) ? plain | Qt::ItemIsUserCheckable : plain;
+}
+
+// The only thing of a row that a person changes in the list itself.
+bool TextListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::CheckStateRole || !hasBox(index)) return false;
+    setMarked(index.row(), value.toInt() == Qt::Checked);
+    return true;
+}
+
+void TextListModel::showMarks() {
+    showsMarks_ = true;
+    if (rowCount() > 0) emit dataChanged(index(0, 0), index(rowCount() - 1, 0));
+}
+
+void TextListModel::setMarked(int row, bool marked) {
+    if (!shows(row, 0)) return;
+    marks_[row] = marked;
+    emit dataChanged(index(row, 0), index(row, 0), {Qt::CheckStateRole});
+}
+
+void TextListModel::setAllMarked(bool marked) {
+    if (marks_.isEmpty()) return;
+    marks_.fill(marked);
+    emit dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::CheckStateRole});
 }
 
 QVariant TextListModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -60,6 +95,7 @@ void TextListModel::addRow(const QStringList& texts) {
     const int row = rowCount();
     beginInsertRows({}, row, row);
     rows_ += wholeRow(texts);
+    marks_ += false;
     endInsertRows();
 }
 
@@ -68,6 +104,7 @@ void TextListModel::setRows(const QList<QStringList>& rows) {
     rows_.clear();
     rows_.reserve(rows.size());
     for (const QStringList& row : rows) rows_ += wholeRow(row);
+    marks_.fill(false, rows_.size());
     endResetModel();
 }
 
@@ -75,6 +112,7 @@ void TextListModel::removeRow(int row) {
     if (!shows(row, 0)) return;
     beginRemoveRows({}, row, row);
     rows_.removeAt(row);
+    marks_.removeAt(row);
     endRemoveRows();
 }
 
@@ -95,6 +133,14 @@ SortKey sortKey(const QString& text, ListColumn::Kind kind) {
     if (kind == ListColumn::Date)
         if (const auto date = parseDate(text)) return {date->toJulianDay(), {}};
     return {std::numeric_limits<qint64>::min(), text};
+}
+
+template <typename T>
+QList<T> inOrder(const QList<T>& values, const std::vector<int>& places) {
+    QList<T> ordered;
+    ordered.reserve(values.size());
+    for (const int place : places) ordered += values.at(place);
+    return ordered;
 }
 }  // namespace
 
@@ -117,10 +163,8 @@ void TextListModel::sort(int column, Qt::SortOrder order) {
     if (column < 0 || column >= columns_.size()) return;
     emit layoutAboutToBeChanged({}, VerticalSortHint);
     const std::vector<int> places = sorted(column, order);
-    QList<QStringList> rows;
-    rows.reserve(rows_.size());
-    for (const int place : places) rows += rows_.at(place);
-    rows_ = rows;
+    rows_ = inOrder(rows_, places);
+    marks_ = inOrder(marks_, places);
     moveSelection(places);
     emit layoutChanged({}, VerticalSortHint);
 }

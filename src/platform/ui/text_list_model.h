@@ -3,7 +3,7 @@
 
 #include <QAbstractTableModel>
 
-// The rows of a list: texts, and the order they stand in.
+// The rows of a list: texts, whether each is marked, and the order they stand in.
 class TextListModel : public QAbstractTableModel {
     Q_OBJECT
   public:
@@ -13,6 +13,8 @@ class TextListModel : public QAbstractTableModel {
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
 
     void setHeadings(const QStringList& headings);
 
@@ -21,15 +23,26 @@ class TextListModel : public QAbstractTableModel {
     void addRow(const QStringList& texts);
     void setRows(const QList<QStringList>& rows);
     void removeRow(int row);
+
+    // A box to mark each row by, in front of its first text.
+    void showMarks();
+    bool showsMarks() const { return showsMarks_; }
+    bool isMarked(int row) const { return marks_.value(row); }
+    void setMarked(int row, bool marked);
+    void setAllMarked(bool marked);
+
     void sort(int column, Qt::SortOrder order) override;
 
   private:
     QStringList wholeRow(QStringList texts) const;
     Qt::Alignment alignment(int column) const;
     bool shows(int row, int column) const;
+    bool hasBox(const QModelIndex& index) const;
     std::vector<int> sorted(int column, Qt::SortOrder order) const;
     void moveSelection(const std::vector<int>& order);
 
     QList<ListColumn> columns_;
     QList<QStringList> rows_;
+    QList<bool> marks_;  // of the rows, in their order
+    bool showsMarks_ = false;
 };
