@@ -1,11 +1,6 @@
 #pragma once
 #include "platform/box.h"
 
-// What a person hears who asks for paper before this program prints.
-inline Box printingComesLater() {
-    return information("Zevrin!", "Printing comes with a later version of this program.");
-}
-
 // What a person hears who asks for something, by its name in the menu, that this version lacks.
 inline Box notInThisVersion(const QString& name) {
     return information("Zevrin!", QString("\"%1\" is not part of this version yet.").arg(name));

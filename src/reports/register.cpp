@@ -2,8 +2,10 @@
 
 #include "platform/ui/screen_registry.h"
 #include "reports/documents/frmPrint.h"
+#include "reports/inventory/frmReorder.h"
 
 void registerReportScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmPrint", [] { return new frmPrint; });
+    screens.add("frmReorder", [] { return new frmReorder; });
 }

@@ -5,7 +5,6 @@
 #include "shell/frmCompanySetup.h"
 #include "shell/frmForUpload.h"
 #include "shell/frmRecordLock.h"
-#include "shell/frmReorder.h"
 #include "shell/mdiMain.h"
 
 void registerShellScreens() {
@@ -15,5 +14,4 @@ void registerShellScreens() {
     screens.add("frmCompanySetup", [] { return new frmCompanySetup; });
     screens.add("frmForUpload", [] { return new frmForUpload; });
     screens.add("frmRecordLock", [] { return new frmRecordLock; });
-    screens.add("frmReorder", [] { return new frmReorder; });
 }

@@ -1,21 +1,16 @@
-#include "shell/frmReorder.h"
+#include "reports/inventory/frmReorder.h"
 
-#include "foundation/comes_later.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "platform/masks.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 #include "platform/ui/list_view.h"
+#include "reports/frame/report_start.h"
+#include "reports/inventory/prtReorder.h"
 
 namespace {
-QList<QStringList> itemsToReorder(Connection& store) {
-    Recordset items = store.execute(
-        "SELECT tblItemMaster.*, tblContactMaster.ContactName"
-        " FROM tblContactMaster RIGHT OUTER JOIN tblItemMaster ON"
-        " tblContactMaster.ContactID = tblItemMaster.SupplierCode"
-        " WHERE tblItemMaster.Balance < tblItemMaster.OrderLevel"
-        " ORDER BY tblItemMaster.Description ASC");
+QList<QStringList> listed(Recordset items) {
     QList<QStringList> rows;
     for (; !items.eof(); items.moveNext())
         rows += {items.trimmed("ItemCode"),
@@ -63,7 +58,7 @@ bool frmReorder::receive(const ScreenArguments& arguments) {
 }
 
 void frmReorder::RefreshRecord() {
-    guarded([this] { lvwItem->setRows(itemsToReorder(StoreConnection())); });
+    guarded([this] { lvwItem->setRows(listed(StoreConnection().execute(itemsToReorder()))); });
 }
 
 void frmReorder::print() {
@@ -74,6 +69,6 @@ void frmReorder::print() {
         else if (lvwItem->rowCount() == 0)
             showBox(exclamation("Nothing to Print!", "No Records to print..."));
         else
-            showBox(printingComesLater());
+            previewFromEntry(reorderReport(StoreConnection()));
     });
 }

@@ -1,6 +1,7 @@
+#include "reports/inventory/frmReorder.h"
 #include "foundation/session.h"
 #include "platform/ui/list_view.h"
-#include "shell/frmReorder.h"
+#include "platform/ui/screen_registry.h"
 #include "support/box_script.h"
 #include "support/test_store.h"
 
@@ -10,7 +11,7 @@
 #include <gtest/gtest.h>
 
 namespace {
-class Reorder : public SessionTest {
+class ReorderList : public SessionTest {
   protected:
     void SetUp() override {
         SessionTest::SetUp();
@@ -41,7 +42,7 @@ class Reorder : public SessionTest {
     ListView* list = nullptr;
 };
 
-TEST_F(Reorder, ListsWhatIsBelowItsLevelByDescription) {
+TEST_F(ReorderList, ListsWhatIsBelowItsLevelByDescription) {
     item("A", "Zinc sheet", "C1", 10, 9);
     item("B", "Alum", "C9", 1500, -3);
     item("C", "At its level", "C1", 10, 10);
@@ -52,7 +53,7 @@ TEST_F(Reorder, ListsWhatIsBelowItsLevelByDescription) {
     EXPECT_EQ(list->rows(), rows);
 }
 
-TEST_F(Reorder, AHeaderSortsOnItsColumnAndAmountsAsNumbers) {
+TEST_F(ReorderList, AHeaderSortsOnItsColumnAndAmountsAsNumbers) {
     item("A", "Axe", "C1", 1500, 9);
     item("B", "Bolt", "C1", 20, -3);
     item("C", "Cord", "C1", 300, 10);
@@ -71,7 +72,7 @@ TEST_F(Reorder, AHeaderSortsOnItsColumnAndAmountsAsNumbers) {
     EXPECT_EQ(codes(), "BAC");
 }
 
-TEST_F(Reorder, AskedForAgainItReadsTheStoreAgain) {
+TEST_F(ReorderList, AskedForAgainItReadsTheStoreAgain) {
     open();
     EXPECT_EQ(list->rowCount(), 0);
     item("A", "Axe", "C1", 2, 1);
@@ -82,7 +83,7 @@ TEST_F(Reorder, AskedForAgainItReadsTheStoreAgain) {
     EXPECT_EQ(list->rowCount(), 0);
 }
 
-TEST_F(Reorder, PrintTestsTheRightAndThenTheList) {
+TEST_F(ReorderList, PrintTestsTheRightAndThenTheList) {
     item("A", "Axe", "C1", 2, 1);
     open();
     session().CurrentUserName = "Maria Santos";
@@ -94,5 +95,15 @@ TEST_F(Reorder, PrintTestsTheRightAndThenTheList) {
     screen->RefreshRecord();
     boxes.expect("Nothing to Print!", "No Records to print...");
     print();
+}
+
+TEST_F(ReorderList, PrintShowsTheListAndAsksNothing) {
+    item("A", "Axe", "C1", 2, 1);
+    open();
+    print();
+    ChildScreen* paper = ScreenRegistry::instance().opened("prtReorder");
+    ASSERT_TRUE(paper);
+    EXPECT_TRUE(session().ReportFromEntry);
+    EXPECT_TRUE(paper->unload());
 }
 }  // namespace
