@@ -1,8 +1,6 @@
 #include "reports/frame/page_search.h"
 
-#include "reports/frame/report_fonts.h"
-
-#include <QFontMetrics>
+#include "reports/frame/page_fonts.h"
 
 void PageSearch::setText(const QString& text) {
     text_ = text;
@@ -41,15 +39,13 @@ qsizetype PageSearch::firstFrom(int page) const {
 
 QRect PageSearch::place(const Hit& hit, const ReportJob& job) const {
     const PageItem& item = job.pages().pages[static_cast<std::size_t>(hit.page)].items[hit.item];
-    const TextStyle& style = job.pages().styles[item.style];
-    QFont font = fontInTwips(style);
-    if (job.rendering() == reportOutput::Rendering::DotMatrix) font.setFamily("DejaVu Sans Mono");
-    const QFontMetrics metrics(font);
-    const int room = item.place.width() - metrics.horizontalAdvance(item.text);
-    int left = item.place.left() + metrics.horizontalAdvance(item.text.left(hit.from));
-    if (room > 0 && (style.alignment & Qt::AlignRight)) left += room;
-    if (room > 0 && (style.alignment & Qt::AlignHCenter)) left += room / 2;
-    const int width = metrics.horizontalAdvance(item.text.mid(hit.from, text_.size()));
-    return QRect(left, item.place.top(), width, metrics.height()) &
+    const StyleFont font(job.pages().styles[item.style], job.rendering());
+    const FittedText fit = font.fitted(item);
+    const auto widthOf = [&](int from, qsizetype size) {
+        return font.width(item.text.mid(from, size)) * fit.percent / 100;
+    };
+    const int left = font.leftOf(item, fit) + widthOf(0, hit.from);
+    return QRect(left, item.place.top(), widthOf(hit.from, text_.size()),
+                 QFontMetrics(font.font()).height()) &
            item.place.adjusted(0, 0, 0, item.place.height());
 }

@@ -9,66 +9,98 @@ namespace {
 // A gap of more than this between lines is an empty line.
 constexpr int emptyLine = 420;
 
-// A text cut or padded to this many columns from the one where its control stands.
-void write(QString& line, const PageItem& item, QString text, int width, Qt::Alignment alignment) {
-    const int from = columnAt(item.place.left());
-    text.truncate(width);
-    if (alignment & Qt::AlignRight) text = text.rightJustified(columnsOf(item));
-    if (alignment & Qt::AlignHCenter) text = QString((width - text.size()) / 2, ' ') + text;
+// A text at its place in a line.
+struct Piece {
+    const PageItem* item;
+    QString text;  // as it is written
+    int from;      // its first column
+    int end() const { return from + static_cast<int>(text.size()); }
+    bool isCut() const { return text.size() < item->text.size(); }
+};
+
+int endColumn(const PageItem& item) { return columnAt(item.place.left()) + columnsOf(item); }
+
+// One line of texts: each cut at its control, then given the free room that it needs.
+class LineOfTexts {
+  public:
+    LineOfTexts(const ReportPages& pages, const PageFonts& fonts, const PageLine& line)
+        : pages_(pages), fonts_(fonts) {
+        for (const PageItem* item : line.items) pieces_.push_back(cutAtControl(*item));
+        std::ranges::stable_sort(pieces_, {}, [](const Piece& piece) { return piece.item->place.left(); });
+        growFigures();
+        for (Piece& piece : pieces_)
+            if (piece.isCut() && alignment(*piece.item) == Qt::AlignLeft) runOn(piece);
+        for (Piece& piece : pieces_)
+            if (piece.isCut() && piece.item->isFigure) piece.text.fill('#');
+    }
+
+    const std::vector<Piece>& pieces() const { return pieces_; }
+
+  private:
+    Qt::Alignment alignment(const PageItem& item) const { return pages_.styles[item.style].alignment; }
+
+    Piece cutAtControl(const PageItem& item) const {
+        const int columns = columnsOf(item);
+        Piece piece{&item, item.text.left(columns), columnAt(item.place.left())};
+        const int blanks = columns - static_cast<int>(piece.text.size());
+        if (alignment(item) & Qt::AlignRight) piece.from += blanks;
+        if (alignment(item) & Qt::AlignHCenter) piece.from += blanks / 2;
+        return piece;
+    }
+
+    // A figure at the right edge of its control takes the free room at its left, up to a blank.
+    void growFigures() {
+        int free = 0;  // the first column that is
+        for (Piece& piece : pieces_) {
+            const int from = endColumn(*piece.item) - static_cast<int>(piece.item->text.size());
+            if (piece.isCut() && piece.item->isFigure && alignment(*piece.item) & Qt::AlignRight &&
+                from >= free)
+                piece = {piece.item, piece.item->text, from};
+            free = std::max(free, piece.end() + 1);
+        }
+    }
+
+    // Letters that stand whole on paper may have no room in a fixed pitch: they run on to the next text, up
+    // to a blank.
+    void runOn(Piece& piece) const {
+        if (!piece.item->isFigure && !fonts_.of(*piece.item).fits(*piece.item)) return;
+        int next = INT_MAX;
+        for (const Piece& other : pieces_)
+            if (other.item->place.left() > piece.item->place.left()) next = std::min(next, other.from);
+        piece.text = piece.item->text.left(std::max<qsizetype>(piece.text.size(), next - 1 - piece.from));
+    }
+
+    const ReportPages& pages_;
+    const PageFonts& fonts_;
+    std::vector<Piece> pieces_;
+};
+
+// Over what stands there already; blanks leave it.
+void write(QString& line, const QString& text, int from) {
     if (line.size() < from + text.size()) line = line.leftJustified(from + text.size());
     for (qsizetype i = 0; i < text.size(); ++i)
         if (text[i] != ' ') line[from + i] = text[i];
 }
 
-class TextOfLines {
-  public:
-    explicit TextOfLines(const ReportPages& pages) : pages_(pages), fonts_(pages) {}
-
-    QString written(const PageLine& line) const {
-        QString text;
+QString written(const ReportPages& pages, const PageFonts& fonts, const PageLine& line) {
+    QString text;
+    if (line.isRule()) {
         for (const PageItem* item : line.items)
-            if (line.isRule())
-                write(text, *item, QString(columnsOf(*item), '-'), columnsOf(*item), Qt::AlignLeft);
-            else
-                write(text, *item, item->text, columnsFor(line, *item), alignment(*item));
-        while (text.endsWith(' ')) text.chop(1);
-        return text + '\n';
+            write(text, QString(columnsOf(*item), '-'), columnAt(item->place.left()));
+    } else {
+        const LineOfTexts texts(pages, fonts, line);
+        for (const Piece& piece : texts.pieces()) write(text, piece.text, piece.from);
     }
+    while (text.endsWith(' ')) text.chop(1);
+    return text + '\n';
+}
 
-  private:
-    Qt::Alignment alignment(const PageItem& item) const { return pages_.styles[item.style].alignment; }
-
-    // Letters that stand whole on paper may have no room in a fixed pitch: they run on to the next text.
-    int columnsFor(const PageLine& line, const PageItem& item) const {
-        const int columns = columnsOf(item);
-        const bool runsOn =
-            item.text.size() > columns && alignment(item) == Qt::AlignLeft && fonts_.fits(item);
-        return runsOn ? std::max(columns, columnsToTheNext(line, item)) : columns;
-    }
-
-    // The columns from this item to the next text on its line, less a blank.
-    int columnsToTheNext(const PageLine& line, const PageItem& item) const {
-        int next = INT_MAX;
-        for (const PageItem* other : line.items)
-            if (other->place.left() > item.place.left()) next = std::min(next, firstColumn(*other));
-        return next == INT_MAX ? next : next - columnAt(item.place.left()) - 1;
-    }
-
-    int firstColumn(const PageItem& item) const {
-        const int blanks = std::max(0, columnsOf(item) - static_cast<int>(item.text.size()));
-        return columnAt(item.place.left()) + (alignment(item) & Qt::AlignRight ? blanks : 0);
-    }
-
-    const ReportPages& pages_;
-    PageFonts fonts_;
-};
-
-QString textOfPage(const TextOfLines& lines, const ReportPage& page) {
+QString textOfPage(const ReportPages& pages, const PageFonts& fonts, const ReportPage& page) {
     QString text;
     int above = -1;
     for (const PageLine& line : linesOf(page)) {
         if (above >= 0 && line.top - above > emptyLine) text += '\n';
-        text += lines.written(line);
+        text += written(pages, fonts, line);
         above = line.top;
     }
     return text;
@@ -77,7 +109,7 @@ QString textOfPage(const TextOfLines& lines, const ReportPage& page) {
 
 QString reportOutput::plainText(const ReportPages& pages) {
     QStringList texts;
-    const TextOfLines lines(pages);
-    for (const ReportPage& page : pages.pages) texts += textOfPage(lines, page);
+    const PageFonts fonts(pages);
+    for (const ReportPage& page : pages.pages) texts += textOfPage(pages, fonts, page);
     return texts.join('\f');
 }

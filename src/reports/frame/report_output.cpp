@@ -10,17 +10,20 @@
 namespace {
 using reportOutput::Rendering;
 
-void paintText(QPainter& painter, const PageItem& item, Qt::Alignment alignment, const PageFonts& fonts) {
-    painter.setFont(fonts.font(item));
-    const int flags = static_cast<int>(alignment | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip;
-    if (fonts.fits(item)) {
-        painter.drawText(item.place, flags, item.text);
+void paintText(QPainter& painter, const PageItem& item, const StyleFont& font) {
+    const FittedText fit = font.fitted(item);
+    painter.setFont(font.font());
+    const int flags = static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextSingleLine | Qt::TextDontClip;
+    const QRect place(font.leftOf(item, fit), item.place.top(), item.place.width(), item.place.height());
+    if (fit.percent == 100 && fit.width <= place.width()) {
+        painter.drawText(place, flags, fit.text);
         return;
     }
     painter.save();
-    painter.setClipRect(item.place, Qt::IntersectClip);
-    painter.drawText(item.place, static_cast<int>(Qt::AlignLeft | Qt::AlignTop) | Qt::TextSingleLine,
-                     item.text);
+    if (fit.width > place.width()) painter.setClipRect(item.place, Qt::IntersectClip);
+    painter.translate(place.topLeft());
+    painter.scale(fit.percent / 100.0, 1);
+    painter.drawText(QRect(QPoint(), place.size()), flags, fit.text);
     painter.restore();
 }
 
@@ -31,15 +34,14 @@ void paintImage(QPainter& painter, const PageItem& item) {
     painter.drawImage(QRect(item.place.topLeft(), size), picture);
 }
 
-void paintItems(QPainter& painter, const ReportPages& pages, const ReportPage& page, Rendering rendering,
-                const PageFonts& fonts) {
+void paintItems(QPainter& painter, const ReportPage& page, Rendering rendering, const PageFonts& fonts) {
     painter.setPen(QPen(Qt::black, rendering == Rendering::DotMatrix ? 20 : 10));
     for (const PageItem& item : page.items) {
         if (item.kind == ControlKind::Line)
             painter.drawLine(item.place.left(), item.place.top(), item.place.left() + item.place.width(),
                              item.place.top() + item.place.height());
         else if (item.kind == ControlKind::Label)
-            paintText(painter, item, pages.styles[item.style].alignment, fonts);
+            paintText(painter, item, fonts.of(item));
         else if (rendering == Rendering::Full)
             paintImage(painter, item);
     }
@@ -49,7 +51,7 @@ void paintItems(QPainter& painter, const ReportPages& pages, const ReportPage& p
 namespace reportOutput {
 
 void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page, Rendering rendering) {
-    paintItems(painter, pages, pages.pages[page], rendering, PageFonts(pages, rendering));
+    paintItems(painter, pages.pages[page], rendering, PageFonts(pages, rendering));
 }
 
 QByteArray pdf(const ReportPages& pages, Rendering rendering) {
@@ -65,7 +67,7 @@ QByteArray pdf(const ReportPages& pages, Rendering rendering) {
     QPainter painter(&writer);
     for (std::size_t page = 0; page < pages.pages.size(); ++page) {
         if (page > 0) writer.newPage();
-        paintItems(painter, pages, pages.pages[page], rendering, fonts);
+        paintItems(painter, pages.pages[page], rendering, fonts);
     }
     painter.end();
     return content;

@@ -10,6 +10,7 @@ struct PageItem {
     QRect place;
     QString text;  // of an image: its file
     quint16 style = 0;
+    bool isFigure = false;  // never shown in part
 };
 
 struct ReportPage {

@@ -1,6 +1,5 @@
 #include "reports/frame/page_fonts.h"
 #include "reports/frame/page_lines.h"
-#include "reports/frame/report_output.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -36,20 +35,14 @@ QByteArray escaped(const QString& text) {
 
 // A text as its control shows it: cut where it is cut as plain text, and what is still too wide drawn
 // narrower, so that it cannot push the columns behind it.
-struct FittedText {
-    QString text;
-    int width = 0;      // in twips
-    int percent = 100;  // of the breadth of its letters
-};
-
-FittedText fitted(const PageItem& item, const PageFonts& fonts) {
-    FittedText fit{item.text, fonts.width(item, item.text), 100};
+FittedText fittedWhole(const PageItem& item, const StyleFont& font) {
+    FittedText fit = font.fitted(item);
     const int room = item.place.width();
     while (fit.width > room && fit.text.size() > columnsOf(item)) {
         fit.text.chop(1);
-        fit.width = fonts.width(item, fit.text);
+        fit.width = font.width(fit.text) * fit.percent / 100;
     }
-    if (fit.width > room) fit.percent = std::max(1, room * 100 / fit.width);
+    if (fit.width > room) fit.percent = std::max(1, fit.percent * room / fit.width);
     fit.width = std::min(fit.width, room);
     return fit;
 }
@@ -90,11 +83,10 @@ class Line {
     int fromMargin(int left) const { return std::max(0, left - pages_.setup.left); }
 
     Column columnOf(const PageItem& item) const {
-        FittedText fit = fitted(item, fonts_);
-        const int rest = item.place.width() - fit.width;
-        const Qt::Alignment alignment = style(item).alignment;
-        const int before = alignment & Qt::AlignRight ? rest : alignment & Qt::AlignHCenter ? rest / 2 : 0;
-        return {&item, std::move(fit), fromMargin(item.place.left() + before)};
+        const StyleFont& font = fonts_.of(item);
+        FittedText fit = fittedWhole(item, font);
+        const int start = fromMargin(font.leftOf(item, fit));
+        return {&item, std::move(fit), start};
     }
 
     // A text that stands over the one before it follows it after a blank.

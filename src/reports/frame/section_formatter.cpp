@@ -32,9 +32,22 @@ QString boundText(const ReportControl& control, const ReportSource& row, const S
 
 bool hasRoomForLines(const ReportControl& control) { return control.height > control.style.points * 20 * 2; }
 
+bool readsAsFigure(const QString& text) {
+    const auto isDigit = [](QChar c) { return c >= '0' && c <= '9'; };
+    const auto belongs = [&](QChar c) { return isDigit(c) || QStringView(u",.-+()%/: ").contains(c); };
+    return std::ranges::any_of(text, isDigit) && std::ranges::all_of(text, belongs);
+}
+
+// A number or a date: what has a mask, sums up or stands at the right, and reads as one.
+bool isFigure(const ReportControl& control, const QString& text) {
+    const bool mayBe =
+        control.mask || control.summary != Summary::None || (control.style.alignment & Qt::AlignRight);
+    return control.kind == ControlKind::Field && mayBe && readsAsFigure(text);
+}
+
 PageItem itemOf(const ReportControl& control, const QString& text, int top, int height, quint16 style) {
     const ControlKind kind = control.kind == ControlKind::Field ? ControlKind::Label : control.kind;
-    return {kind, QRect(control.left, top, control.width, height), text, style};
+    return {kind, QRect(control.left, top, control.width, height), text, style, isFigure(control, text)};
 }
 
 // Lays the controls from the top down: what grows moves what stands wholly below it.
@@ -86,7 +99,8 @@ class Layer {
         if (text.isEmpty() && control.kind != ControlKind::Line) return control.height;
         const quint16 style = styles_.styleNumber(control.style);
         const bool isText = control.kind == ControlKind::Label || control.kind == ControlKind::Field;
-        if (isText && (control.grows || hasRoomForLines(control))) return layLines(control, text, top, style);
+        const bool mayBreak = isText && (control.grows || hasRoomForLines(control));
+        if (mayBreak && !isFigure(control, text)) return layLines(control, text, top, style);
         formatted_.items.push_back(itemOf(control, text, top, control.height, style));
         return control.height;
     }

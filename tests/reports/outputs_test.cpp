@@ -1,0 +1,75 @@
+#include "reports/frame/report_output.h"
+#include "reports/frame/report_run.h"
+#include "reports/pdf_words.h"
+#include "reports/rich_text.h"
+#include "reports/sales_by_town.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+using reportOutput::Rendering;
+
+QString wordsOf(const std::vector<PdfWord>& pdf) {
+    QStringList words;
+    for (const PdfWord& word : pdf) words += word.text;
+    return words.join(' ');
+}
+
+// What a person reads in each output.
+struct Output {
+    const char* name;
+    std::function<QString(const ReportPages&)> read;
+};
+const Output outputs[] = {
+    {"PDF", [](const ReportPages& pages) { return wordsOf(pdfWords(reportOutput::pdf(pages))); }},
+    {"PDF of dots",
+     [](const ReportPages& pages) {
+         return wordsOf(pdfWords(reportOutput::pdf(pages, Rendering::DotMatrix)));
+     }},
+    {"rich text", [](const ReportPages& pages) { return RichText(reportOutput::rtf(pages)).text; }},
+    {"text", [](const ReportPages& pages) { return reportOutput::plainText(pages); }}};
+
+// A line with a text, and a figure at its right.
+ReportPages figureBeside(const QString& text, const QString& figure, int width) {
+    const ReportLayout layout{
+        "prtFigure",
+        "Figure...",
+        letterPortrait(720, 720, 10800),
+        {section(SectionKind::Detail, 300,
+                 {field("txtText", "Text", 0, 0, 2000, 225),
+                  field("txtFigure", "Figure", 4000 - width, 0, width, 225, rightAligned())})}};
+    Rows rows({"Text", "Figure"}, {{text, figure}});
+    return runReport(layout, rows, {});
+}
+}  // namespace
+
+// A figure never loses a digit unseen: it is narrowed, and what cannot be shown whole is not shown.
+TEST(Outputs, AFigureIsWholeOrNotThere) {
+    const QString whole = "1,234,567.0000", most = "-922,337,203,685,477.5808";
+    const struct {
+        QString text, figure;
+        int width;
+        QString painted, typed;
+    } cases[] = {{"a", "1,234.50", 1080, "1,234.50", "1,234.50"},
+                 {"a", whole, 1080, whole, whole},
+                 {"a", most, 1080, "########", most},
+                 {"a", most, 2000, most, most},
+                 {QString(23, 'i'), "(922,337,203,685,477.5808)", 1800, "(922,337,203,685,477.5808)",
+                  QString(22, '#')}};
+    for (const auto& each : cases)
+        for (const Output& output : outputs) {
+            const QString read = output.read(figureBeside(each.text, each.figure, each.width)).simplified();
+            const QString wanted = output.name == QString("text") ? each.typed : each.painted;
+            EXPECT_EQ(read, each.text + " " + wanted) << output.name;
+        }
+}
+
+TEST(Outputs, PaintedFiguresStayInTheirControls) {
+    for (const Rendering rendering : {Rendering::Full, Rendering::DotMatrix})
+        for (const QString figure : {"1.50", "1,234,567.0000", "-922,337,203,685,477.5808"}) {
+            const auto words = pdfWords(reportOutput::pdf(figureBeside("a", figure, 1080), rendering));
+            ASSERT_EQ(words.size(), 2u);
+            EXPECT_GE(words[1].place.left(), (720 + 2920) / 20 - 0.5) << qPrintable(figure);
+            EXPECT_NEAR(words[1].place.right(), (720 + 4000) / 20, 1) << qPrintable(figure);
+        }
+}

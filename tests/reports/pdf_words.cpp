@@ -1,0 +1,30 @@
+#include "reports/pdf_words.h"
+
+#include <gtest/gtest.h>
+#include <QProcess>
+#include <QTemporaryFile>
+#include <QXmlStreamReader>
+
+static QByteArray boxesOf(const QByteArray& pdf) {
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open() && file.write(pdf) == pdf.size() && file.flush());
+    QProcess reader;
+    reader.start("pdftotext", {"-bbox", file.fileName(), "-"});
+    EXPECT_TRUE(reader.waitForFinished()) << "pdftotext (poppler-utils) is needed";
+    EXPECT_EQ(reader.exitCode(), 0) << reader.readAllStandardError().constData();
+    return reader.readAllStandardOutput();
+}
+
+std::vector<PdfWord> pdfWords(const QByteArray& pdf) {
+    std::vector<PdfWord> words;
+    int page = -1;
+    for (QXmlStreamReader xml(boxesOf(pdf)); !xml.atEnd();) {
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == u"page") ++page;
+        if (!xml.isStartElement() || xml.name() != u"word") continue;
+        const auto at = [&xml](const char* name) { return xml.attributes().value(name).toDouble(); };
+        const QRectF place(QPointF(at("xMin"), at("yMin")), QPointF(at("xMax"), at("yMax")));
+        words.push_back({page, xml.readElementText(), place});
+    }
+    return words;
+}
