@@ -8,6 +8,7 @@
 #include "reports/frame/report_run.h"
 #include "reports/golden.h"
 #include "reports/inventory/prtReorder.h"
+#include "reports/pdf_words.h"
 #include "support/test_store.h"
 
 #include <QFontMetrics>
@@ -142,6 +143,22 @@ TEST_P(Documents, LabelsStandAtTheirPlaces) {
     };
     check(GetParam().heading, 750);
     check(GetParam().foot, 750 + 2670 + 285);
+}
+
+// On paper of either rendering every word stands within its control, though letters of a fixed pitch are
+// broad and these figures are long.
+TEST_P(Documents, NoWordLeavesItsControl) {
+    add({{"NAIL-2", amount(1234567.5), amount(9999999.1234), amount(12.5)}});
+    const ReportPages paper = pages();
+    for (const auto rendering : {reportOutput::Rendering::Full, reportOutput::Rendering::DotMatrix})
+        for (const PdfWord& word : pdfWords(reportOutput::pdf(paper, rendering))) {
+            if (word.text.endsWith('%')) continue;  // stands in two controls
+            EXPECT_TRUE(std::ranges::any_of(paper.pages[0].items, [&word](const PageItem& item) {
+                const QRectF control(QPointF(item.place.topLeft()) / 20, QSizeF(item.place.size()) / 20);
+                return item.text.contains(word.text) && control.left() < word.place.left() + 1 &&
+                       control.right() > word.place.right() - 1;
+            })) << qPrintable(word.text);
+        }
 }
 
 INSTANTIATE_TEST_SUITE_P(Papers, Documents, ::testing::ValuesIn(papers),

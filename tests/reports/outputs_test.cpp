@@ -5,6 +5,8 @@
 #include "reports/sales_by_town.h"
 
 #include <gtest/gtest.h>
+#include <QImage>
+#include <QTemporaryDir>
 
 namespace {
 using reportOutput::Rendering;
@@ -27,6 +29,8 @@ const Output outputs[] = {
          return wordsOf(pdfWords(reportOutput::pdf(pages, Rendering::DotMatrix)));
      }},
     {"rich text", [](const ReportPages& pages) { return RichText(reportOutput::rtf(pages)).text; }},
+    {"rich text of dots",
+     [](const ReportPages& pages) { return RichText(reportOutput::rtf(pages, Rendering::DotMatrix)).text; }},
     {"text", [](const ReportPages& pages) { return reportOutput::plainText(pages); }}};
 
 // A line with a text, and a figure at its right.
@@ -72,4 +76,28 @@ TEST(Outputs, PaintedFiguresStayInTheirControls) {
             EXPECT_GE(words[1].place.left(), (720 + 2920) / 20 - 0.5) << qPrintable(figure);
             EXPECT_NEAR(words[1].place.right(), (720 + 4000) / 20, 1) << qPrintable(figure);
         }
+}
+
+TEST(Outputs, DotsAreOfAFixedPitchAndWithoutPictures) {
+    QTemporaryDir folder;
+    QImage logo(40, 20, QImage::Format_RGB32);
+    logo.fill(Qt::red);
+    ASSERT_TRUE(logo.save(folder.filePath("logo.png")));
+    ReportPages pages = salesReport({sale("Bogo", "Ana", 1)});
+    pages.pages[0].items.push_back(
+        {ControlKind::Image, QRect(5000, 800, 1000, 1000), folder.filePath("logo.png"), 0});
+    const struct {
+        const char* name;
+        QByteArray (*made)(const ReportPages&, Rendering);
+        const char *picture, *font, *fixedPitch;
+    } cases[] = {{"PDF", reportOutput::pdf, "/Subtype /Image", "+DejaVuSans\n", "+DejaVuSansMono\n"},
+                 {"rich text", reportOutput::rtf, "\\pict", "Verdana", "Courier New"}};
+    for (const auto& each : cases) {
+        const QByteArray full = each.made(pages, Rendering::Full);
+        EXPECT_TRUE(full.contains(each.picture) && full.contains(each.font)) << each.name;
+        EXPECT_FALSE(full.contains(each.fixedPitch)) << each.name;
+        const QByteArray dots = each.made(pages, Rendering::DotMatrix);
+        EXPECT_TRUE(dots.contains(each.fixedPitch)) << each.name;
+        EXPECT_FALSE(dots.contains(each.picture) || dots.contains(each.font)) << each.name;
+    }
 }

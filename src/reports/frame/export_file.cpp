@@ -4,13 +4,19 @@
 #include "foundation/shared_routines.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/file_dialogs.h"
-#include "reports/frame/report_output.h"
+#include "reports/frame/report_job.h"
 
 #include <QFileInfo>
 
-const FileKind FileKind::richText{"Rich Text Format (*.rtf)", "rtf"};
-const FileKind FileKind::plainText{"ASCII Text Format (*.txt)", "txt"};
-const FileKind FileKind::pdf{"PDF (*.pdf)", "pdf"};
+const FileKind FileKind::richText{"Rich Text Format (*.rtf)", "rtf", [](const ReportJob& job) {
+                                      return reportOutput::rtf(job.pages(), job.rendering());
+                                  }};
+const FileKind FileKind::plainText{"ASCII Text Format (*.txt)", "txt", [](const ReportJob& job) {
+                                       return reportOutput::plainText(job.pages()).toUtf8();
+                                   }};
+const FileKind FileKind::pdf{"PDF (*.pdf)", "pdf", [](const ReportJob& job) {
+                                 return reportOutput::pdf(job.pages(), job.rendering());
+                             }};
 
 QString askFileToWrite(QWidget* parent, const QString& title, const QString& suggested,
                        const FileKind& kind) {
@@ -32,11 +38,14 @@ bool writeOrTell(const QString& path, const QByteArray& content) {
 
 Box noExportFile() { return exclamation("No File!", "Please Specify a Valid Filename and Location!"); }
 
+const FileKind& exportKind(ReportTarget target) {
+    return target == ReportTarget::RichText ? FileKind::richText : FileKind::plainText;
+}
+
 bool readyToExport(QWidget* parent, ReportTarget target, const Box& refusal) {
     if (target == ReportTarget::Preview || target == ReportTarget::Printer) return true;
-    const FileKind& kind = target == ReportTarget::RichText ? FileKind::richText : FileKind::plainText;
     QString& file = session().ExportFileName;
-    file = askFileToWrite(parent, "Export", file, kind);
+    file = askFileToWrite(parent, "Export", file, exportKind(target));
     if (!file.trimmed().isEmpty() && ValidFilePath(file)) return true;
     showBox(refusal);
     return false;

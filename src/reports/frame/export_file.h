@@ -5,13 +5,18 @@
 #include <QString>
 
 class QWidget;
+class ReportJob;
 
 // A kind of file that pages are written to.
 struct FileKind {
     const char* filter;  // of the dialog
     const char* suffix;
+    QByteArray (*content)(const ReportJob& job);
     static const FileKind richText, plainText, pdf;
 };
+
+// Of the targets RichText and PlainText.
+const FileKind& exportKind(ReportTarget target);
 
 // Asks for the file to write; empty: none was chosen. A name without an ending gets the kind's, and is asked
 // about once more when such a file is there already.

@@ -12,7 +12,7 @@ namespace reportOutput {
 enum class Rendering { Full, DotMatrix };
 
 // Paints one page. The painter's unit is a twip, its origin the corner of the paper. A text that is wider
-// than its control is clipped at the control.
+// than its control is clipped at the control; a figure is drawn narrower, or as number signs.
 void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page,
                Rendering rendering = Rendering::Full);
 
@@ -25,7 +25,7 @@ QString plainText(const ReportPages& pages);
 // The pages as rich text for a word processor: a paragraph with tab stops for each line, so that columns and
 // pages stay as they are and the text can be edited. A text that is wider than its control is cut as in plain
 // text.
-QByteArray rtf(const ReportPages& pages);
+QByteArray rtf(const ReportPages& pages, Rendering rendering = Rendering::Full);
 
 // Writes a file whole or not at all: an older one stays as it is when this fails. The text of the failure;
 // empty: written.

@@ -399,29 +399,18 @@ void ReportPreview::print() {
     reportPrinter::printWithDialog(job_->pages(), job_->rendering(), this, status);
 }
 
-void ReportPreview::savePdf() {
-    save("Save as PDF", FileKind::pdf,
-         [this] { return reportOutput::pdf(job_->pages(), job_->rendering()); });
-}
+void ReportPreview::savePdf() { save("Save as PDF", FileKind::pdf); }
+void ReportPreview::saveRichText() { save("Save as Rich Text", FileKind::richText); }
+void ReportPreview::saveText() { save("Save as Text", FileKind::plainText); }
 
-void ReportPreview::saveRichText() {
-    save("Save as Rich Text", FileKind::richText, [this] { return reportOutput::rtf(job_->pages()); });
-}
-
-void ReportPreview::saveText() {
-    save("Save as Text", FileKind::plainText,
-         [this] { return reportOutput::plainText(job_->pages()).toUtf8(); });
-}
-
-void ReportPreview::save(const QString& title, const FileKind& kind,
-                         const std::function<QByteArray()>& content) {
+void ReportPreview::save(const QString& title, const FileKind& kind) {
     if (!job_->isComplete()) return;
     QString name = job_->layout().caption;
     while (name.endsWith('.')) name.chop(1);
     const QString path = askFileToWrite(this, title, name + "." + kind.suffix, kind);
     if (path.isEmpty()) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QByteArray bytes = content();
+    const QByteArray bytes = kind.content(*job_);
     QApplication::restoreOverrideCursor();
     writeOrTell(path, bytes);
 }

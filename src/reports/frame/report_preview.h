@@ -94,7 +94,7 @@ class ReportPreview : public ChildScreen {
     void searchCompletePages();
     void goToHit(qsizetype hit);
     void showHitCount();
-    void save(const QString& title, const FileKind& kind, const std::function<QByteArray()>& content);
+    void save(const QString& title, const FileKind& kind);
 
     void zoomIn();
     void zoomOut();

@@ -110,17 +110,12 @@ bool print(ReportJobParts parts, RunRules& rules) {
     return true;
 }
 
-QByteArray exported(const ReportJob& job, ReportTarget target) {
-    return target == ReportTarget::RichText ? reportOutput::rtf(job.pages())
-                                            : reportOutput::plainText(job.pages()).toUtf8();
-}
-
 bool writeExport(const ReportJob& job, const RunRules& rules) {
     if (rules.exportFile().isEmpty()) {
         showBox(exclamation("Error!", "Cannot Export File! Please specify a Filename and Location first..."));
         return false;
     }
-    return writeOrTell(rules.exportFile(), exported(job, rules.target()));
+    return writeOrTell(rules.exportFile(), exportKind(rules.target()).content(job));
 }
 
 bool exportToFile(ReportJobParts parts, const Rules& rules) {

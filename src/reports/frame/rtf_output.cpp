@@ -10,6 +10,8 @@
 // Each line of a page is a paragraph of exactly its height, with a tab stop for each of its columns: it stays
 // in its place, and a word processor edits it as text.
 namespace {
+using reportOutput::Rendering;
+
 constexpr int leastHeight = 40;
 constexpr int blankWidth = 60;
 // What stands right behind a right edge has a stop of its own, or it would push that column to the left.
@@ -156,6 +158,15 @@ QByteArray floating(const PageItem& item) {
            pictureData(picture) + "}}}}}";
 }
 
+QByteArray fontTable(Rendering rendering) {
+    static const char* const fonts[] = {"swiss Verdana", "swiss Tahoma", "swiss Arial"};  // by Typeface
+    QByteArray table = "{\\fonttbl";
+    for (int face = 0; face < 3; ++face)
+        table += '{' + control("f", face) + "\\f" +
+                 (rendering == Rendering::Full ? fonts[face] : "modern\\fprq1 Courier New") + ";}";
+    return table + '}';
+}
+
 int tallest(const PageLine& line) {
     int height = leastHeight;
     for (const PageItem* item : line.items) height = std::max(height, item->place.height());
@@ -164,7 +175,8 @@ int tallest(const PageLine& line) {
 
 class Document {
   public:
-    explicit Document(const ReportPages& pages) : pages_(pages), fonts_(pages) {}
+    Document(const ReportPages& pages, Rendering rendering)
+        : pages_(pages), rendering_(rendering), fonts_(pages, rendering) {}
 
     QByteArray rtf() {
         addHead();
@@ -176,13 +188,11 @@ class Document {
     void addHead() {
         const PageSetup& setup = pages_.setup;
         const int right = std::min(setup.right, setup.paperWidth - setup.left - setup.printWidth);
-        rtf_ +=
-            "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0{\\fonttbl{\\f0\\fswiss Verdana;}{\\f1\\fswiss "
-            "Tahoma;}{\\f2\\fswiss Arial;}}\n{\\info{\\title " +
-            escaped(pages_.caption) + "}}\n" + control("paperw", setup.paperWidth) +
-            control("paperh", setup.paperHeight) + control("margl", setup.left) +
-            control("margr", std::max(0, right)) + control("margt", setup.top) +
-            control("margb", setup.bottom);
+        rtf_ += "{\\rtf1\\ansi\\ansicpg1252\\uc1\\deff0" + fontTable(rendering_) + "\n{\\info{\\title " +
+                escaped(pages_.caption) + "}}\n" + control("paperw", setup.paperWidth) +
+                control("paperh", setup.paperHeight) + control("margl", setup.left) +
+                control("margr", std::max(0, right)) + control("margt", setup.top) +
+                control("margb", setup.bottom);
         if (setup.paperWidth > setup.paperHeight) rtf_ += "\\landscape";
         rtf_ += '\n';
     }
@@ -191,7 +201,7 @@ class Document {
         const std::vector<PageLine> lines = linesOf(page);
         bottom_ = pages_.setup.top;
         // The break and the pictures stand in the first paragraph; a page without text has an empty one.
-        QByteArray first = picturesOf(page);
+        QByteArray first = rendering_ == Rendering::Full ? picturesOf(page) : QByteArray();
         const char* pageBreak = breaksBefore ? "\\pagebb" : "";
         if (lines.empty()) addParagraph(pageBreak, first);
         for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -227,6 +237,7 @@ class Document {
     }
 
     const ReportPages& pages_;
+    Rendering rendering_;
     const PageFonts fonts_;
     QByteArray rtf_;
     int bottom_ = 0;
@@ -234,4 +245,6 @@ class Document {
 };
 }  // namespace
 
-QByteArray reportOutput::rtf(const ReportPages& pages) { return Document(pages).rtf(); }
+QByteArray reportOutput::rtf(const ReportPages& pages, Rendering rendering) {
+    return Document(pages, rendering).rtf();
+}
