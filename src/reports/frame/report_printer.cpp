@@ -84,10 +84,14 @@ bool printWithDialog(const ReportPages& pages, reportOutput::Rendering rendering
     {
         const FrontHold hold;
         QPrintDialog dialog(&printer, parent);
-        dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+        // To a file go Save as PDF and its fellows, which never leave half of one.
+        dialog.setOptions(QAbstractPrintDialog::PrintPageRange | QAbstractPrintDialog::PrintCollateCopies |
+                          QAbstractPrintDialog::PrintShowPageSize);
         dialog.setMinMax(1, static_cast<int>(pages.pages.size()));
         if (dialog.exec() != QDialog::Accepted) return false;
     }
+    // The dialog has given the printer the paper that it holds by default.
+    setUpPaper(printer, pages);
     return sendOrTell(printer, pages, rendering, progress);
 }
 
