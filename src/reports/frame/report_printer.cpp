@@ -1,5 +1,6 @@
 #include "reports/frame/report_printer.h"
 
+#include "platform/print/print_queue.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/front_watch.h"
@@ -18,9 +19,24 @@ bool hasPrinter() {
     return false;
 }
 
+const QString& tookNothing() {
+    static const QString text = "The printer took no pages. Look at the printer, then print again.";
+    return text;
+}
+
+// Sends to a queue that has to take them: the number of its newest job tells.
+QString sendToQueue(QPrinter& printer, const ReportPages& pages, reportOutput::Rendering rendering,
+                    Progress& progress) {
+    const bool hasQueue = printer.outputFormat() == QPrinter::NativeFormat;
+    const int before = hasQueue ? printQueue::newestJob(printer.printerName()) : 0;
+    const QString failure = reportPrinter::sendPages(printer, pages, rendering, progress);
+    if (!failure.isEmpty() || !hasQueue) return failure;
+    return printQueue::newestJob(printer.printerName()) > before ? QString() : tookNothing();
+}
+
 bool sendOrTell(QPrinter& printer, const ReportPages& pages, reportOutput::Rendering rendering,
                 Progress& progress) {
-    const QString failure = reportPrinter::sendPages(printer, pages, rendering, progress);
+    const QString failure = sendToQueue(printer, pages, rendering, progress);
     if (failure.isEmpty()) return true;
     showBox(exclamation("Not Printed!", failure));
     return false;
@@ -60,20 +76,20 @@ void setUpPaper(QPrinter& printer, const ReportPages& pages) {
 
 QString sendPages(QPrinter& printer, const ReportPages& pages, reportOutput::Rendering rendering,
                   Progress& progress) {
-    const QString failure = "The printer took no pages. Look at the printer, then print again.";
     const auto [first, last] = chosenRange(printer, pages);
+    const bool isReverse = printer.pageOrder() == QPrinter::LastPageFirst;
     QPainter painter;
-    if (last < first || !painter.begin(&printer)) return failure;
+    if (last < first || !painter.begin(&printer)) return tookNothing();
     progress.begin("Printing...", last - first + 1);
     bool isSent = true;
-    for (int page = first; page <= last && isSent; ++page) {
-        if (page > first) isSent = printer.newPage();
-        if (isSent) paint(painter, printer, pages, page, rendering);
-        progress.setValue(page - first + 1);
+    for (int sent = 0; sent <= last - first && isSent; ++sent) {
+        if (sent > 0) isSent = printer.newPage();
+        if (isSent) paint(painter, printer, pages, isReverse ? last - sent : first + sent, rendering);
+        progress.setValue(sent + 1);
     }
     progress.end();
     if (!isSent) printer.abort();
-    return painter.end() && isSent ? QString() : failure;
+    return painter.end() && isSent ? QString() : tookNothing();
 }
 
 bool printWithDialog(const ReportPages& pages, reportOutput::Rendering rendering, QWidget* parent,
