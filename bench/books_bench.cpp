@@ -22,6 +22,16 @@ QString folder() {
     return made.path();
 }
 
+using Pass = std::function<void(Connection&)>;
+
+void onCopy(const QString& from, const QString& to, const Pass& pass) {
+    QFile::remove(to);
+    QFile::copy(from, to);
+    Connection store;
+    store.open(to, storePassword);
+    pass(store);
+}
+
 // The books of one size, made once in a run.
 QString booksOf(qint64 size) {
     const QString path = folder() + QString("/books-%1.mdb").arg(size);
@@ -33,30 +43,32 @@ QString booksOf(qint64 size) {
     return path;
 }
 
-using Prepare = std::function<void(Connection&)>;
-using Pass = std::function<void(Connection&)>;
-
-double secondsOf(qint64 size, const Prepare& prepare, const Pass& pass) {
-    const QString copy = folder() + "/copy.mdb";
-    QFile::remove(copy);
-    QFile::copy(booksOf(size), copy);
-    Connection store;
-    store.open(copy, storePassword);
-    prepare(store);
-    QElapsedTimer timer;
-    timer.start();
-    pass(store);
-    return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+// The same books after a pass, made once in a run, too.
+QString booksAfter(const char* name, const Pass& pass, qint64 size) {
+    const QString path = folder() + QString("/books-%1-%2.mdb").arg(name).arg(size);
+    if (!QFile::exists(path)) onCopy(booksOf(size), path, pass);
+    return path;
 }
 
-// Each pass on a fresh copy of the same books, in turn.
-void measure(benchmark::State& state, const Prepare& prepare, const Prepare& prepareBare, const Pass& bare,
+double secondsOf(const QString& books, const Pass& pass) {
+    double seconds = 0;
+    onCopy(books, folder() + "/copy.mdb", [&](Connection& store) {
+        QElapsedTimer timer;
+        timer.start();
+        pass(store);
+        seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+    });
+    return seconds;
+}
+
+// Each pass on a fresh copy of its books, in turn.
+void measure(benchmark::State& state, const QString& bareBooks, const Pass& bare, const QString& books,
              const Pass& pass) {
     double bareSeconds = 0;
     double seconds = 0;
     for (auto turn : state) {
-        bareSeconds += secondsOf(state.range(0), prepareBare, bare);
-        const double own = secondsOf(state.range(0), prepare, pass);
+        bareSeconds += secondsOf(bareBooks, bare);
+        const double own = secondsOf(books, pass);
         state.SetIterationTime(own);
         seconds += own;
     }
@@ -66,7 +78,6 @@ void measure(benchmark::State& state, const Prepare& prepare, const Prepare& pre
     state.counters["ratio"] = seconds / bareSeconds;
 }
 
-void asMade(Connection&) {}
 void revalue(Connection& store) { RecomputeStockValuation(store, Progress::none()); }
 void revalueBare(Connection& store) { bareRevaluation(store.handle()); }
 
@@ -90,14 +101,25 @@ void queueDocuments(Connection& store) {
     queueOnePercent(store);
 }
 
-void revaluation(benchmark::State& state) { measure(state, asMade, asMade, revalueBare, revalue); }
-void revaluationUnchanged(benchmark::State& state) { measure(state, revalue, asMade, revalueBare, revalue); }
-void recomputeBalances(benchmark::State& state) { measure(state, asMade, asMade, recomputeBare, recompute); }
+void revaluation(benchmark::State& state) {
+    const QString books = booksOf(state.range(0));
+    measure(state, books, revalueBare, books, revalue);
+}
+void revaluationUnchanged(benchmark::State& state) {
+    const qint64 size = state.range(0);
+    measure(state, booksOf(size), revalueBare, booksAfter("valued", revalue, size), revalue);
+}
+void recomputeBalances(benchmark::State& state) {
+    const QString books = booksOf(state.range(0));
+    measure(state, books, recomputeBare, books, recompute);
+}
 void recomputeBalancesUnchanged(benchmark::State& state) {
-    measure(state, recompute, recompute, recomputeBare, recompute);
+    const QString books = booksAfter("balanced", recompute, state.range(0));
+    measure(state, books, recomputeBare, books, recompute);
 }
 void endOfDayOnePercent(benchmark::State& state) {
-    measure(state, queueDocuments, queueDocuments, endOfDayBare, endOfDay);
+    const QString books = booksAfter("queued", queueDocuments, state.range(0));
+    measure(state, books, endOfDayBare, books, endOfDay);
 }
 
 void sizes(benchmark::internal::Benchmark* bench) {
