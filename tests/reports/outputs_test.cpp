@@ -88,16 +88,42 @@ TEST(Outputs, DotsAreOfAFixedPitchAndWithoutPictures) {
         {ControlKind::Image, QRect(5000, 800, 1000, 1000), folder.filePath("logo.png"), 0});
     const struct {
         const char* name;
-        QByteArray (*made)(const ReportPages&, Rendering);
+        QByteArray (*make)(const ReportPages&, Rendering, Progress&);
         const char *picture, *font, *fixedPitch;
     } cases[] = {{"PDF", reportOutput::pdf, "/Subtype /Image", "+DejaVuSans\n", "+DejaVuSansMono\n"},
                  {"rich text", reportOutput::rtf, "\\pict", "Verdana", "Courier New"}};
     for (const auto& each : cases) {
-        const QByteArray full = each.made(pages, Rendering::Full);
+        const QByteArray full = each.make(pages, Rendering::Full, Progress::none());
         EXPECT_TRUE(full.contains(each.picture) && full.contains(each.font)) << each.name;
         EXPECT_FALSE(full.contains(each.fixedPitch)) << each.name;
-        const QByteArray dots = each.made(pages, Rendering::DotMatrix);
+        const QByteArray dots = each.make(pages, Rendering::DotMatrix, Progress::none());
         EXPECT_TRUE(dots.contains(each.fixedPitch)) << each.name;
         EXPECT_FALSE(dots.contains(each.picture) || dots.contains(each.font)) << each.name;
+    }
+}
+
+TEST(Outputs, TellTheirPagesOfALongReport) {
+    class Told : public Progress {
+      public:
+        void begin(const QString& text, qint64) override { texts += text; }
+        void setText(const QString& text) override { texts += text; }
+        void setValue(qint64 value) override { values += value; }
+        void end() override { texts += "end"; }
+        QStringList texts;
+        QList<qint64> values;
+    };
+    const std::function<void(const ReportPages&, Progress&)> makers[] = {
+        [](const ReportPages& pages, Progress& told) { reportOutput::pdf(pages, Rendering::Full, told); },
+        [](const ReportPages& pages, Progress& told) { reportOutput::rtf(pages, Rendering::Full, told); },
+        [](const ReportPages& pages, Progress& told) { reportOutput::plainText(pages, told); }};
+    for (const auto& make : makers) {
+        Told told, toldOfFew;
+        make(salesReport(manySales(1200)), told);
+        EXPECT_EQ(told.values.size(), 26);
+        EXPECT_EQ(told.values.last(), 26);
+        EXPECT_EQ(told.texts.first(), "Saving page 1 of 26...");
+        EXPECT_EQ(told.texts.last(2), QStringList({"Saving page 26 of 26...", "end"}));
+        make(salesReport(manySales(100)), toldOfFew);
+        EXPECT_EQ(toldOfFew.texts, QStringList());
     }
 }

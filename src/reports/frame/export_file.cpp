@@ -8,14 +8,16 @@
 
 #include <QFileInfo>
 
-const FileKind FileKind::richText{"Rich Text Format (*.rtf)", "rtf", [](const ReportJob& job) {
-                                      return reportOutput::rtf(job.pages(), job.rendering());
+const FileKind FileKind::richText{"Rich Text Format (*.rtf)", "rtf",
+                                  [](const ReportJob& job, Progress& progress) {
+                                      return reportOutput::rtf(job.pages(), job.rendering(), progress);
                                   }};
-const FileKind FileKind::plainText{"ASCII Text Format (*.txt)", "txt", [](const ReportJob& job) {
-                                       return reportOutput::plainText(job.pages()).toUtf8();
+const FileKind FileKind::plainText{"ASCII Text Format (*.txt)", "txt",
+                                   [](const ReportJob& job, Progress& progress) {
+                                       return reportOutput::plainText(job.pages(), progress).toUtf8();
                                    }};
-const FileKind FileKind::pdf{"PDF (*.pdf)", "pdf", [](const ReportJob& job) {
-                                 return reportOutput::pdf(job.pages(), job.rendering());
+const FileKind FileKind::pdf{"PDF (*.pdf)", "pdf", [](const ReportJob& job, Progress& progress) {
+                                 return reportOutput::pdf(job.pages(), job.rendering(), progress);
                              }};
 
 QString askFileToWrite(QWidget* parent, const QString& title, const QString& suggested,

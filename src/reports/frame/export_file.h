@@ -4,6 +4,7 @@
 
 #include <QString>
 
+class Progress;
 class QWidget;
 class ReportJob;
 
@@ -11,7 +12,7 @@ class ReportJob;
 struct FileKind {
     const char* filter;  // of the dialog
     const char* suffix;
-    QByteArray (*content)(const ReportJob& job);
+    QByteArray (*content)(const ReportJob& job, Progress& progress);
     static const FileKind richText, plainText, pdf;
 };
 

@@ -1,5 +1,6 @@
 #include "reports/frame/page_fonts.h"
 #include "reports/frame/page_lines.h"
+#include "reports/frame/page_progress.h"
 #include "reports/frame/report_output.h"
 
 #include <algorithm>
@@ -107,9 +108,13 @@ QString textOfPage(const ReportPages& pages, const PageFonts& fonts, const Repor
 }
 }  // namespace
 
-QString reportOutput::plainText(const ReportPages& pages) {
+QString reportOutput::plainText(const ReportPages& pages, Progress& progress) {
     QStringList texts;
     const PageFonts fonts(pages);
-    for (const ReportPage& page : pages.pages) texts += textOfPage(pages, fonts, page);
+    PageProgress saving(progress, "Saving", pages.pages.size());
+    for (const ReportPage& page : pages.pages) {
+        saving.setPage(static_cast<std::size_t>(texts.size()) + 1);
+        texts += textOfPage(pages, fonts, page);
+    }
     return texts.join('\f');
 }

@@ -1,6 +1,7 @@
 #include "reports/frame/report_output.h"
 
 #include "reports/frame/page_fonts.h"
+#include "reports/frame/page_progress.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -54,7 +55,7 @@ void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page, Re
     paintItems(painter, pages.pages[page], rendering, PageFonts(pages, rendering));
 }
 
-QByteArray pdf(const ReportPages& pages, Rendering rendering) {
+QByteArray pdf(const ReportPages& pages, Rendering rendering, Progress& progress) {
     QByteArray content;
     QBuffer buffer(&content);
     buffer.open(QIODevice::WriteOnly);
@@ -65,7 +66,9 @@ QByteArray pdf(const ReportPages& pages, Rendering rendering) {
     writer.setResolution(1440);
     const PageFonts fonts(pages, rendering);
     QPainter painter(&writer);
+    PageProgress saving(progress, "Saving", pages.pages.size());
     for (std::size_t page = 0; page < pages.pages.size(); ++page) {
+        saving.setPage(page + 1);
         if (page > 0) writer.newPage();
         paintItems(painter, pages.pages[page], rendering, fonts);
     }

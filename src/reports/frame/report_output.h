@@ -1,4 +1,5 @@
 #pragma once
+#include "platform/progress.h"
 #include "reports/frame/report_pages.h"
 
 #include <QByteArray>
@@ -16,16 +17,18 @@ enum class Rendering { Full, DotMatrix };
 void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page,
                Rendering rendering = Rendering::Full);
 
-// The pages as a PDF.
-QByteArray pdf(const ReportPages& pages, Rendering rendering = Rendering::Full);
+// The pages as a PDF. This and what follows tells its progress from page to page.
+QByteArray pdf(const ReportPages& pages, Rendering rendering = Rendering::Full,
+               Progress& progress = Progress::none());
 
 // The pages as plain text in a fixed pitch: columns stand under each other, a form feed stands between pages.
-QString plainText(const ReportPages& pages);
+QString plainText(const ReportPages& pages, Progress& progress = Progress::none());
 
 // The pages as rich text for a word processor: a paragraph with tab stops for each line, so that columns and
 // pages stay as they are and the text can be edited. A text that is wider than its control is cut as in plain
 // text.
-QByteArray rtf(const ReportPages& pages, Rendering rendering = Rendering::Full);
+QByteArray rtf(const ReportPages& pages, Rendering rendering = Rendering::Full,
+               Progress& progress = Progress::none());
 
 // Writes a file whole or not at all: an older one stays as it is when this fails. The text of the failure;
 // empty: written.

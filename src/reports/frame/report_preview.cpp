@@ -410,7 +410,8 @@ void ReportPreview::save(const QString& title, const FileKind& kind) {
     const QString path = askFileToWrite(this, title, name + "." + kind.suffix, kind);
     if (path.isEmpty()) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const QByteArray bytes = kind.content(*job_);
+    frmStatus status;
+    const QByteArray bytes = kind.content(*job_, status);
     QApplication::restoreOverrideCursor();
     writeOrTell(path, bytes);
 }
@@ -424,7 +425,9 @@ void ReportPreview::copyPage() {
 }
 
 void ReportPreview::copyReport() {
-    if (job_->isComplete()) QApplication::clipboard()->setText(reportOutput::plainText(job_->pages()));
+    if (!job_->isComplete()) return;
+    frmStatus status;
+    QApplication::clipboard()->setText(reportOutput::plainText(job_->pages(), status));
 }
 
 // Keys

@@ -4,6 +4,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/front_watch.h"
+#include "reports/frame/page_progress.h"
 
 #include <QPainter>
 #include <QPrintDialog>
@@ -80,14 +81,13 @@ QString sendPages(QPrinter& printer, const ReportPages& pages, reportOutput::Ren
     const bool isReverse = printer.pageOrder() == QPrinter::LastPageFirst;
     QPainter painter;
     if (last < first || !painter.begin(&printer)) return tookNothing();
-    progress.begin("Printing...", last - first + 1);
+    PageProgress printing(progress, "Printing", static_cast<std::size_t>(last - first + 1));
     bool isSent = true;
     for (int sent = 0; sent <= last - first && isSent; ++sent) {
+        printing.setPage(static_cast<std::size_t>(sent + 1));
         if (sent > 0) isSent = printer.newPage();
         if (isSent) paint(painter, printer, pages, isReverse ? last - sent : first + sent, rendering);
-        progress.setValue(sent + 1);
     }
-    progress.end();
     if (!isSent) printer.abort();
     return painter.end() && isSent ? QString() : tookNothing();
 }

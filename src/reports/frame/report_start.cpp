@@ -115,7 +115,8 @@ bool writeExport(const ReportJob& job, const RunRules& rules) {
         showBox(exclamation("Error!", "Cannot Export File! Please specify a Filename and Location first..."));
         return false;
     }
-    return writeOrTell(rules.exportFile(), exportKind(rules.target()).content(job));
+    frmStatus status;
+    return writeOrTell(rules.exportFile(), exportKind(rules.target()).content(job, status));
 }
 
 bool exportToFile(ReportJobParts parts, const Rules& rules) {

@@ -1,5 +1,6 @@
 #include "reports/frame/page_fonts.h"
 #include "reports/frame/page_lines.h"
+#include "reports/frame/page_progress.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -178,9 +179,13 @@ class Document {
     Document(const ReportPages& pages, Rendering rendering)
         : pages_(pages), rendering_(rendering), fonts_(pages, rendering) {}
 
-    QByteArray rtf() {
+    QByteArray rtf(Progress& progress) {
         addHead();
-        for (std::size_t page = 0; page < pages_.pages.size(); ++page) addPage(pages_.pages[page], page > 0);
+        PageProgress saving(progress, "Saving", pages_.pages.size());
+        for (std::size_t page = 0; page < pages_.pages.size(); ++page) {
+            saving.setPage(page + 1);
+            addPage(pages_.pages[page], page > 0);
+        }
         return rtf_ + "}\n";
     }
 
@@ -245,6 +250,6 @@ class Document {
 };
 }  // namespace
 
-QByteArray reportOutput::rtf(const ReportPages& pages, Rendering rendering) {
-    return Document(pages, rendering).rtf();
+QByteArray reportOutput::rtf(const ReportPages& pages, Rendering rendering, Progress& progress) {
+    return Document(pages, rendering).rtf(progress);
 }
