@@ -113,13 +113,3 @@ TEST(ReportFrame, APdfHasThePagesOfTheReport) {
     EXPECT_TRUE(pdf.startsWith("%PDF"));
     EXPECT_TRUE(pdf.contains("/Count 3"));
 }
-
-TEST(ReportFrame, AFileIsWrittenWholeOrNotAtAll) {
-    QTemporaryDir folder;
-    const QString path = folder.filePath("out.txt");
-    EXPECT_EQ(reportOutput::writeFile(path, "old"), "");
-    for (const QString& bad :
-         {folder.path(), folder.filePath("none/out.txt"), folder.filePath(QString(300, 'n'))})
-        EXPECT_FALSE(reportOutput::writeFile(bad, "new").isEmpty()) << qPrintable(bad);
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("out.txt"));
-}

@@ -6,7 +6,6 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
 
 namespace {
 using reportOutput::Rendering;
@@ -74,13 +73,6 @@ QByteArray pdf(const ReportPages& pages, Rendering rendering, Progress& progress
     }
     painter.end();
     return content;
-}
-
-QString writeFile(const QString& path, const QByteArray& content) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return file.errorString();
-    if (file.write(content) != content.size() || !file.commit()) return file.errorString();
-    return {};
 }
 
 }  // namespace reportOutput

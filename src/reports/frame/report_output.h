@@ -30,8 +30,8 @@ QString plainText(const ReportPages& pages, Progress& progress = Progress::none(
 QByteArray rtf(const ReportPages& pages, Rendering rendering = Rendering::Full,
                Progress& progress = Progress::none());
 
-// Writes a file whole or not at all: an older one stays as it is when this fails. The text of the failure;
-// empty: written.
+// Writes a file whole or not at all: an older one stays as it is when this fails. The text of the failure,
+// with what a person can do about it; empty: written.
 QString writeFile(const QString& path, const QByteArray& content);
 
 }  // namespace reportOutput
