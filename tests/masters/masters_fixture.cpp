@@ -62,20 +62,3 @@ void MastersTest::addContact(const QString& name, bool customer, bool supplier) 
 qint64 MastersTest::count(const QString& rows) {
     return one("SELECT COUNT(*) AS Ihap FROM " + rows).integer("Ihap");
 }
-
-int MastersTest::countWrites(const std::function<void()>& work) {
-    int writes = 0;
-    Connection::setStatementHook([&](const QString&) { ++writes; });
-    work();
-    Connection::setStatementHook({});
-    return writes;
-}
-
-void MastersTest::failAtWrite(int step, const std::function<void()>& work) {
-    int writes = 0;
-    Connection::setStatementHook([&](const QString&) {
-        if (writes++ == step) throw StoreError(StoreError::general, "The disk is full.");
-    });
-    work();
-    Connection::setStatementHook({});
-}

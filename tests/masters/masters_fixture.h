@@ -33,10 +33,6 @@ class MastersTest : public SessionTest {
     // The rows of a table, with a condition: "tblItemMaster WHERE Unit = 'PC'".
     qint64 count(const QString& rows);
 
-    // How many statements that write the work runs; and the work with its step-th one refused.
-    static int countWrites(const std::function<void()>& work);
-    static void failAtWrite(int step, const std::function<void()>& work);
-
   private:
     QString supplierId_;
 };

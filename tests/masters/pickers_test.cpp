@@ -20,6 +20,10 @@ class Pickers : public ScreenTest {
         for (; !rows.eof(); rows.moveNext()) values << rows.trimmed(column);
         return values;
     }
+    static void pressIn(const char* picker, Qt::Key key) {
+        person::look(popup(picker));
+        person::press(key);
+    }
     QStringList picked_;
     GridPicker::Pick keep(const QString& column) {
         return [this, column](const GridPicker::Row& row) { picked_ << row(column); };
@@ -59,13 +63,13 @@ TEST_F(Pickers, ItemsAreSearchedByKind) {
 
 TEST_F(Pickers, ThePickReadsTheRowAsTheListShowsIt) {
     ASSERT_TRUE(openContactFound(store(), "ana", "C", keep("Terms")));
-    keyTo(popup("frmContactFound"), Qt::Key_Return);
+    pressIn("frmContactFound", Qt::Key_Return);
     ASSERT_TRUE(openItemFound(store(), "anvil", "D", keep("SellingPrice")));
-    keyTo(popup("frmFound"), Qt::Key_Return);
+    pressIn("frmFound", Qt::Key_Return);
     EXPECT_EQ(picked_, (QStringList{"30", "15.00"})) << "once each";
     EXPECT_FALSE(popup("frmFound"));
     ASSERT_TRUE(openContactFound(store(), "", "C", keep("ContactName")));
-    keyTo(popup("frmContactFound"), Qt::Key_Escape);
+    pressIn("frmContactFound", Qt::Key_Escape);
     EXPECT_FALSE(popup("frmContactFound"));
     EXPECT_EQ(picked_.size(), 2) << "Esc picks nothing";
 }
@@ -75,14 +79,14 @@ TEST_F(Pickers, AHeaderListsAgainInItsOrder) {
     auto* grid = popup("frmFound")->findChild<DataGrid*>("dbgSearch");
     emit grid->headerClicked(1);
     EXPECT_EQ(grid->currentText("Description"), "ANVIL");
-    keyTo(popup("frmFound"), Qt::Key_Return);
+    pressIn("frmFound", Qt::Key_Return);
     EXPECT_EQ(picked_, QStringList{"A2"});
 }
 
 TEST_F(Pickers, AFailingStoreShowsItsBoxAndNoPicker) {
     store().run("ALTER TABLE tblItemMaster RENAME TO tblGone");
+    boxes.expect("Error...");
     EXPECT_FALSE(openItemFound(store(), "", "D", keep("ItemCode")));
-    EXPECT_EQ(takeBoxes().size(), 1);
     EXPECT_FALSE(popup("frmFound"));
     store().run("ALTER TABLE tblGone RENAME TO tblItemMaster");
 }

@@ -42,15 +42,6 @@ TEST(SearchCondition, IsBuiltByTheCategory) {
             << row.category;
 }
 
-TEST(SearchCondition, ANumberThatDoesNotConvertIsTheStoresError) {
-    try {
-        searchCondition(itemSearchCategories(), "Selling Price", "1.2.3");
-        FAIL();
-    } catch (const StoreError& error) {
-        EXPECT_EQ(error.number(), StoreError::typeMismatch);
-    }
-}
-
 class WalkTheTable : public MastersTest {};
 
 TEST_F(WalkTheTable, GoesInTheOrderOfTheKeys) {
@@ -65,15 +56,4 @@ TEST_F(WalkTheTable, GoesInTheOrderOfTheKeys) {
     EXPECT_EQ(previousRecord(store(), itemMaster, "1000000010"), std::nullopt);
 }
 
-TEST_F(WalkTheTable, FromARecordThatIsNotThereIsNoCurrentRow) {
-    addItem("A", "A");
-    for (const char* key : {"", "B"}) {
-        try {
-            nextRecord(store(), itemMaster, key);
-            ADD_FAILURE() << key;
-        } catch (const StoreError& error) {
-            EXPECT_EQ(error.number(), StoreError::noCurrentRow);
-        }
-    }
-}
 }  // namespace
