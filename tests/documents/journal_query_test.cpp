@@ -5,10 +5,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-JournalQuery salesQuery() { return JournalQuery(salesJournal().tables); }
-
-QString statement(const JournalQuery& query) { return query.where().text + query.order(); }
-
 const bool exact = true;
 const bool any = false;
 
@@ -44,63 +40,4 @@ TEST(JournalQuery, ASearchIsOneClauseWithItsValueBound) {
     }
 }
 
-struct RefusedCase {
-    const char* category;
-    const char* text;
-    const char* title;
-};
-
-TEST(JournalQuery, KeepsTheFormerClauseWhenASearchIsRefused) {
-    const RefusedCase cases[] = {
-        {"Delivery Nr", "x", "Error!"},           {"", "x", "Error!"},
-        {"Delivery Date", "2/30/26", "Error..."}, {"Delivery Date", "12", "Error..."},
-        {"Total Amount", "1.2.3", "Error..."},    {"Total Amount", "1e5", "Error..."}};
-    for (const RefusedCase& row : cases) {
-        JournalQuery query = salesQuery();
-        ASSERT_FALSE(query.search("Customer Name", "cruz", any));
-        const QString before = statement(query);
-        const auto box = query.search(row.category, row.text, any);
-        ASSERT_TRUE(box) << row.text;
-        EXPECT_EQ(box->title, QString(row.title)) << row.text;
-        EXPECT_EQ(statement(query), before) << row.text;
-    }
-    EXPECT_EQ(salesQuery().search("Nothing", "x", any)->text, QString("Criteria does not exist!"));
-}
-
-TEST(JournalQuery, FirstSearchPutsTheFilterBehindItsClause) {
-    JournalQuery query = salesQuery();
-    query.setPrintedFilter(false, false);
-    ASSERT_FALSE(query.search("Customer Name", "cruz", any));
-    EXPECT_EQ(statement(query), QString(" WHERE ContactName LIKE ? AND Printed = False"));
-    query.setPrintedFilter(true, true);
-    ASSERT_FALSE(query.search("Delivery No.", "1001", exact));
-    EXPECT_EQ(statement(query), QString(" WHERE RefNo = ? AND Printed = True"));
-    EXPECT_EQ(query.where().values, QVariantList{QString("1001")});
-}
-
-TEST(JournalQuery, SortAndFilterReplaceEachOther) {
-    JournalQuery query = salesQuery();
-    query.setPrintedFilter(true, false);
-    query.setOrder(" ORDER BY RefNo ASC");
-    EXPECT_EQ(statement(query), QString(" ORDER BY RefNo ASC"));
-    query.setPrintedFilter(true, false);
-    EXPECT_EQ(statement(query), QString(" WHERE Printed = True"));
-}
-
-TEST(JournalQuery, SortAndClauseStayWhenTheTextIsCleared) {
-    JournalQuery query = salesQuery();
-    query.setOrder(" ORDER BY RefNo ASC");
-    ASSERT_FALSE(query.search("Customer Name", "cruz", any));
-    ASSERT_FALSE(query.search("Customer Name", "   ", any));
-    EXPECT_EQ(statement(query), QString(" WHERE ContactName LIKE ? ORDER BY RefNo ASC"));
-}
-
-TEST(JournalQuery, FilterWithoutATextBehindAFormerClauseStandsAsASecondWhere) {
-    JournalQuery query = salesQuery();
-    ASSERT_FALSE(query.search("Customer Name", "cruz", any));
-    query.setPrintedFilter(true, false);
-    EXPECT_EQ(statement(query), QString(" WHERE ContactName LIKE ? WHERE Printed = True"));
-    ASSERT_FALSE(query.search("Customer Name", "reyes", any));
-    EXPECT_EQ(statement(query), QString(" WHERE ContactName LIKE ? AND Printed = True"));
-}
 }  // namespace
