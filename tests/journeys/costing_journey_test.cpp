@@ -35,21 +35,6 @@ TEST_F(Journey, TheRoadOfOneSale) {
     EXPECT_EQ(costOf(last), "48.00");
 }
 
-// The stock of the document's own day counts, whatever came in later.
-TEST_F(Journey, ASaleIsRefusedWhatComesInLater) {
-    play("log in ADMIN admin");
-    onDay(9);
-    play("purchase from Rizal Mill\n  5 x RICE at 5.00");
-    onDay(8);
-    const QStringList saved = play(
-        "sale to Cora Store\n"
-        "  5 x RICE\n"
-        "  refused\n"
-        "  5 served 0 x RICE\n");
-    ASSERT_EQ(saved.size(), 1);
-    EXPECT_EQ(figure("TotalAmount", "tblSalesMaster", "RefNo", saved[0]), "0.00");
-}
-
 TEST_F(Journey, APurchaseEditedAfterTheEndOfDayCostsItsSalesAnew) {
     play("log in ADMIN admin");
     const QString bought = playOne("purchase from Rizal Mill\n  10 x RICE at 5.00");
@@ -82,38 +67,4 @@ TEST_F(Journey, APurchaseEditedAfterTheEndOfDayCostsItsSalesAnew) {
     EXPECT_EQ(costOf(sold), "24.00");
     EXPECT_EQ(itemFigure("CostPrice"), "6.00");
     EXPECT_EQ(figure("Balance", "tblPurchaseMaster", "PurchaseNo", bought), "60.00");
-}
-
-TEST_F(Journey, ADeletedSaleLeavesTheBooks) {
-    play("log in ADMIN admin");
-    play("purchase from Rizal Mill\n  10 x RICE at 5.00");
-    const QStringList sold = play(
-        "sale to Cora Store\n  4 x RICE at 10.00\n"
-        "sale to Cora Store\n  3 x RICE at 11.00\n"
-        "end of day");
-    ASSERT_EQ(sold.size(), 2);
-    EXPECT_EQ(costOf(sold[0]), "20.00");
-
-    sale(sold[0]);
-    deleteCurrent();
-    EXPECT_EQ(costOf(sold[0]), "none");
-    EXPECT_EQ(figure("TotalAmount", "tblSalesMaster", "RefNo", sold[0]), "none");
-    EXPECT_EQ(figure("Served", "tblSalesDetails", "Reference", sold[0]), "none");
-    EXPECT_EQ(itemFigure("Balance"), "7.00");
-    EXPECT_EQ(figure("Balance", "tblSalesMaster", "RefNo", sold[1]), "33.00");
-    EXPECT_EQ(costOf(sold[1]), "15.00");
-}
-
-// The unit price of the line, not its net price, becomes the master's.
-TEST_F(Journey, DocumentsMoveTheMastersPrices) {
-    store().run("UPDATE tblContactMaster SET Discount = 100000");
-    play("log in ADMIN admin");
-    play("purchase from Rizal Mill\n  10 x RICE at 5.50");
-    EXPECT_EQ(itemFigure("CostPrice"), "5.50");
-    play("sale to Cora Store\n  1 x RICE at 12.25");
-    EXPECT_EQ(itemFigure("SellingPrice"), "12.25");
-    EXPECT_EQ(itemFigure("WholesalePrice"), "9.00");
-    play("sale to Cora Store wholesale\n  1 x RICE at 8.75");
-    EXPECT_EQ(itemFigure("WholesalePrice"), "8.75");
-    EXPECT_EQ(itemFigure("SellingPrice"), "12.25");
 }

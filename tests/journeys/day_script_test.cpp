@@ -2,36 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(DayScript, ReadsDocumentsWithTheirLines) {
-    const auto steps = readDayScript(
-        "# a day\n"
-        "log in ADMIN admin\n"
-        "\n"
-        "purchase from Bulacan PVC & Plumbing\n"
-        "    remarks By boat\n"
-        "    printed\n"
-        "    400 delivered 250 x DEFORMED BAR 10 MM X 6 M at 1,231.50\n"
-        "sale to Liloan Hardware wholesale\n"
-        "    1000 x GRANITE TILE 60 X 60\n"
-        "    refused\n"
-        "end of day\n"
-        "log off\n");
-    ASSERT_EQ(steps.size(), 5);
-    EXPECT_EQ(steps[0].password, "admin");
-    EXPECT_EQ(steps[1].contact, "Bulacan PVC & Plumbing");
-    EXPECT_EQ(steps[1].remarks, "By boat");
-    EXPECT_TRUE(steps[1].isPrinted && !steps[2].isPrinted);
-    EXPECT_EQ(steps[1].lines[0].ordered, "400");
-    EXPECT_EQ(steps[1].lines[0].moved, "250");
-    EXPECT_EQ(steps[1].lines[0].item, "DEFORMED BAR 10 MM X 6 M");
-    EXPECT_EQ(steps[1].lines[0].price, "1,231.50");
-    EXPECT_EQ(steps[2].contact, "Liloan Hardware");
-    EXPECT_TRUE(steps[2].wholesale);
-    EXPECT_TRUE(steps[2].lines[0].refused);
-    EXPECT_EQ(steps[2].lines[0].moved, "1000");
-    EXPECT_EQ(steps[4].kind, DayStep::LogOff);
-}
-
 TEST(DayScript, AFaultIsToldWithItsLine) {
     const std::pair<const char*, const char*> cases[] = {
         {"\nbuy cement\n", "line 2: no step begins like this: \"buy cement\""},

@@ -58,31 +58,18 @@ QDate Journey::onDay(int day) {
     return date;
 }
 
-// Plays with a player of its own; what it finds amiss fails the test, with what it did until then.
-static void withPlayer(const std::function<void(DayPlayer&)>& act) {
-    QStringList told;
+// What the player finds amiss fails the test, with what it did until then.
+QStringList Journey::play(const QString& script) {
+    QStringList saved, told;
     try {
         DayPlayer player({}, [&](const QString& line) { told += line; });
-        act(player);
+        player.play(readDayScript(script));
+        saved = player.saved();
     } catch (const std::exception& error) {
         ADD_FAILURE() << qPrintable(told.join('\n')) << "\n" << error.what();
     }
     failOnUnexpectedBoxes();
-}
-
-QStringList Journey::play(const QString& script) {
-    QStringList saved;
-    withPlayer([&](DayPlayer& player) {
-        player.play(readDayScript(script));
-        saved = player.saved();
-    });
     return saved;
-}
-
-QWidget* Journey::compose(const QString& script) {
-    QWidget* entry = nullptr;
-    withPlayer([&](DayPlayer& player) { entry = player.compose(readDayScript(script).first()); });
-    return entry;
 }
 
 void Journey::openOther(Connection& other) const {

@@ -14,12 +14,10 @@ class TestScreen : public RecordScreen {
     Q_OBJECT
   public:
     explicit TestScreen(const QString& name, Kind kind = Child);
-    bool deleteAllowed() const override { return mayDelete; }
     bool hidesReportMenu() const override { return hidesReports; }
     bool queryUnload() override { return leaves; }
 
     QStringList calls;
-    bool mayDelete = true;
     bool hidesReports = false;
     bool leaves = true;
 
