@@ -78,15 +78,6 @@ TEST_F(SharedRoutines, LookupsIgnoreCaseAndTrailingBlanks) {
     EXPECT_FALSE(RecordFound(store(), "tblContactMaster", "ContactName", " O'Brien & Co"));
 }
 
-TEST_F(SharedRoutines, FlagsAreSetAndAsked) {
-    addContact(store(), {"1", "One", false});
-    SetFlagField(store(), "tblContactMaster", "ContactID", "1 ", "IsCustomer", true);
-    EXPECT_TRUE(FlagFieldSet(store(), "tblContactMaster", "ContactID", "1", "IsCustomer"));
-    SetFlagField(store(), "tblContactMaster", "ContactID", "none", "IsCustomer", false);
-    EXPECT_FALSE(FlagFieldSet(store(), "tblContactMaster", "ContactID", "none", "IsCustomer"));
-    EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblContactMaster WHERE IsCustomer = True"), "1");
-}
-
 TEST_F(SharedRoutines, PercentsGoThroughDoubleOnce) {
     const struct {
         double percent, value, net, signedNet;
