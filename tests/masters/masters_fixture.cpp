@@ -16,7 +16,6 @@ void MastersTest::SetUp() {
     Clock::freeze(QDateTime(QDate(2026, 3, 2), QTime(9, 30)));
     addContact("Mabuhay Trading", false, true);
     supplierId_ = lastRecord(store(), contactMaster);
-    if (!RecordFound(store(), "tblUnitMaster", "UnitCode", "PC")) addUnit(store(), "PC");
 }
 
 void MastersTest::TearDown() { Clock::unfreeze(); }

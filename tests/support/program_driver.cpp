@@ -31,10 +31,8 @@ static QWidget* visibleWindow(const QString& name) {
     return nullptr;
 }
 
-bool sees(const QString& windowName) { return visibleWindow(windowName) != nullptr; }
-
 QWidget* window(const QString& name) {
-    waitFor([&] { return sees(name); }, "the window " + name);
+    waitFor([&] { return visibleWindow(name) != nullptr; }, "the window " + name);
     return visibleWindow(name);
 }
 

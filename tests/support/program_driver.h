@@ -14,7 +14,6 @@ void waitFor(const std::function<bool()>& happened, const QString& what, int mil
 
 // A window of the program, by its name, once it is on show.
 QWidget* window(const QString& name);
-bool sees(const QString& windowName);
 // The screen of this name, once it is open and has the focus.
 QWidget* screen(const QString& name);
 bool isOpen(const QString& screenName);

@@ -129,9 +129,4 @@ QString focusName() {
     return focus ? focus->objectName() : QString();
 }
 
-bool takePicture(QWidget* screen, const QString& path) {
-    settle();
-    return screen->grab().save(path);
-}
-
 }  // namespace person

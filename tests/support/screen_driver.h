@@ -36,6 +36,4 @@ void clickHeader(QAbstractItemView* list, int column);
 QString read(QWidget* screen, const QString& name);
 QString focusName();  // the name of the control that has the focus; empty: none has
 
-bool takePicture(QWidget* screen, const QString& path);
-
 }  // namespace person

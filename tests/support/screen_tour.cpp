@@ -94,18 +94,14 @@ void closeOpenScreens() {
     }
 }
 
-void tourRegisteredScreens(const VisitScreen& visit) {
-    for (const QString& name : ScreenRegistry::instance().names()) {
-        visit(name, openRegistered(name));
-        closeOpenScreens();
-    }
-}
-
 void tourScreens(const QString& user, const QString& password, const VisitScreen& visit) {
     setBoxAnswerer(pass);
     tourLogin(user, password, visit);
     tourFrame(visit);
-    tourRegisteredScreens(visit);
+    for (const QString& name : ScreenRegistry::instance().names()) {
+        visit(name, openRegistered(name));
+        closeOpenScreens();
+    }
     tourPopups(visit);
     setBoxAnswerer({});
 }

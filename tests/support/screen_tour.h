@@ -12,8 +12,6 @@ class QWidget;
 using VisitScreen = std::function<void(const QString& name, QWidget* screen)>;
 void tourScreens(const QString& user, const QString& password, const VisitScreen& visit);
 
-// A part of that tour, once somebody has logged in: the screens registered by name, each closed again.
-void tourRegisteredScreens(const VisitScreen& visit);
-// Opens one of them, and closes what is open.
+// Opens a screen that is registered by name, and closes what is open.
 QWidget* openRegistered(const QString& name);
 void closeOpenScreens();

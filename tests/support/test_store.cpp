@@ -110,10 +110,6 @@ void addContact(Connection& store, const ContactRow& contact) {
           bound(contact.terms), bound(contact.creditLimit)}});
 }
 
-void addUnit(Connection& store, const QString& code) {
-    store.run({"INSERT INTO tblUnitMaster (UnitCode) VALUES (?)", {code}});
-}
-
 void addItem(Connection& store, const ItemRow& item) {
     store.run(
         {"INSERT INTO tblItemMaster (ItemCode, Description, Unit, CostPrice, SellingPrice, WholesalePrice, "

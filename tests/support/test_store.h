@@ -46,7 +46,6 @@ struct ContactRow {
     Currency creditLimit = {};
 };
 void addContact(Connection& store, const ContactRow& contact);
-void addUnit(Connection& store, const QString& code);
 
 struct ItemRow {
     QString code;
