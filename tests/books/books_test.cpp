@@ -35,16 +35,6 @@ void BooksTest::write(const QString& statement, const QVariantList& values) {
     store.run({statement, values});
 }
 
-QString BooksTest::value(const QString& statement, const QVariantList& values) {
-    const Recordset row = store.execute({"SELECT v FROM (" + statement + ")", values});
-    if (row.eof()) return "none";
-    return row.isNull("v") ? "null" : row.text("v");
-}
-
-Currency BooksTest::currency(const QString& statement, const QVariantList& values) {
-    return Currency::fromTenThousandths(value(statement, values).toLongLong());
-}
-
 QString BooksTest::column(const QString& statement, const QVariantList& values) {
     return rowsOf(store, {statement, values}).join(u' ');
 }

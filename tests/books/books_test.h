@@ -23,9 +23,6 @@ class BooksTest : public testing::Test {
              const QString& contact = "C1");
     void sell(const QString& number, int date, const std::vector<LineRow>& lines);
     void write(const QString& statement, const QVariantList& values = {});
-    // The first value of the first row; a null is the text "null", an empty answer "none".
-    QString value(const QString& statement, const QVariantList& values = {});
-    Currency currency(const QString& statement, const QVariantList& values = {});
     // The values of one column, joined with blanks.
     QString column(const QString& statement, const QVariantList& values = {});
 

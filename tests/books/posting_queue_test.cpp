@@ -28,7 +28,7 @@ TEST_F(PostingQueueTest, AnItemWaitsOnce) {
     QueueItemForPosting(store, "A");
     QueueItemForPosting(store, "B");
     QueueItemForPosting(store, "a");
-    EXPECT_EQ(value("SELECT COUNT(*) AS v FROM tblForPostingItem"), "2");
+    EXPECT_EQ(column("SELECT COUNT(*) AS v FROM tblForPostingItem"), "2");
 }
 
 TEST_F(PostingQueueTest, EitherTableIsPending) {

@@ -113,7 +113,7 @@ TEST_F(StockValuationTest, OneItemAndAllAreCostedFirstInFirstOut) {
         addRows(books);
         ComputeStockBalances(store, "a");
         EXPECT_EQ(balances(), books.balances) << books.name;
-        EXPECT_EQ(value("SELECT SUM(SalesCost) AS v FROM tblStockValuation"), "0") << books.name;
+        EXPECT_EQ(column("SELECT SUM(SalesCost) AS v FROM tblStockValuation"), "0") << books.name;
         ComputeSalesCost(store, "a");
         EXPECT_EQ(salesCosts(), books.salesCosts) << books.name;
         EXPECT_EQ(ValuationCost(store, day(1), day(9), "A", boxes), amount(books.value)) << books.name;
