@@ -17,7 +17,8 @@ const QStringList& hostileTexts() {
             "O'Brien|''|'; DROP TABLE tblItemMaster; --|\" OR \"\"=\"|100%|%|_|a_b%c|\\|"
             "C:\\temp\\new.txt|[a-z]|*?#|?|:name @p1 $1 ?1|<b>bold</b>|"
             "<img src=x onerror=alert(1)>|&amp; & && &File|Ñandú señor|straße ß|İstanbul ı|"
-            "日本語の品名|😀🧾|👨‍👩‍👧|مرحبا بالعالم|\u202Eabc\u202C|e\u0301 "
+            "日本語の品名|😀🧾|👨‍👩‍👧|مرحبا "
+            "بالعالم|\u202Eabc\u202C|e\u0301 "
             "o\u0308|zero\u200Bwidth|"
             "  blanks around  |\u00A0hard blanks\u00A0|tab\tinside|line\nbreak")
             .split('|') +

@@ -72,10 +72,6 @@ QStringList Journey::play(const QString& script) {
     return saved;
 }
 
-void Journey::openOther(Connection& other) const {
-    other.open(folder_.filePath(storeFileName), storePassword);
-}
-
 QWidget* Journey::journalAt(const QString& menuItem, const QString& keyColumn, const QString& number) {
     person::choose(menuItem);
     QWidget* journal =

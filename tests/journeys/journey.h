@@ -20,8 +20,6 @@ class Journey : public ::testing::Test {
     // Plays steps of a day (see demo/day.txt), and gives the numbers of the documents saved.
     static QStringList play(const QString& script);
     static QString playOne(const QString& script) { return play(script).value(0); }
-    // Another workstation on the same store.
-    void openOther(Connection& other) const;
 
     // Opens the journal by its menu item and goes to the document.
     static QWidget* journalAt(const QString& menuItem, const QString& keyColumn, const QString& number);

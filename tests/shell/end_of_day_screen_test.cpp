@@ -93,26 +93,21 @@ TEST_F(EndOfDayScreen, ListsPurchasesFirstAndEachBookByDate) {
     EXPECT_EQ(screen->findChild<QLabel*>("lblStatus")->text(), QString("2"));
 }
 
-TEST_F(EndOfDayScreen, OnlyItemsQueuedShowsTheFirstProblemAndStillCosts) {
-    buyAndSell();
-    store().run("DELETE FROM tblForPosting");
-    QPointer screen = open();
-    boxes.expect(postingProblem);
-    boxes.expect(success);
-    press(screen, "imgUpload");
-    EXPECT_EQ(count("tblForPostingItem"), 0);
-}
-
-TEST_F(EndOfDayScreen, OnlyDocumentsQueuedShowsTheSecondProblem) {
-    buyAndSell();
-    store().run("DELETE FROM tblForPostingItem");
-    QPointer screen = open();
-    boxes.expect(initializingProblem);
-    boxes.expect(already);
-    boxes.expect(success);
-    press(screen, "imgUpload");
-    EXPECT_EQ(count("tblStockValuation"), 2);
-    EXPECT_EQ(ScreenRegistry::instance().opened("frmForUpload"), nullptr);
+TEST_F(EndOfDayScreen, WithHalfOfTheQueueShowsTheProblemAndDoesTheOtherHalf) {
+    const std::pair<const char*, QList<Box>> halves[] = {
+        {"tblForPosting", {postingProblem, success}},
+        {"tblForPostingItem", {initializingProblem, already, success}}};
+    for (const auto& [emptied, told] : halves) {
+        save(purchaseOrders, emptied, "03/05/2026", "I2", 1, 5);
+        store().run(QString("DELETE FROM ") + emptied);
+        QPointer screen = open();
+        for (const Box& box : told) boxes.expect(box);
+        press(screen, "imgUpload");
+        boxes.verify();
+        EXPECT_EQ(ScreenRegistry::instance().opened("frmForUpload"), nullptr);
+        EXPECT_FALSE(HasPendingPosting(store()));
+    }
+    EXPECT_EQ(count("tblStockValuation"), 1) << "that of the second";
 }
 
 TEST_F(EndOfDayScreen, AFailedDocumentStopsThePassThereAndSuccessIsSaidAllTheSame) {
@@ -137,18 +132,7 @@ TEST_F(EndOfDayScreen, AFailedDocumentStopsThePassThereAndSuccessIsSaidAllTheSam
     EXPECT_EQ(count("tblForPostingItem"), 0);
 }
 
-TEST_F(EndOfDayScreen, ADocumentDeletedAfterBeingListedAddsNoRowsAndLeavesTheQueue) {
-    buyAndSell();
-    QPointer screen = open();
-    store().run("DELETE FROM tblSalesDetails");
-    store().run("DELETE FROM tblSalesMaster");
-    boxes.expect(success);
-    press(screen, "imgUpload");
-    EXPECT_EQ(count("tblStockValuation"), 1);
-    EXPECT_EQ(count("tblForPosting"), 0);
-}
-
-TEST_F(EndOfDayScreen, ADocumentSavedAfterTheListsWaitsForTheNextRun) {
+TEST_F(EndOfDayScreen, ADocumentSavedAfterTheListsWaitsAndARefreshClosesWhenNothingIsLeft) {
     buyAndSell();
     QPointer screen = open();
     save(purchaseOrders, "P9", "03/09/2026", "I2", 3, 7);
@@ -157,21 +141,12 @@ TEST_F(EndOfDayScreen, ADocumentSavedAfterTheListsWaitsForTheNextRun) {
     EXPECT_EQ(count("tblForPosting"), 1);
     EXPECT_EQ(count("tblForPostingItem"), 1);
     screen = open();
-    boxes.expect(success);
-    press(screen, "imgUpload");
-    EXPECT_FALSE(HasPendingPosting(store()));
-}
-
-TEST_F(EndOfDayScreen, RefreshReloadsAndClosesWhenNothingIsLeft) {
-    buyAndSell();
-    QPointer screen = open();
-    save(purchaseOrders, "P9", "03/09/2026", "I2", 3, 7);
-    press(screen, "imgRefresh");
-    EXPECT_EQ(screen->findChild<ListView*>("lvwTransaction")->rowCount(), 3);
+    EXPECT_EQ(screen->findChild<ListView*>("lvwTransaction")->rowCount(), 1);
     store().run("DELETE FROM tblForPosting");
     store().run("DELETE FROM tblForPostingItem");
     boxes.expect(already);
     press(screen, "imgRefresh");
     EXPECT_EQ(ScreenRegistry::instance().opened("frmForUpload"), nullptr);
 }
+
 }  // namespace

@@ -40,12 +40,4 @@ TEST(MenuCatalogue, NoIndexAndNoShortcutStandsTwice) {
         EXPECT_TRUE(names.contains(tool.item) || *tool.command.routine) << tool.key;
 }
 
-TEST(MenuCatalogue, TheCaptionDecidesWhatAnItemDoes) {
-    const auto admin = std::ranges::find(menuCatalogue(), std::string_view("mnuAdmin"), &MenuTable::name);
-    EXPECT_TRUE(std::holds_alternative<std::monostate>(actionOf(*admin, "S&QL Server Setup...")));
-    const MenuAction lock = actionOf(*admin, recordLockCaption);
-    ASSERT_TRUE(std::holds_alternative<OpenScreen>(lock));
-    EXPECT_STREQ(std::get<OpenScreen>(lock).screen, "frmRecordLock");
-}
-
 }  // namespace
