@@ -1,17 +1,24 @@
 // Measures a plain list report of many rows: its first page beside the whole, the whole as PDF beside bare
-// painter output of the same lines, and what memory it takes. The limits stand in the names; by itself it
-// runs 100,000 rows.
+// painter output of the same lines, what memory it takes, and how its preview answers: to keys while the
+// pages are made, to Esc, and to each letter of a search. The limits stand in the names; by itself it runs
+// 100,000 rows.
 #include "platform/masks.h"
+#include "platform/ui/screen_registry.h"
+#include "reports/frame/page_view.h"
 #include "reports/frame/report_fonts.h"
 #include "reports/frame/report_output.h"
+#include "reports/frame/report_preview.h"
 #include "reports/frame/report_run.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPointer>
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
@@ -152,18 +159,96 @@ void memoryOf(benchmark::State& state) {
     }
 }
 
+// The preview as a person has it before them.
+class OpenPreview {
+  public:
+    explicit OpenPreview(qint64 rows)
+        : preview_(new ReportPreview(
+              std::make_unique<ReportJob>(goodsList, std::make_unique<Goods>(rows), ReportEvents()))) {
+        preview_->resize(1000, 640);
+        ScreenRegistry::instance().show(preview_);
+    }
+    ~OpenPreview() {
+        if (preview_) preview_->unload();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    OpenPreview(const OpenPreview&) = delete;
+    OpenPreview& operator=(const OpenPreview&) = delete;
+
+    bool isOpen() const { return preview_; }
+    bool isComplete() const { return preview_->job().isComplete(); }
+    double pagesMade() const { return preview_->job().shownPages(); }
+    QWidget* pages() const { return preview_->findChild<PageView*>(); }
+    QWidget* searchField() const { return preview_->findChild<QLineEdit*>("txtFind"); }
+
+    void work() { QApplication::processEvents(); }
+    // Presses a key behind all that waits already, and works until all is done and painted. The milliseconds.
+    double press(QWidget* widget, int key, const QString& text = {}) {
+        QElapsedTimer timer;
+        timer.start();
+        QApplication::postEvent(widget, new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, text));
+        QApplication::processEvents();
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return static_cast<double>(timer.nsecsElapsed()) * 1e-6;
+    }
+
+  private:
+    QPointer<ReportPreview> preview_;
+};
+
+void keysOf(benchmark::State& state) {
+    double longest = 0, turns = 0;
+    for (auto turn : state) {
+        OpenPreview preview(state.range(0));
+        for (; !preview.isComplete(); ++turns)
+            longest = std::max(longest, preview.press(preview.pages(), Qt::Key_PageDown));
+        state.SetIterationTime(longest / 1000);
+    }
+    state.counters["keys"] = turns;
+}
+
+void cancelOf(benchmark::State& state) {
+    for (auto turn : state) {
+        OpenPreview preview(state.range(0));
+        while (!preview.isComplete() && preview.pagesMade() < 1500) preview.work();
+        state.counters["pages"] = preview.pagesMade();
+        double waited = preview.press(preview.pages(), Qt::Key_Escape);
+        while (preview.isOpen()) waited += preview.press(preview.pages(), Qt::Key_Escape);
+        state.SetIterationTime(waited / 1000);
+    }
+}
+
+void searchOf(benchmark::State& state) {
+    OpenPreview preview(state.range(0));
+    while (!preview.isComplete()) preview.work();
+    double longest = 0;
+    for (auto turn : state) {
+        for (const QChar letter : QString("angle bar 976 x 5"))
+            longest = std::max(longest, preview.press(preview.searchField(), letter.unicode(), letter));
+        for (int i = 0; i < 17; ++i)
+            longest = std::max(longest, preview.press(preview.searchField(), Qt::Key_Backspace));
+        state.SetIterationTime(longest / 1000);
+    }
+}
+
 void sizes(benchmark::internal::Benchmark* bench) {
     bench->Arg(100000)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 }
 
 BENCHMARK(memoryOf)->Name("growth of memory (limit 100 MB)")->Apply(sizes)->Iterations(1);
 BENCHMARK(firstPage)->Name("first page (limit 0.02 of the whole)")->Apply(sizes);
+BENCHMARK(keysOf)
+    ->Name("longest wait of a key while pages are made (limit 100 ms)")
+    ->Apply(sizes)
+    ->Iterations(1);
+BENCHMARK(cancelOf)->Name("cancel (limit 500 ms)")->Apply(sizes);
+BENCHMARK(searchOf)->Name("longest wait of a letter of a search (limit 100 ms)")->Apply(sizes)->Iterations(1);
 BENCHMARK(wholeAsPdf)->Name("layout and PDF (limit 2)")->Apply(sizes);
 }  // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QGuiApplication application(argc, argv);
+    QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
 }
