@@ -159,12 +159,17 @@ QByteArray floating(const PageItem& item) {
            pictureData(picture) + "}}}}}";
 }
 
+// The fonts that the texts are measured with, by Typeface; where there are none, those that they stand for,
+// which are no wider: a column never runs into the next one.
 QByteArray fontTable(Rendering rendering) {
-    static const char* const fonts[] = {"swiss Verdana", "swiss Tahoma", "swiss Arial"};  // by Typeface
+    static const char* const fonts[] = {"swiss{\\*\\falt Verdana}DejaVu Sans",
+                                        "swiss{\\*\\falt Tahoma}DejaVu Sans Condensed",
+                                        "swiss{\\*\\falt Arial}Liberation Sans"};
+    static const char* const fixedPitch = "modern\\fprq1{\\*\\falt Courier New}DejaVu Sans Mono";
     QByteArray table = "{\\fonttbl";
     for (int face = 0; face < 3; ++face)
         table += '{' + control("f", face) + "\\f" +
-                 (rendering == Rendering::Full ? fonts[face] : "modern\\fprq1 Courier New") + ";}";
+                 (rendering == Rendering::Full ? fonts[face] : fixedPitch) + ";}";
     return table + '}';
 }
 
