@@ -17,11 +17,15 @@ static void keepStoresInMemory() {
         qputenv("TMPDIR", "/dev/shm");
 }
 
+// Whatever printers the machine has, no test prints on them, or stops at the dialog that chooses one.
+static void hidePrinters() { qputenv("CUPS_SERVER", "/nowhere"); }
+
 // Every test program: an application without a display, in a fixed locale, where a box that no test expects
 // fails instead of waiting for a person.
 int main(int argc, char** argv) {
     useOffscreenDesk();
     keepStoresInMemory();
+    hidePrinters();
     const GuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());
