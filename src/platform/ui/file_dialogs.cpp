@@ -6,6 +6,8 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QInputDialog>
+#include <QLabel>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -32,6 +34,16 @@ QString saveFile(QWidget* parent, const QString& title, const QString& path, con
     return QFileDialog::getSaveFileName(parent, title, path, filter);
 }
 
+QString askText(QWidget* parent, const QString& title, const QString& prompt) {
+    if (doors().askText) return doors().askText(prompt);
+    const FrontHold hold;
+    QInputDialog dialog(parent);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    for (auto* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+    return dialog.exec() == QDialog::Accepted ? dialog.textValue() : QString();
+}
+
 static bool isAddress(const QString& text) { return text.contains("://") || text.startsWith("mailto:"); }
 
 bool openWithDesktop(const QString& fileOrUrl) {
@@ -46,13 +58,16 @@ static QString& chosenPrinter() {
     return name;
 }
 
-QString printerName() {
-    return chosenPrinter().isEmpty() ? QPrinterInfo::defaultPrinterName() : chosenPrinter();
+static std::unique_ptr<QPrinter> presentPrinter() {
+    if (QPrinterInfo::availablePrinterNames().isEmpty()) return nullptr;
+    const QString name = chosenPrinter().isEmpty() ? QPrinterInfo::defaultPrinterName() : chosenPrinter();
+    return std::make_unique<QPrinter>(QPrinterInfo::printerInfo(name), QPrinter::HighResolution);
 }
 
-static bool runPrinterDialog(QWidget* parent) {
+std::unique_ptr<QPrinter> printer() { return doors().printer ? doors().printer() : presentPrinter(); }
+
+static bool runPrinterDialog(QPrinter& printer, QWidget* parent) {
     const FrontHold hold;
-    QPrinter printer(QPrinterInfo::printerInfo(printerName()), QPrinter::HighResolution);
     QPrintDialog dialog(&printer, parent);
     dialog.setObjectName("comMain");
     dialog.setWindowTitle("Printer Setup");
@@ -63,7 +78,7 @@ static bool runPrinterDialog(QWidget* parent) {
 
 bool setUpPrinter(QWidget* parent) {
     if (doors().setUpPrinter) return doors().setUpPrinter();
-    if (!QPrinterInfo::availablePrinterNames().isEmpty()) return runPrinterDialog(parent);
+    if (const auto printer = presentPrinter()) return runPrinterDialog(*printer, parent);
     showBox(information("Printer Setup",
                         "There is no printer on this machine. Add one in the settings of the desktop, then "
                         "choose Printer Setup again."));

@@ -9,15 +9,18 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QPrinterInfo>
 
 namespace {
-bool hasPrinter() {
-    if (!QPrinterInfo::availablePrinterNames().isEmpty()) return true;
-    showBox(exclamation("No Printer!",
-                        "There is no printer on this machine. Add one in the settings of the desktop, then "
-                        "print again."));
-    return false;
+// Null: there is none, which a box has said.
+std::unique_ptr<QPrinter> printerFor(const ReportPages& pages) {
+    auto printer = desk::printer();
+    if (printer)
+        reportPrinter::setUpPaper(*printer, pages);
+    else
+        showBox(exclamation("No Printer!",
+                            "There is no printer on this machine. Add one in the settings of the desktop, "
+                            "then print again."));
+    return printer;
 }
 
 const QString& tookNothing() {
@@ -94,12 +97,11 @@ QString sendPages(QPrinter& printer, const ReportPages& pages, reportOutput::Ren
 
 bool printWithDialog(const ReportPages& pages, reportOutput::Rendering rendering, QWidget* parent,
                      Progress& progress) {
-    if (!hasPrinter()) return false;
-    QPrinter printer(QPrinterInfo::printerInfo(desk::printerName()), QPrinter::HighResolution);
-    setUpPaper(printer, pages);
+    const auto printer = printerFor(pages);
+    if (!printer) return false;
     {
         const FrontHold hold;
-        QPrintDialog dialog(&printer, parent);
+        QPrintDialog dialog(printer.get(), parent);
         // To a file go Save as PDF and its fellows, which never leave half of one.
         dialog.setOptions(QAbstractPrintDialog::PrintPageRange | QAbstractPrintDialog::PrintCollateCopies |
                           QAbstractPrintDialog::PrintShowPageSize);
@@ -107,15 +109,13 @@ bool printWithDialog(const ReportPages& pages, reportOutput::Rendering rendering
         if (dialog.exec() != QDialog::Accepted) return false;
     }
     // The dialog has given the printer the paper that it holds by default.
-    setUpPaper(printer, pages);
-    return sendOrTell(printer, pages, rendering, progress);
+    setUpPaper(*printer, pages);
+    return sendOrTell(*printer, pages, rendering, progress);
 }
 
 bool printAtOnce(const ReportPages& pages, reportOutput::Rendering rendering, Progress& progress) {
-    if (!hasPrinter()) return false;
-    QPrinter printer(QPrinterInfo::printerInfo(desk::printerName()), QPrinter::HighResolution);
-    setUpPaper(printer, pages);
-    return sendOrTell(printer, pages, rendering, progress);
+    const auto printer = printerFor(pages);
+    return printer && sendOrTell(*printer, pages, rendering, progress);
 }
 
 }  // namespace reportPrinter
