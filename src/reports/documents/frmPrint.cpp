@@ -2,12 +2,15 @@
 
 #include "foundation/comes_later.h"
 #include "foundation/session.h"
+#include "platform/parsing.h"
 #include "platform/progress_scope.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/file_dialogs.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/list_view.h"
 #include "reports/documents/print_kinds.h"
+#include "reports/frame/export_file.h"
 #include "reports/frame/print_choice.h"
 
 #include <QRadioButton>
@@ -39,6 +42,7 @@ frmPrint::frmPrint()
 void frmPrint::build() {
     lvwRecord->setAccessibleName("Documents");
     lvwRecord->setSortsByHeader(true);
+    lvwRecord->showMarks();
     auto* layout = new QGridLayout(this);
     layout->addWidget(lvwRecord, 0, 0, 3, 1);
     layout->addWidget(listFrame(), 0, 1);
@@ -49,7 +53,7 @@ void frmPrint::build() {
 }
 
 QGroupBox* frmPrint::listFrame() {
-    QGroupBox* frame = form::frame("fraList", "List :");
+    QGroupBox* frame = form::frame("fraDocuments", "Documents :");
     auto* layout = new QVBoxLayout(frame);
     layout->addWidget(optPrinted);
     layout->addWidget(optUnPrinted);
@@ -58,11 +62,20 @@ QGroupBox* frmPrint::listFrame() {
 
 QLayout* frmPrint::buttonRow() {
     auto* row = new QHBoxLayout;
-    auto* imgExit = form::imageButton("imgExit", "exit", "Exit Report");
-    connect(imgExit, &QToolButton::clicked, this, &frmPrint::CloseRecord);
+    addButton(row, "imgFind", "search", "Find Item", &frmPrint::find);
+    addButton(row, "imgMark", "mark", "Mark All Items", &frmPrint::markAll);
+    addButton(row, "imgUnMark", "unmark", "UnMark All Items", &frmPrint::unmarkAll);
     row->addStretch(1);
-    row->addWidget(imgExit);
+    addButton(row, "imgPrint", "print", "Print Report", &frmPrint::PrintRecord);
+    addButton(row, "imgExit", "exit", "Exit Report", &frmPrint::CloseRecord);
     return row;
+}
+
+void frmPrint::addButton(QBoxLayout* row, const char* name, const char* icon, const char* text,
+                         void (frmPrint::*command)()) {
+    QToolButton* button = form::imageButton(name, icon, text);
+    connect(button, &QToolButton::clicked, this, command);
+    row->addWidget(button);
 }
 
 QSize frmPrint::sizeHint() const {
@@ -103,3 +116,42 @@ void frmPrint::LoadGrid(const QString& flag) {
 
 // The printed list is asked for by another value than the store keeps: refreshed it is empty.
 void frmPrint::RefreshRecord() { LoadGrid(optPrinted->isChecked() ? "1" : "0"); }
+
+// A document that is printed from here is never taken for one from its entry screen.
+void frmPrint::activated() { session().ReportFromEntry = false; }
+
+void frmPrint::find() {
+    const QString typed = desk::askText(this, "Zevrin", "Please Enter Reference No. : ");
+    if (typed.isEmpty()) return;
+    const int row = lvwRecord->findRow(0, trim(typed));
+    if (row < 0) {
+        showBox(exclamation("Not Found!", "System has not Found any Item Matching your Search!"));
+        return;
+    }
+    lvwRecord->setCurrentRow(row);
+    lvwRecord->setMarked(row);
+}
+
+void frmPrint::markAll() { lvwRecord->setAllMarked(true); }
+void frmPrint::unmarkAll() { lvwRecord->setAllMarked(false); }
+
+QStringList frmPrint::markedNumbers() const {
+    QStringList numbers;
+    for (const int row : lvwRecord->markedRows()) numbers += lvwRecord->text(row, 0);
+    return numbers;
+}
+
+void frmPrint::PrintRecord() {
+    guarded([this] { printMarked(); });
+}
+
+// In the order that they stand in. What has been printed stays listed and marked until the next load.
+void frmPrint::printMarked() {
+    session().ReportFromEntry = false;
+    const QStringList numbers = markedNumbers();
+    const ReportTarget target = fraChoice->target();
+    if (numbers.isEmpty() || !readyToExport(this, target)) return;
+    if (kind_->readSettings) kind_->readSettings();
+    for (const QString& number : numbers)
+        if (!runFromPrintScreen(kind_->report(StoreConnection(), number), target, &kind_->tagging())) return;
+}

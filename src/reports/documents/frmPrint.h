@@ -3,6 +3,7 @@
 
 class ListView;
 class PrintChoice;
+class QBoxLayout;
 class QGroupBox;
 class QRadioButton;
 struct PrintKind;
@@ -16,16 +17,25 @@ class frmPrint : public ChildScreen {
     bool receive(const ScreenArguments& arguments) override;
     bool hidesReportMenu() const override { return true; }
     QSize sizeHint() const override;
+    void activated() override;
 
   public slots:
+    void PrintRecord();
     void RefreshRecord();
 
   private:
     void build();
     QGroupBox* listFrame();
     QLayout* buttonRow();
+    void addButton(QBoxLayout* row, const char* name, const char* icon, const char* text,
+                   void (frmPrint::*command)());
     void load(const PrintKind& kind);
     void LoadGrid(const QString& flag);
+    void find();
+    void markAll();
+    void unmarkAll();
+    QStringList markedNumbers() const;
+    void printMarked();
 
     const PrintKind* kind_ = nullptr;
     ListView* lvwRecord;
