@@ -19,6 +19,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
+#include <QPrinter>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -337,7 +338,9 @@ TEST(UiBoxes, EscAnswersWithTheLastButtonAndEnterWithTheDefault) {
 TEST(UiDesk, WithoutAPrinterABoxSaysSo) {
     BoxScript boxes;
     boxes.expect("Printer Setup");
+    desk::setDoors({.printer = [] { return nullptr; }});
     EXPECT_FALSE(desk::setUpPrinter(nullptr));
+    desk::setDoors({});
     EXPECT_FALSE(desk::openWithDesktop("/nowhere/Zevrin.hlp"));
 }
 

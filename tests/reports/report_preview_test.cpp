@@ -11,7 +11,6 @@
 #include "support/screen_driver.h"
 
 #include <QPrinter>
-#include <QPrinterInfo>
 
 namespace {
 // As many numbered lines as asked for.
@@ -224,6 +223,7 @@ TEST_F(ReportPreviewTest, PrintsThePagesAndSaysWhenThereIsNoPrinter) {
     {
         BoxScript boxes;
         boxes.expect("No Printer!");
+        desk::setDoors({.printer = [] { return nullptr; }});
         person::press(Qt::Key_P, Qt::ControlModifier);
     }
     QPrinter printer(QPrinter::HighResolution);

@@ -78,7 +78,7 @@ static bool runPrinterDialog(QPrinter& printer, QWidget* parent) {
 
 bool setUpPrinter(QWidget* parent) {
     if (doors().setUpPrinter) return doors().setUpPrinter();
-    if (const auto printer = presentPrinter()) return runPrinterDialog(*printer, parent);
+    if (const auto present = printer()) return runPrinterDialog(*present, parent);
     showBox(information("Printer Setup",
                         "There is no printer on this machine. Add one in the settings of the desktop, then "
                         "choose Printer Setup again."));
