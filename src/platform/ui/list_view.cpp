@@ -6,6 +6,18 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QStyledItemDelegate>
+
+namespace {
+// Rows that leave some room between their boxes.
+class BoxedRows : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 3);
+    }
+};
+}  // namespace
 
 ListView::ListView(const QString& name, const QList<ListColumn>& columns, QWidget* parent)
     : QTreeView(parent), model_(new TextListModel(columns, this)) {
@@ -78,7 +90,11 @@ int ListView::findRow(int column, const QString& text) const {
     return -1;
 }
 
-void ListView::showMarks() { model_->showMarks(); }
+void ListView::showMarks() {
+    model_->showMarks();
+    setItemDelegate(new BoxedRows(this));
+}
+
 bool ListView::isMarked(int row) const { return model_->isMarked(row); }
 void ListView::setMarked(int row, bool marked) { model_->setMarked(row, marked); }
 void ListView::setAllMarked(bool marked) { model_->setAllMarked(marked); }
