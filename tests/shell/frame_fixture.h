@@ -14,11 +14,9 @@ class TestScreen : public RecordScreen {
     Q_OBJECT
   public:
     explicit TestScreen(const QString& name, Kind kind = Child);
-    bool hidesReportMenu() const override { return hidesReports; }
     bool queryUnload() override { return leaves; }
 
     QStringList calls;
-    bool hidesReports = false;
     bool leaves = true;
 
   public slots:

@@ -6,6 +6,7 @@
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/text_box.h"
+#include "reports/register.h"
 #include "shell/child_area.h"
 #include "shell/frmShortcuts.h"
 #include "shell/menu_catalogue.h"
@@ -181,20 +182,29 @@ TEST_F(FrameTest, KeysWorkFromEveryKindOfField) {
     EXPECT_FALSE(opened("frmItem"));
 }
 
-TEST_F(FrameTest, AReportScreenHidesTheReportsAsLongAsItIsOpen) {
+TEST_F(FrameTest, ThePrintScreenTakesItsKindAndHidesTheReportsAsLongAsItIsOpen) {
     logIn();
-    QAction* reports = frame->findChild<QMenu*>("mnuReport")->menuAction();
-    ScreenRegistry::instance().add("frmPrint", [] {
-        auto* screen = new TestScreen("frmPrint");
-        screen->hidesReports = true;
-        return screen;
-    });
-    open("frmPrint");
-    EXPECT_FALSE(reports->isVisible());
-    open("frmItem");
-    EXPECT_FALSE(reports->isVisible());
-    opened("frmPrint")->unload();
-    QTest::qWait(1);
+    registerReportScreens();
+    const QAction* reports = frame->findChild<QMenu*>("mnuReport")->menuAction();
+    const std::pair<const char*, const char*> kinds[] = {{"mnuReportItem_2", "UnPrinted Purchase"},
+                                                         {"mnuReportItem_3", "UnPrinted Delivery"}};
+    for (const auto& [name, caption] : kinds) {
+        choose(name);
+        ChildScreen* screen = ScreenRegistry::instance().opened("frmPrint");
+        ASSERT_TRUE(screen) << name;
+        EXPECT_EQ(screen->findChild<QAbstractButton*>("optUnPrinted")->text(), caption);
+        EXPECT_FALSE(reports->isVisible());
+        open("frmItem");
+        EXPECT_FALSE(reports->isVisible());
+        screen->unload();
+        QTest::qWait(1);
+        EXPECT_TRUE(reports->isVisible());
+    }
+    BoxScript boxes;
+    for (const char* name : {"Print Sales Invoice", "Print Check and Voucher"})
+        boxes.expect("Zevrin!", QString("\"%1\" is not part of this version yet.").arg(name));
+    choose("mnuReportItem_4");
+    choose("mnuReportItem_5");
     EXPECT_TRUE(reports->isVisible());
 }
 
