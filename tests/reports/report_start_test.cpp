@@ -1,0 +1,95 @@
+#include "reports/frame/report_start.h"
+
+#include "foundation/shared_routines.h"
+#include "platform/ui/screen_registry.h"
+#include "reports/documents/prtDelivery.h"
+#include "reports/frame/report_preview.h"
+#include "support/box_script.h"
+#include "support/screen_driver.h"
+#include "support/test_store.h"
+
+#include <QTest>
+
+namespace {
+class ReportStart : public SessionTest {
+  protected:
+    void SetUp() override {
+        SessionTest::SetUp();
+        addContact(store(), {"C1", "Reyes Trading"});
+    }
+    void TearDown() override {
+        for (ChildScreen* screen : ScreenRegistry::instance().openScreens()) screen->unload();
+        person::settle();
+        SessionTest::TearDown();
+    }
+
+    void addSaleOf(int lines) {
+        addSale(store(),
+                {.number = "000001",
+                 .date = {2026, 3, 9},
+                 .contactId = "C1",
+                 .lines = std::vector<LineRow>(static_cast<size_t>(lines), {"RICE", amount(1), amount(10)})});
+    }
+    auto report() { return deliveryReport(store(), "000001"); }
+    bool isFlagged(const char* flag) {
+        return FlagFieldSet(store(), "tblSalesMaster", "RefNo", "000001", flag);
+    }
+    bool isTagged() {
+        EXPECT_EQ(isFlagged("Printed"), isFlagged("RecordLock"));
+        return isFlagged("Printed");
+    }
+    static bool waitForPages(const ReportPreview* paper) {
+        return QTest::qWaitFor([&] { return paper->job().isComplete(); });
+    }
+
+    BoxScript boxes;
+};
+}  // namespace
+
+TEST_F(ReportStart, FromAnEntryAPaperIsTaggedWhenItsPagesAreMadeAndNobodyIsAsked) {
+    addSaleOf(1);
+    const ReportPreview* list = previewFromEntry(report());
+    ASSERT_TRUE(waitForPages(list));
+    person::settle();
+    EXPECT_FALSE(isTagged()) << "a list tags nothing";
+    ReportPreview* paper = previewFromEntry(report(), &deliveryTagging());
+    ASSERT_TRUE(waitForPages(paper));
+    person::settle();
+    EXPECT_TRUE(isTagged());
+    runFromPrintScreen(report(), ReportTarget::Preview);  // takes the session's values over
+    EXPECT_TRUE(paper->unload());
+}
+
+TEST_F(ReportStart, APaperClosedBeforeItsLastPageIsNotTagged) {
+    addSaleOf(3000);
+    ReportPreview* paper = previewFromEntry(report(), &deliveryTagging());
+    EXPECT_TRUE(paper->unload());
+    QTest::qWait(50);
+    EXPECT_FALSE(isTagged());
+}
+
+TEST_F(ReportStart, WhatCannotBeStartedOrWrittenIsTold) {
+    boxes.expect("Nothing to Print!", "No Records to Print...");
+    EXPECT_FALSE(previewFromEntry(report(), &deliveryTagging()));
+    boxes.expect("Nothing to Print!", "No Records to Print...");
+    EXPECT_TRUE(runFromPrintScreen(report(), ReportTarget::Printer, &deliveryTagging()));
+
+    addSaleOf(1);
+    session().ExportFileName = "  ";
+    boxes.expect("Error!", "Cannot Export File! Please specify a Filename and Location first...");
+    EXPECT_FALSE(runFromPrintScreen(report(), ReportTarget::RichText, &deliveryTagging()));
+    ASSERT_EQ(ScreenRegistry::instance().openScreens().size(), 1) << "the report stays open";
+    boxes.expect("Printed?", deliveryTagging().question, BoxAnswer::Yes);
+    EXPECT_TRUE(ScreenRegistry::instance().openScreens().first()->unload());
+    EXPECT_TRUE(isTagged());
+}
+
+TEST_F(ReportStart, AListIsExportedWithoutAQuestion) {
+    addSaleOf(1);
+    session().ExportFileName = folder_.filePath("list.txt");
+    boxes.expect("Thank You!", "File is saved at : " + session().ExportFileName);
+    EXPECT_TRUE(runFromPrintScreen(report(), ReportTarget::PlainText));
+    QFile file(session().ExportFileName);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("Reyes Trading"));
+}
