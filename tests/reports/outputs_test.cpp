@@ -11,27 +11,41 @@
 namespace {
 using reportOutput::Rendering;
 
-QString wordsOf(const std::vector<PdfWord>& pdf) {
-    QStringList words;
-    for (const PdfWord& word : pdf) words += word.text;
-    return words.join(' ');
+QStringList sortedWords(const QString& text) {
+    QStringList words = text.simplified().split(' ');
+    words.sort();
+    return words;
 }
 
-// What a person reads in each output.
+QStringList pagesOf(const QByteArray& pdf) {
+    QStringList pages;
+    for (const PdfWord& word : pdfWords(pdf)) {
+        while (pages.size() <= word.page) pages += QString();
+        pages[word.page] += word.text + ' ';
+    }
+    return pages;
+}
+
+QStringList pagesOf(const RichText& rich) {
+    EXPECT_EQ(rich.depth, 0);
+    return rich.text.split('\f');
+}
+
+// The pages of each output as a person reads them.
 struct Output {
     const char* name;
-    std::function<QString(const ReportPages&)> read;
+    std::function<QStringList(const ReportPages&)> read;
 };
 const Output outputs[] = {
-    {"PDF", [](const ReportPages& pages) { return wordsOf(pdfWords(reportOutput::pdf(pages))); }},
+    {"PDF", [](const ReportPages& pages) { return pagesOf(reportOutput::pdf(pages)); }},
     {"PDF of dots",
-     [](const ReportPages& pages) {
-         return wordsOf(pdfWords(reportOutput::pdf(pages, Rendering::DotMatrix)));
-     }},
-    {"rich text", [](const ReportPages& pages) { return RichText(reportOutput::rtf(pages)).text; }},
+     [](const ReportPages& pages) { return pagesOf(reportOutput::pdf(pages, Rendering::DotMatrix)); }},
+    {"rich text", [](const ReportPages& pages) { return pagesOf(RichText(reportOutput::rtf(pages))); }},
     {"rich text of dots",
-     [](const ReportPages& pages) { return RichText(reportOutput::rtf(pages, Rendering::DotMatrix)).text; }},
-    {"text", [](const ReportPages& pages) { return reportOutput::plainText(pages); }}};
+     [](const ReportPages& pages) {
+         return pagesOf(RichText(reportOutput::rtf(pages, Rendering::DotMatrix)));
+     }},
+    {"text", [](const ReportPages& pages) { return reportOutput::plainText(pages).split('\f'); }}};
 
 // A line with a text, and a figure at its right.
 ReportPages figureBeside(const QString& text, const QString& figure, int width) {
@@ -46,6 +60,22 @@ ReportPages figureBeside(const QString& text, const QString& figure, int width) 
     return runReport(layout, rows, {});
 }
 }  // namespace
+
+TEST(Outputs, HaveTheSameWordsOnTheSamePages) {
+    for (const int sales : {1, 48, 120}) {
+        const ReportPages pages = salesReport(manySales(sales));
+        for (const Output& output : outputs) {
+            const QStringList read = output.read(pages);
+            ASSERT_EQ(read.size(), static_cast<qsizetype>(pages.pages.size())) << output.name;
+            for (qsizetype page = 0; page < read.size(); ++page) {
+                QString wanted;
+                for (const PageItem& item : pages.pages[static_cast<std::size_t>(page)].items)
+                    wanted += item.text + ' ';
+                EXPECT_EQ(sortedWords(read[page]), sortedWords(wanted)) << output.name;
+            }
+        }
+    }
+}
 
 // A figure never loses a digit unseen: it is narrowed, and what cannot be shown whole is not shown.
 TEST(Outputs, AFigureIsWholeOrNotThere) {
@@ -62,7 +92,8 @@ TEST(Outputs, AFigureIsWholeOrNotThere) {
                   QString(22, '#')}};
     for (const auto& each : cases)
         for (const Output& output : outputs) {
-            const QString read = output.read(figureBeside(each.text, each.figure, each.width)).simplified();
+            const QString read =
+                output.read(figureBeside(each.text, each.figure, each.width)).join(' ').simplified();
             const QString wanted = output.name == QString("text") ? each.typed : each.painted;
             EXPECT_EQ(read, each.text + " " + wanted) << output.name;
         }

@@ -10,7 +10,7 @@ class RichText {
         while (at_ < rtf_.size()) take();
     }
     QString text;
-    int depth = 0, deepest = 0, pageBreaks = 0;
+    int depth = 0, deepest = 0;
 
   private:
     void take() {
@@ -34,7 +34,7 @@ class RichText {
         if (word == "fonttbl" || word == "info" || word == "shp") skipped_ = depth;
         if (word == "tab") add(' ');
         if (word == "par") add('\n');
-        if (word == "pagebb") ++pageBreaks;
+        if (word == "pagebb") add('\f');
         if (word != "u") return;
         add(QChar(static_cast<char16_t>(match.captured(2).toInt())));
         ++at_;  // what stands for the letter in an older reader
