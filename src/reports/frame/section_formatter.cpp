@@ -42,7 +42,7 @@ bool readsAsFigure(const QString& text) {
 bool isFigure(const ReportControl& control, const QString& text) {
     const bool mayBe =
         control.mask || control.summary != Summary::None || (control.style.alignment & Qt::AlignRight);
-    return control.kind == ControlKind::Field && mayBe && readsAsFigure(text);
+    return mayBe && readsAsFigure(text);
 }
 
 PageItem itemOf(const ReportControl& control, const QString& text, int top, int height, quint16 style) {
