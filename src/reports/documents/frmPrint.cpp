@@ -14,7 +14,6 @@
 #include "reports/frame/print_choice.h"
 
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 namespace {
 QRadioButton* option(const char* name) {
@@ -31,12 +30,8 @@ frmPrint::frmPrint()
       optUnPrinted(option("optUnPrinted")),
       fraChoice(new PrintChoice(ReportTarget::Printer)) {
     build();
-    connect(optPrinted, &QRadioButton::toggled, this, [this](bool on) {
-        if (on) LoadGrid("True");
-    });
-    connect(optUnPrinted, &QRadioButton::toggled, this, [this](bool on) {
-        if (on) LoadGrid("False");
-    });
+    connect(optPrinted, &QRadioButton::clicked, this, [this] { LoadGrid("True"); });
+    connect(optUnPrinted, &QRadioButton::clicked, this, [this] { LoadGrid("False"); });
 }
 
 void frmPrint::build() {
@@ -100,7 +95,6 @@ void frmPrint::load(const PrintKind& kind) {
     optPrinted->setText(kind.printed);
     optUnPrinted->setText(kind.unprinted);
     fraChoice->setTarget(ReportTarget::Printer);
-    const QSignalBlocker quiet(optUnPrinted);
     optUnPrinted->setChecked(true);
     LoadGrid("False");
 }
