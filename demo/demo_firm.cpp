@@ -171,8 +171,9 @@ class DemoFirm {
     // What has been printed leaves the list that a journal opens with; then the end of day.
     void closeTheBooks() {
         const QDate week = lastDay_.addDays(-7);
-        store_.run({"UPDATE tblSalesMaster SET Printed = True WHERE RefDate < ?", {week}});
-        store_.run({"UPDATE tblPurchaseMaster SET Printed = True WHERE PurchaseDate < ?", {week}});
+        store_.run({"UPDATE tblSalesMaster SET Printed = True, RecordLock = True WHERE RefDate < ?", {week}});
+        store_.run({"UPDATE tblPurchaseMaster SET Printed = True, RecordLock = True WHERE PurchaseDate < ?",
+                    {week}});
         EndOfDayView view;
         Boxes boxes;
         PostStockValuation(store_, LoadPostingQueue(store_, Progress::none()), view, boxes);
