@@ -5,7 +5,6 @@
 #include "support/box_script.h"
 #include "support/test_store.h"
 
-#include <QHeaderView>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -51,25 +50,6 @@ TEST_F(ReorderList, ListsWhatIsBelowItsLevelByDescription) {
     const QList<QStringList> rows{{"B", "Alum", "", "1,500.00", "-3.00", "A1"},
                                   {"A", "Zinc sheet", "Reyes Trading", "10.00", "9.00", "A1"}};
     EXPECT_EQ(list->rows(), rows);
-}
-
-TEST_F(ReorderList, AHeaderSortsOnItsColumnAndAmountsAsNumbers) {
-    item("A", "Axe", "C1", 1500, 9);
-    item("B", "Bolt", "C1", 20, -3);
-    item("C", "Cord", "C1", 300, 10);
-    open();
-    emit list->header()->sectionClicked(3);
-    EXPECT_EQ(codes(), "BCA");
-    emit list->header()->sectionClicked(3);
-    EXPECT_EQ(codes(), "ACB");
-    emit list->header()->sectionClicked(4);
-    EXPECT_EQ(codes(), "BAC");
-    EXPECT_TRUE(list->header()->isSortIndicatorShown());
-    screen->RefreshRecord();
-    EXPECT_EQ(codes(), "ABC");
-    EXPECT_FALSE(list->header()->isSortIndicatorShown()) << "the list stands in its own order again";
-    emit list->header()->sectionClicked(4);
-    EXPECT_EQ(codes(), "BAC");
 }
 
 TEST_F(ReorderList, AskedForAgainItReadsTheStoreAgain) {
