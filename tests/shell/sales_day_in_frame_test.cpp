@@ -213,6 +213,20 @@ TEST_F(SalesDayInFrame, AWrongCodeOpensOneSearchAndDoesNotKeepTheDialogOpen) {
     press(Qt::Key_Escape);
 }
 
+// Nothing that is open calls a frame, or an order, that has gone before it.
+TEST_F(SalesDayInFrame, AFrameThatGoesUnaskedTakesAlongAllThatIsOpen) {
+    openJournal();
+    startLine();
+    person::type("ZZ");
+    press(Qt::Key_Return);
+    ASSERT_TRUE(at("frmFound"));
+    delete frame;
+    person::settle();
+    EXPECT_TRUE(ScreenRegistry::instance().openScreens().isEmpty());
+    logIn();
+    EXPECT_TRUE(at("frmReorder"));
+}
+
 TEST_F(SalesDayInFrame, AFailingStoreTakesNoLineAway) {
     const QString key = saveSale("2");
     edit(key);
