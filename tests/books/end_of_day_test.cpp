@@ -133,24 +133,3 @@ TEST_F(EndOfDayTest, ASalesCostBeyondTheRangeIsToldAndStopsNoItem) {
     EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'B'"), "20000");
     EXPECT_FALSE(HasPendingPosting(store));
 }
-
-// A deletion queues no item: whoever queues it next gets the costs of its whole history.
-TEST_F(EndOfDayTest, AQueuedItemIsCostedFromItsWholeHistory) {
-    buy("P1", 1, {{"A", amount(10), amount(5)}});
-    buy("P2", 2, {{"A", amount(10), amount(6)}});
-    buy("P3", 5, {{"A", amount(4), amount(9)}});
-    sell("S1", 3, {{"A", amount(4), amount(9)}});
-    sell("S2", 4, {{"A", amount(8), amount(9)}});
-    sell("S3", 5, {{"A", amount(12), amount(9)}});
-    EXPECT_EQ(runEndOfDay(store), Boxes());
-    const char* const costs =
-        "SELECT SalesCost AS v FROM tblStockValuation WHERE BookID = 'S' ORDER BY TransDate";
-    EXPECT_EQ(column(costs), "200000 420000 840000");
-    RemoveStockValuation(store, "P", "P3");
-    for (const char* table : {"tblPurchaseDetails WHERE Reference", "tblPurchaseMaster WHERE PurchaseNo"})
-        write(QString("DELETE FROM %1 = 'P3'").arg(table));
-    EXPECT_FALSE(HasPendingPosting(store));
-    QueueItemForPosting(store, "A");
-    EXPECT_TRUE(cost(LoadPostingItems(store, Progress::none())));
-    EXPECT_EQ(column(costs), "200000 420000 480000");
-}
