@@ -62,6 +62,17 @@ QLabel* panel(const mdiMain* frame, const QString& key) {
     return frame->findChild<QLabel*>("sbrMain_" + key);
 }
 
+// The administrator's main window, with nothing open.
+class EmptyFrame : public FrameTest {
+  protected:
+    void SetUp() override {
+        FrameTest::SetUp();
+        logIn();
+        opened("frmReorder")->unload();
+    }
+    BoxScript boxes;
+};
+
 TEST_F(FrameTest, AUserReachesWhatTheirRowsGrantAndNothingElse) {
     addUser(store(), "clerk", "abc", {100, 101, 106, 305, 402, 777});
     logIn("clerk");
@@ -80,8 +91,7 @@ TEST_F(FrameTest, AUserReachesWhatTheirRowsGrantAndNothingElse) {
     EXPECT_EQ(panel(frame, "UserName")->text(), "Current User : clerk - Administrator");
 }
 
-TEST_F(FrameTest, TheAdministratorGetsTheRecordLockInPlaceOfTheHiddenItem) {
-    logIn();
+TEST_F(EmptyFrame, TheAdministratorGetsTheRecordLockInPlaceOfTheHiddenItem) {
     EXPECT_EQ(item("mnuAdminItem_2")->text(), "&Transaction Record Lock...");
     EXPECT_TRUE(item("mnuAdminItem_2")->isVisible());
     EXPECT_TRUE(item("mnuAdminItem_1")->isVisible());
@@ -112,9 +122,7 @@ TEST_F(FrameTest, TheFirstScreensComeByThemselves) {
     EXPECT_TRUE(opened("frmReorder"));
 }
 
-TEST_F(FrameTest, CommandsGoToTheActiveChildByNameAndMissOnesDoNothing) {
-    BoxScript noBoxes;
-    logIn();
+TEST_F(EmptyFrame, CommandsGoToTheActiveChildByNameAndMissOnesDoNothing) {
     TestScreen* first = open("frmItem");
     TestScreen* second = open("frmContacts");
     for (const char* name : {"mnuRecordItem_0", "mnuRecordItem_2", "mnuRecordItem_3", "mnuRecordItem_4",
@@ -132,8 +140,7 @@ TEST_F(FrameTest, CommandsGoToTheActiveChildByNameAndMissOnesDoNothing) {
 }
 
 // Whatever kind of control has the focus, and without a change to what it holds.
-TEST_F(FrameTest, KeysWorkFromEveryKindOfField) {
-    logIn();
+TEST_F(EmptyFrame, KeysWorkFromEveryKindOfField) {
     TestScreen* screen = open("frmItem");
     auto* box = new TextBox("txtBox");
     auto* open = new ComboBox("cboOpen", ComboBox::Open);
@@ -182,8 +189,7 @@ TEST_F(FrameTest, KeysWorkFromEveryKindOfField) {
     EXPECT_FALSE(opened("frmItem"));
 }
 
-TEST_F(FrameTest, ThePrintScreenTakesItsKindAndHidesTheReportsAsLongAsItIsOpen) {
-    logIn();
+TEST_F(EmptyFrame, ThePrintScreenTakesItsKindAndHidesTheReportsAsLongAsItIsOpen) {
     registerReportScreens();
     const QAction* reports = frame->findChild<QMenu*>("mnuReport")->menuAction();
     const std::pair<const char*, const char*> kinds[] = {{"mnuReportItem_2", "UnPrinted Purchase"},
@@ -200,7 +206,6 @@ TEST_F(FrameTest, ThePrintScreenTakesItsKindAndHidesTheReportsAsLongAsItIsOpen) 
         QTest::qWait(1);
         EXPECT_TRUE(reports->isVisible());
     }
-    BoxScript boxes;
     for (const char* name : {"Print Sales Invoice", "Print Check and Voucher"})
         boxes.expect("Zevrin!", QString("\"%1\" is not part of this version yet.").arg(name));
     choose("mnuReportItem_4");
@@ -208,9 +213,7 @@ TEST_F(FrameTest, ThePrintScreenTakesItsKindAndHidesTheReportsAsLongAsItIsOpen) 
     EXPECT_TRUE(reports->isVisible());
 }
 
-TEST_F(FrameTest, TheStatusBarMirrorsTheFlagsAndKeepsItsLastText) {
-    logIn();
-    opened("frmReorder")->unload();
+TEST_F(EmptyFrame, TheStatusBarMirrorsTheFlagsAndKeepsItsLastText) {
     TestScreen* screen = open("frmItem");
     screen->mblnAddmode = true;
     waitForTimers();
@@ -245,9 +248,7 @@ TEST_F(FrameTest, ThePanelLiesOverTheEmptyFrameOnly) {
     EXPECT_TRUE(opened("frmSalesGrid")->isVisible());
 }
 
-TEST_F(FrameTest, CloseAllStopsAtTheFirstScreenThatStays) {
-    logIn();
-    opened("frmReorder")->unload();
+TEST_F(EmptyFrame, CloseAllStopsAtTheFirstScreenThatStays) {
     open("frmItem");
     open("frmContacts")->leaves = false;
     open("frmUnitGrid");
@@ -258,10 +259,8 @@ TEST_F(FrameTest, CloseAllStopsAtTheFirstScreenThatStays) {
     EXPECT_TRUE(frame->isVisible());
 }
 
-TEST_F(FrameTest, LogoffAndExitStopAfterACancelAndRemindOfTheEndOfDay) {
-    logIn();
+TEST_F(EmptyFrame, LogoffAndExitStopAfterACancelAndRemindOfTheEndOfDay) {
     QueueBookForPosting(store(), "S", "11-1001-2026", "1", QDate(2026, 3, 2));
-    BoxScript boxes;
     open("frmItem")->leaves = false;
     choose("mnuFileItem_8");
     choose("mnuFileItem_9");
@@ -275,18 +274,14 @@ TEST_F(FrameTest, LogoffAndExitStopAfterACancelAndRemindOfTheEndOfDay) {
     EXPECT_FALSE(frame && frame->isVisible());
 }
 
-TEST_F(FrameTest, AQueueThatCannotBeReadKeepsNobodyIn) {
-    BoxScript noBoxes;
-    logIn();
+TEST_F(EmptyFrame, AQueueThatCannotBeReadKeepsNobodyIn) {
     store().run("DROP TABLE tblForPosting");
     frame->close();
     EXPECT_FALSE(frame && frame->isVisible());
 }
 
-TEST_F(FrameTest, ReportsThatRestOnCostingAskWhileRowsAreWaiting) {
-    logIn();
+TEST_F(EmptyFrame, ReportsThatRestOnCostingAskWhileRowsAreWaiting) {
     QueueBookForPosting(store(), "S", "11-1001-2026", "1", QDate(2026, 3, 2));
-    BoxScript boxes;
     for (const char* name : {"mnuReportItem_20", "mnuReportItem_23", "mnuReportItem_24"}) {
         boxes.expect("Zevrin!", stillWaiting, BoxAnswer::No);
         choose(name);
@@ -299,9 +294,7 @@ TEST_F(FrameTest, ReportsThatRestOnCostingAskWhileRowsAreWaiting) {
     EXPECT_EQ(opened("frmPrintTransactions")->windowTitle(), "Print Sales Report...");
 }
 
-TEST_F(FrameTest, ListsWithoutRowsSayThatThereIsNothingToPrint) {
-    logIn();
-    BoxScript boxes;
+TEST_F(EmptyFrame, ListsWithoutRowsSayThatThereIsNothingToPrint) {
     for (const char* name : {"mnuReportItem_9", "mnuReportItem_13", "mnuReportItem_25"}) {
         boxes.expect("Nothing to Print!", "No Records to Print...");
         choose(name);
@@ -311,13 +304,11 @@ TEST_F(FrameTest, ListsWithoutRowsSayThatThereIsNothingToPrint) {
     choose("mnuReportItem_25");
 }
 
-TEST_F(FrameTest, TheBalancesAreRecomputedOnlyAfterAYes) {
-    logIn();
+TEST_F(EmptyFrame, TheBalancesAreRecomputedOnlyAfterAYes) {
     store().run("INSERT INTO tblItemMaster (ItemCode, Description, Balance) VALUES ('A', 'NAIL', 70000)");
     const auto balance = [this] {
         return store().execute("SELECT Balance FROM tblItemMaster WHERE ItemCode = 'A'").currency("Balance");
     };
-    BoxScript boxes;
     boxes.expect("Continue?", longTime, BoxAnswer::No);
     choose("mnuFileItem_2");
     EXPECT_EQ(balance(), Currency::fromInteger(7));
@@ -326,9 +317,7 @@ TEST_F(FrameTest, TheBalancesAreRecomputedOnlyAfterAYes) {
     EXPECT_EQ(balance(), Currency());
 }
 
-TEST_F(FrameTest, WindowsAreTiledListedAndBroughtForward) {
-    logIn();
-    opened("frmReorder")->unload();
+TEST_F(EmptyFrame, WindowsAreTiledListedAndBroughtForward) {
     open("frmItem");
     open("frmContacts");
     choose("mnuWindowItem_1");
@@ -365,8 +354,7 @@ TEST_F(FrameTest, NoArrangementMakesAScreenSmallerThanItCanBeRead) {
     }
 }
 
-TEST_F(FrameTest, FilesThatTheDesktopCannotOpenAreTold) {
-    logIn();
+TEST_F(EmptyFrame, FilesThatTheDesktopCannotOpenAreTold) {
     QString given;
     bool opens = false;
     desk::Doors doors;
@@ -375,7 +363,6 @@ TEST_F(FrameTest, FilesThatTheDesktopCannotOpenAreTold) {
         return opens;
     };
     desk::setDoors(doors);
-    BoxScript boxes;
     const auto write = [this](const QString& name, const char* line) {
         QFile file(folder_.filePath(name));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -397,9 +384,7 @@ TEST_F(FrameTest, FilesThatTheDesktopCannotOpenAreTold) {
     desk::setDoors({});
 }
 
-TEST_F(FrameTest, TheFrameIsActivatedFromOutsideOnly) {
-    logIn();
-    opened("frmReorder")->unload();
+TEST_F(EmptyFrame, TheFrameIsActivatedFromOutsideOnly) {
     const auto goOutside = [](int milliseconds) {
         emit qApp->applicationStateChanged(Qt::ApplicationInactive);
         QTest::qWait(milliseconds);
