@@ -16,6 +16,10 @@ inline Currency money(const char* text) { return parseNumber(text).value(); }
 
 // What a box says, as one text: "title: text".
 inline std::string said(const Box& box) { return (box.title + ": " + box.text).toStdString(); }
+inline QString focusOf(const Outcome& outcome) {
+    const auto* fault = std::get_if<Fault>(&outcome);
+    return fault ? fault->focus : QString();
+}
 inline std::string said(const Outcome& outcome) {
     if (const auto* fault = std::get_if<Fault>(&outcome)) return said(fault->box);
     if (const auto* question = std::get_if<Question>(&outcome)) return "? " + said(question->box);

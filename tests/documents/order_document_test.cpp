@@ -89,20 +89,26 @@ TEST_P(Order, IsCheckedInTheToldOrder) {
     document.lines = {line("I1", "1", "1", "-10")};
     const struct {
         std::function<void()> mend;
+        const char* focus;
         std::string text;
-    } steps[]{{[] {}, std::string("No Code!: ") + GetParam().noCode},
-              {[&] { document.code = "03-1001-2026 "; }, std::string("Error!: ") + GetParam().duplicate},
-              {[&] { document.code = "03-1002-2026"; }, "No Customer!: Please Select Customer!"},
-              {[&] { document.contactName = "Nobody"; },
-               "Net Amount!: Amount is Negative! System Cannot Allow Negative Total!"},
-              {[&] { document.lines.clear(); },
-               "Net Amount!: There is No Order Made for this Record! Please Add Item to Order!"},
-              {[&] { document.lines = {line("I1", "1", "1", "10")}; }, "Error!: Invalid Date Value!"},
-              {[&] { document.date = "2/28/26"; }, std::string("Does not exist!: ") + GetParam().unknown},
-              {[&] { document.contactName = "nena "; }, "done"}};
+    } steps[]{
+        {[] {}, "txtCode", std::string("No Code!: ") + GetParam().noCode},
+        {[&] { document.code = "03-1001-2026 "; }, "txtSerialCode",
+         std::string("Error!: ") + GetParam().duplicate},
+        {[&] { document.code = "03-1002-2026"; }, "cboCustomer", "No Customer!: Please Select Customer!"},
+        {[&] { document.contactName = "Nobody"; }, "lvwItems",
+         "Net Amount!: Amount is Negative! System Cannot Allow Negative Total!"},
+        {[&] { document.lines.clear(); }, "cmdAdd",
+         "Net Amount!: There is No Order Made for this Record! Please Add Item to Order!"},
+        {[&] { document.lines = {line("I1", "1", "1", "10")}; }, "txtRefDate", "Error!: Invalid Date Value!"},
+        {[&] { document.date = "2/28/26"; }, "cboCustomer",
+         std::string("Does not exist!: ") + GetParam().unknown},
+        {[&] { document.contactName = "nena "; }, "", "done"}};
     for (const auto& step : steps) {
         step.mend();
-        EXPECT_EQ(said(save(document)), step.text);
+        const Outcome outcome = save(document);
+        EXPECT_EQ(said(outcome), step.text);
+        EXPECT_EQ(focusOf(outcome), step.focus) << step.text;
     }
 }
 

@@ -311,40 +311,21 @@ QStringList seen(QWidget* screen) {
 }
 
 TEST_F(SalesDayInFrame, ARefusedSaveKeepsAllAndGoesToTheFieldAtFault) {
-    const QString taken = saveSale("1");
     startSale();
     person::fill(entry(), "txtRemarks", "by truck");
-    const auto addLine = [this] {
-        entry()->addLine(makeOrderLine("I2", "Sugar", "PC", amount(1), amount(1), amount(6), amount(0)));
-    };
-    const auto refused = [this](const char* title, const char* text, const char* focus) {
-        const QStringList before = seen(entry());
-        boxes.expect(title, text);
-        press(Qt::Key_S, Qt::ControlModifier);
-        boxes.verify();
-        EXPECT_EQ(seen(entry()), before) << text;
-        EXPECT_EQ(person::focusName(), focus) << text;
-        EXPECT_TRUE(entry()->mblnUpdated && entry()->mblnAddmode) << text;
-    };
-    refused("Net Amount!", "There is No Order Made for this Record! Please Add Item to Order!", "cmdAdd");
-    addLine();
-    person::fill(entry(), "txtCode", "");
-    refused("No Code!", "Please Enter Reference No.!", "txtCode");
-    person::type(taken);
-    refused("Error!", "Duplicate Reference No., Please Assign Another!", "txtSerialCode");
-    person::fill(entry(), "txtCode", "77");
-    person::fill(entry(), "cboCustomer", " ");
-    refused("No Customer!", "Please Select Customer!", "cboCustomer");
-    person::fill(entry(), "cboCustomer", "Nobody");
+    entry()->addLine(makeOrderLine("I2", "Sugar", "PC", amount(1), amount(1), amount(6), amount(0)));
     person::fill(entry(), "txtRefDate", "02/30/2026");
-    refused("Error!", "Invalid Date Value!", "txtRefDate");
-    person::fill(entry(), "txtRefDate", "2/3/26");
-    refused("Does not exist!", "Customer Does Not Exist, Please Add This To Customer Master File First...",
-            "cboCustomer");
-    person::fill(entry(), "cboCustomer", "nena");
+    const QStringList before = seen(entry());
+    boxes.expect("Error!", "Invalid Date Value!");
+    person::goTo(entry(), "txtRemarks");
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(seen(entry()), before);
+    EXPECT_EQ(person::focusName(), "txtRefDate");
+    EXPECT_TRUE(entry()->mblnUpdated && entry()->mblnAddmode);
+    person::type("2/3/26");
     boxes.expect("Saved!");
     press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(valueOf(store(), {"SELECT RefDate FROM tblSalesMaster WHERE RefNo = '77'", {}}), "2026-02-03");
+    EXPECT_EQ(valueOf(store(), "SELECT RefDate FROM tblSalesMaster"), "2026-02-03");
 }
 
 TEST_F(SalesDayInFrame, QuantityPopupGoesWithItsOrder) {
