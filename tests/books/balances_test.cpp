@@ -12,18 +12,16 @@ const Currency most = Currency::fromTenThousandths(std::numeric_limits<qint64>::
 class BalancesTest : public BooksTest {
   protected:
     void addSaleOf(const QString& refNo, Currency total, const QDate& date = day(1)) {
-        write("INSERT INTO tblSalesMaster (RefNo, RefDate, ContactNo, TotalAmount) VALUES (?, ?, 'C1', ?)",
-              {refNo, date, bound(total)});
+        insertRow(store, "tblSalesMaster", "RefNo, RefDate, ContactNo, TotalAmount",
+                  {refNo, date, "C1", bound(total)});
     }
     void addReceiptLine(const QString& refNo, const QVariant& paid, const QVariant& granted) {
-        write("INSERT INTO tblReceiptDetails (ZevRef, Reference, Amount, DiscountAmount) VALUES (?, ?, ?, ?)",
-              {++zevRef_, refNo, paid, granted});
+        insertRow(store, "tblReceiptDetails", "ZevRef, Reference, Amount, DiscountAmount",
+                  {++zevRef_, refNo, paid, granted});
     }
     void addReceipt(const QVariant& paid, const QVariant& granted) {
-        write(
-            "INSERT INTO tblReceiptMaster (PayNo, CustomerNo, PaymentAmount, TotalDiscAmount) VALUES (?, "
-            "'C1', ?, ?)",
-            {++zevRef_, paid, granted});
+        insertRow(store, "tblReceiptMaster", "PayNo, CustomerNo, PaymentAmount, TotalDiscAmount",
+                  {++zevRef_, "C1", paid, granted});
     }
 
   private:

@@ -2,6 +2,7 @@
 
 #include "books/posting_queue.h"
 #include "platform/store/transaction.h"
+#include "support/test_store.h"
 
 #include <random>
 
@@ -100,47 +101,34 @@ QVariant nullable(const std::optional<Currency>& value) { return value ? bound(*
 
 void writeDocument(Connection& store, const Books::Document& document) {
     const bool sale = document.bookId == "S";
-    store.run(
-        {sale ? "INSERT INTO tblSalesMaster (RefNo, RefDate, ContactNo, TotalAmount) VALUES (?, ?, ?, ?)"
-              : "INSERT INTO tblPurchaseMaster (PurchaseNo, PurchaseDate, ContactNo, PurchaseAmount) VALUES "
-                "(?, ?, ?, ?)",
-         {document.number, document.date, document.contact, bound(document.total)}});
+    insertRow(store, sale ? "tblSalesMaster" : "tblPurchaseMaster",
+              sale ? "RefNo, RefDate, ContactNo, TotalAmount"
+                   : "PurchaseNo, PurchaseDate, ContactNo, PurchaseAmount",
+              {document.number, document.date, document.contact, bound(document.total)});
     for (const Books::Line& line : document.lines) {
-        store.run(
-            {sale ? "INSERT INTO tblSalesDetails (Reference, ItemID, Served, UnitPrice, Discount) VALUES (?, "
-                    "?, "
-                    "?, ?, ?)"
-                  : "INSERT INTO tblPurchaseDetails (Reference, ItemID, Delivered, UnitPrice, Discount) "
-                    "VALUES "
-                    "(?, ?, ?, ?, ?)",
-             {document.number, line.item, bound(line.quantity), bound(line.price), bound(line.discount)}});
+        insertRow(
+            store, sale ? "tblSalesDetails" : "tblPurchaseDetails",
+            QString("Reference, ItemID, %1, UnitPrice, Discount").arg(QString(sale ? "Served" : "Delivered")),
+            {document.number, line.item, bound(line.quantity), bound(line.price), bound(line.discount)});
         QueueItemForPosting(store, line.item);
     }
     QueueBookForPosting(store, document.bookId, document.number, document.contact, document.date);
 }
 
 void writeReceipt(Connection& store, const Books::Receipt& receipt, qint64 payNo, qint64& zevRef) {
-    store.run(
-        {"INSERT INTO tblReceiptMaster (PayNo, CustomerNo, PaymentAmount, TotalDiscAmount) VALUES (?, ?, ?, "
-         "?)",
-         {payNo, receipt.customer, nullable(receipt.payment.paid), nullable(receipt.payment.granted)}});
+    insertRow(store, "tblReceiptMaster", "PayNo, CustomerNo, PaymentAmount, TotalDiscAmount",
+              {payNo, receipt.customer, nullable(receipt.payment.paid), nullable(receipt.payment.granted)});
     for (const Books::ReceiptLine& line : receipt.lines)
-        store.run(
-            {"INSERT INTO tblReceiptDetails (ZevRef, PayCode, Reference, Amount, DiscountAmount) VALUES (?, "
-             "?, ?, "
-             "?, ?)",
-             {++zevRef, payNo, line.reference, nullable(line.payment.paid), nullable(line.payment.granted)}});
+        insertRow(
+            store, "tblReceiptDetails", "ZevRef, PayCode, Reference, Amount, DiscountAmount",
+            {++zevRef, payNo, line.reference, nullable(line.payment.paid), nullable(line.payment.granted)});
 }
 
 void writeVoucher(Connection& store, const Books::Voucher& voucher) {
-    store.run({"INSERT INTO tblDisbursementMaster (VoucherNo, ContactNo) VALUES (?, ?)",
-               {voucher.number, voucher.contact}});
+    insertRow(store, "tblDisbursementMaster", "VoucherNo, ContactNo", {voucher.number, voucher.contact});
     for (const Books::VoucherLine& line : voucher.lines)
-        store.run(
-            {"INSERT INTO tblDisbursementDetails (VoucherID, PuchaseID, PayAmount, DirectPayment) VALUES (?, "
-             "?, "
-             "?, ?)",
-             {voucher.number, line.purchase, bound(line.paid), line.direct}});
+        insertRow(store, "tblDisbursementDetails", "VoucherID, PuchaseID, PayAmount, DirectPayment",
+                  {voucher.number, line.purchase, bound(line.paid), line.direct});
 }
 }  // namespace
 
@@ -149,10 +137,9 @@ Books makeBooks(unsigned seed) { return Maker(seed).make(); }
 void writeBooks(Connection& store, const Books& books) {
     Transaction unit(store);
     for (const QString& item : books.items)
-        store.run({"INSERT INTO tblItemMaster (ItemCode, Description) VALUES (?, ?)", {item, item}});
+        insertRow(store, "tblItemMaster", "ItemCode, Description", {item, item});
     for (const QString& contact : books.contacts)
-        store.run({"INSERT INTO tblContactMaster (ContactID, ContactName) VALUES (?, ?)",
-                   {contact, "Name of " + contact}});
+        insertRow(store, "tblContactMaster", "ContactID, ContactName", {contact, "Name of " + contact});
     for (const Books::Document& document : books.documents) writeDocument(store, document);
     qint64 payNo = 0;
     qint64 zevRef = 0;

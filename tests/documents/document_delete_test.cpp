@@ -41,11 +41,10 @@ class Deletion : public SessionTest, public ::testing::WithParamInterface<Side> 
     }
 
     void pay(const QString& key) {
-        Recordset payment = store().openTable(rules().paymentTable);
-        payment.addNew();
-        if (orders().sells) payment.set("ZevRef", 1);
-        payment.set(rules().paymentColumn, key);
-        payment.update();
+        if (orders().sells)
+            insertRow(store(), rules().paymentTable, QString("ZevRef, ") + rules().paymentColumn, {1, key});
+        else
+            insertRow(store(), rules().paymentTable, rules().paymentColumn, {key});
     }
 
     // The rows of document A in the master, its lines, the valuation and the queue, then the queued items.

@@ -52,17 +52,10 @@ class JournalScreen : public SessionTest {
     }
 
     void sale(const char* number, const char* contact, QDate date, int amount, bool printed) {
-        Recordset row = store().openTable("tblSalesMaster");
-        row.addNew();
-        row.set("RefNo", number);
-        row.set("RefDate", date);
-        row.set("ContactNo", contact);
-        row.set("TotalAmount", Currency::fromInteger(amount));
-        row.set("Remarks", QString("note ") + number);
-        row.set("Printed", printed);
-        row.set("UpdatedBy", printed ? "ADMIN" : "CLERK");
-        row.set("DateUpdate", QDateTime(date, QTime(8, 0)));
-        row.update();
+        insertRow(store(), "tblSalesMaster",
+                  "RefNo, RefDate, ContactNo, TotalAmount, Remarks, Printed, UpdatedBy, DateUpdate",
+                  {number, date, contact, bound(Currency::fromInteger(amount)), QString("note ") + number,
+                   printed, printed ? "ADMIN" : "CLERK", QDateTime(date, QTime(8, 0))});
     }
 
     void open() { journal = std::make_unique<frmSalesGrid>(); }

@@ -42,15 +42,11 @@ class Order : public OrderBooks, public ::testing::WithParamInterface<Side> {
     }
     void pay(const QString& key, const char* amount) {
         if (book().sells)
-            store.run(
-                {"INSERT INTO tblReceiptDetails (ZevRef, Reference, Amount, DiscountAmount)"
-                 " VALUES (1, ?, ?, 0)",
-                 {key, bound(money(amount))}});
+            insertRow(store, "tblReceiptDetails", "ZevRef, Reference, Amount, DiscountAmount",
+                      {1, key, bound(money(amount)), 0});
         else
-            store.run(
-                {"INSERT INTO tblDisbursementDetails (PuchaseID, PayAmount, DirectPayment)"
-                 " VALUES (?, ?, False)",
-                 {key, bound(money(amount))}});
+            insertRow(store, "tblDisbursementDetails", "PuchaseID, PayAmount, DirectPayment",
+                      {key, bound(money(amount)), false});
     }
     // A stored order with other lines, and a new one with the same.
     QList<OrderDocument> editedAndFresh() {

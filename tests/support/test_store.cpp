@@ -35,33 +35,26 @@ Currency totalOf(const LineRow& line) {
 }
 
 void addMaster(Connection& store, const Book& book, const DocumentRow& document, Currency total) {
-    Recordset master = store.openTable(book.master);
-    master.addNew();
-    master.set(book.key, document.number);
-    master.set(book.date, document.date);
-    master.set("ContactNo", document.contactId);
-    master.set(book.total, total);
-    master.set("Balance", total);
-    master.set("Printed", document.printed);
-    master.set("UpdatedBy", "ADMIN");
-    master.set("DateUpdate", Clock::now());
-    master.update();
+    insertRow(store, book.master,
+              QString("%1, %2, %3, ContactNo, Balance, Printed, UpdatedBy, DateUpdate")
+                  .arg(book.key, book.date, book.total),
+              {document.number, document.date, bound(total), document.contactId, bound(total),
+               document.printed, "ADMIN", Clock::now()});
 }
 
 void addLine(Connection& store, const Book& book, const QString& number, const LineRow& line) {
-    store.run({QString("INSERT INTO %1 (Reference, ItemID, Ordered, %2, Unit, UnitPrice, Discount, Total) "
-                       "VALUES (?, ?, ?, ?, 'PC', ?, ?, ?)")
-                   .arg(book.details, book.quantity),
-               {number, line.item, bound(line.quantity), bound(line.quantity), bound(line.price),
-                bound(line.discount), bound(totalOf(line))}});
+    insertRow(store, book.details,
+              QString("Reference, ItemID, Ordered, %1, Unit, UnitPrice, Discount, Total").arg(book.quantity),
+              {number, line.item, bound(line.quantity), bound(line.quantity), "PC", bound(line.price),
+               bound(line.discount), bound(totalOf(line))});
 }
 
 void queue(Connection& store, const Book& book, const DocumentRow& document) {
-    store.run({"INSERT INTO tblForPosting (BookID, Reference, Contact, TransDate) VALUES (?, ?, ?, ?)",
-               {book.letter, document.number, document.contactId, document.date}});
+    insertRow(store, "tblForPosting", "BookID, Reference, Contact, TransDate",
+              {book.letter, document.number, document.contactId, document.date});
     for (const LineRow& line : document.lines)
         if (!RecordFound(store, "tblForPostingItem", "ItemID", line.item))
-            store.run({"INSERT INTO tblForPostingItem (ItemID) VALUES (?)", {line.item}});
+            insertRow(store, "tblForPostingItem", "ItemID", {line.item});
 }
 
 void addDocument(Connection& store, const Book& book, const DocumentRow& document) {
@@ -102,20 +95,23 @@ void SessionTest::TearDown() {
     Connection::setStatementHook({});
 }
 
+void insertRow(Connection& store, const QString& table, const QString& columns, const QVariantList& values) {
+    const QString marks = QStringList(values.size(), "?").join(", ");
+    store.run({QString("INSERT INTO %1 (%2) VALUES (%3)").arg(table, columns, marks), values});
+}
+
 void addContact(Connection& store, const ContactRow& contact) {
-    store.run(
-        {"INSERT INTO tblContactMaster (ContactID, ContactName, IsCustomer, IsSupplier, Discount, Terms, "
-         "CreditLimit) VALUES (?, ?, ?, ?, ?, ?, ?)",
-         {contact.id, contact.name, contact.customer, contact.supplier, bound(contact.discount),
-          bound(contact.terms), bound(contact.creditLimit)}});
+    insertRow(store, "tblContactMaster",
+              "ContactID, ContactName, IsCustomer, IsSupplier, Discount, Terms, CreditLimit",
+              {contact.id, contact.name, contact.customer, contact.supplier, bound(contact.discount),
+               bound(contact.terms), bound(contact.creditLimit)});
 }
 
 void addItem(Connection& store, const ItemRow& item) {
-    store.run(
-        {"INSERT INTO tblItemMaster (ItemCode, Description, Unit, CostPrice, SellingPrice, WholesalePrice, "
-         "OrderLevel) VALUES (?, ?, ?, ?, ?, ?, ?)",
-         {item.code, item.description, item.unit, bound(item.cost), bound(item.selling),
-          bound(item.wholesale), bound(item.orderLevel)}});
+    insertRow(store, "tblItemMaster",
+              "ItemCode, Description, Unit, CostPrice, SellingPrice, WholesalePrice, OrderLevel",
+              {item.code, item.description, item.unit, bound(item.cost), bound(item.selling),
+               bound(item.wholesale), bound(item.orderLevel)});
 }
 
 void addSale(Connection& store, const DocumentRow& sale) { addDocument(store, sales, sale); }

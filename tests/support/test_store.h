@@ -35,6 +35,9 @@ class SessionTest : public ::testing::Test {
     QTemporaryDir folder_;
 };
 
+// One row, with these of its columns: "RefNo, Balance".
+void insertRow(Connection& store, const QString& table, const QString& columns, const QVariantList& values);
+
 // Rows as the documents and masters of a firm would leave them, written straight into the tables.
 struct ContactRow {
     QString id;
