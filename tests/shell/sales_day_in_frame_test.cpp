@@ -174,6 +174,7 @@ TEST_F(SalesDayInFrame, LineDialogKeepsTheFrontAndTheQuantityPopupGivesWay) {
     boxes.expect("Please Don't Press X Button!",
                  "You cannot Press X mark, please click on Cancel Button to exit without saving!");
     at("frmAddItem")->close();
+    ASSERT_TRUE(at("frmAddItem"));
     person::click(at("frmAddItem"), "cmdCancel");
     boxes.expect("Confirm Add Record!", "", BoxAnswer::Cancel);
     choose("mnuFileItem_9");
