@@ -1,24 +1,13 @@
 #include "foundation/shared_routines.h"
 #include "platform/box.h"
 #include "platform/clock.h"
-#include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "support/box_script.h"
 #include "support/test_store.h"
 
 class SharedRoutines : public SessionTest {
   protected:
-    void SetUp() override {
-        SessionTest::SetUp();
-        setBoxAnswerer([this](const Box& box) {
-            boxes_ += box;
-            return BoxAnswer::Ok;
-        });
-    }
-    void TearDown() override {
-        setBoxAnswerer({});
-        SessionTest::TearDown();
-    }
-    Boxes boxes_;
+    BoxScript boxes;
 };
 
 TEST_F(SharedRoutines, ACombosRowsAreTrimmedAndAnEmptyTableIsToldWhenAsked) {
@@ -33,21 +22,18 @@ TEST_F(SharedRoutines, ACombosRowsAreTrimmedAndAnEmptyTableIsToldWhenAsked) {
     store().run("DELETE FROM tblTemp");
     LoadComboBox("Server", "tblTemp", &combo, false);
     EXPECT_EQ(combo.count(), 0);
-    EXPECT_TRUE(boxes_.isEmpty());
+    boxes.expect(information("ComboBox Message", "cboTest is Empty"));
     LoadComboBox("Server", "tblTemp", &combo, true);
-    EXPECT_EQ(boxes_, Boxes{information("ComboBox Message", "cboTest is Empty")});
 }
 
 TEST_F(SharedRoutines, AComboThatCannotBeFilledTellsItsStatement) {
     ComboBox combo("cboTest", ComboBox::Open);
     combo.addItem("old");
+    boxes.expect("Load Combo Box - Error",
+                 "Err.Desctiption = no such column: Colour\nCombo SQL = SELECT Colour FROM tblTemp");
     LoadComboBox("Colour", "tblTemp", &combo, false);
+    boxes.expect("LoadComboBox - UDF Error");
     LoadComboBoxUDF("Colour", "tblTemp", &combo, {"Server = ?", {"x"}}, false);
-    ASSERT_EQ(boxes_.size(), 2);
-    EXPECT_EQ(boxes_[0].title, "Load Combo Box - Error");
-    EXPECT_EQ(boxes_[0].text,
-              "Err.Desctiption = no such column: Colour\nCombo SQL = SELECT Colour FROM tblTemp");
-    EXPECT_EQ(boxes_[1].title, "LoadComboBox - UDF Error");
     EXPECT_EQ(combo.count(), 1) << "what it held stays";
 }
 

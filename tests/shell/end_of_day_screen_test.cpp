@@ -1,6 +1,7 @@
 #include "books/posting_queue.h"
 #include "documents/order_document.h"
 #include "foundation/session.h"
+#include "foundation/shared_routines.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/screen_registry.h"
 #include "purchases/purchase_document.h"
@@ -59,9 +60,7 @@ class EndOfDayScreen : public SessionTest {
         save(purchaseOrders, "P1", "03/04/2026", "I1", 10, 5);
         save(salesOrders, "S1", "03/03/2026", "I1", 4, 9);
     }
-    qint64 count(const char* table) {
-        return store().execute(Sql{QString("SELECT COUNT(*) AS Ihap FROM ") + table}).integer("Ihap");
-    }
+    qint64 count(const char* table) { return CountRecords(store(), table); }
     static void press(QWidget* screen, const char* button) {
         screen->findChild<QToolButton*>(button)->click();
     }

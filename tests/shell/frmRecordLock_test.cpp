@@ -35,21 +35,15 @@ class RecordLockTest : public SessionTest {
     Control* control(const char* name) {
         return screen->findChild<Control*>(name);
     }
-    void pick(const QString& number) {
-        control<ComboBox>("cboSelection")->setText(number);
-        emit control<ComboBox>("cboSelection")->picked();
-    }
-    void pickJournal(const QString& journal) {
-        control<ComboBox>("cboJournal")->setText(journal);
-        emit control<ComboBox>("cboJournal")->picked();
+    void choose(const char* list, const QString& entry) {
+        control<ComboBox>(list)->setText(entry);
+        emit control<ComboBox>(list)->picked();
     }
     QPair<bool, bool> buttons() {
         return {control<QPushButton>("cmdLock")->isEnabled(), control<QPushButton>("cmdUnlock")->isEnabled()};
     }
-    qint64 locked(const QString& table) {
-        return store()
-            .execute("SELECT COUNT(*) AS Ihap FROM " + table + " WHERE RecordLock = True")
-            .integer("Ihap");
+    int locked(const QString& table) {
+        return valueOf(store(), "SELECT COUNT(*) FROM " + table + " WHERE RecordLock = True").toInt();
     }
 
     QPointer<frmRecordLock> screen;
@@ -60,7 +54,7 @@ TEST_F(RecordLockTest, ALockedDocumentIsReleasedAfterTheOneQuestion) {
     EXPECT_EQ(control<QGroupBox>("fraSelection")->title(), "Enter Delivery Receipt No. :");
     EXPECT_EQ(control<ComboBox>("cboSelection")->count(), 2);
     EXPECT_EQ(buttons(), qMakePair(true, true));
-    pick("11-1001-2026");
+    choose("cboSelection", "11-1001-2026");
     EXPECT_EQ(buttons(), qMakePair(false, true));
     const QString words = questionOf("This will Lock D.R. No. 11-1001-2026");
     boxes.expect(sure, words, BoxAnswer::No);
@@ -74,16 +68,16 @@ TEST_F(RecordLockTest, ALockedDocumentIsReleasedAfterTheOneQuestion) {
 }
 
 TEST_F(RecordLockTest, OnlyTheChosenDocumentOfTheChosenJournalIsLocked) {
-    pickJournal("Payments Receipt Entry");
+    choose("cboJournal", "Payments Receipt Entry");
     EXPECT_EQ(control<QGroupBox>("fraSelection")->title(), "Enter Payment No. :");
-    pick("7");
+    choose("cboSelection", "7");
     EXPECT_EQ(buttons(), qMakePair(true, false));
     boxes.expect(sure, questionOf("This will Lock Payment No. 7"), BoxAnswer::Yes).expect("Locked!");
     control<QPushButton>("cmdLock")->click();
     EXPECT_EQ(locked("tblReceiptMaster"), 1);
     EXPECT_EQ(locked("tblSalesMaster"), 1);
 
-    pickJournal("Sales Order Entry");
+    choose("cboJournal", "Sales Order Entry");
     person::look(screen);
     person::fill(screen, "cboSelection", "11-1002-2026 ");  // with a blank behind it
     person::goTo(screen, "cboJournal");
@@ -106,13 +100,13 @@ TEST_F(RecordLockTest, WhatIsNotThereIsToldAndNothingIsWritten) {
                  {"Purchase Order Entry", "Purchase Order No. Does Not Exist!"},
                  {"Disbursement Entry", "Voucher No. Does Not Exist!"}};
     for (const auto& row : cases) {
-        pickJournal(row.journal);
+        choose("cboJournal", row.journal);
         control<ComboBox>("cboSelection")->setText("x' OR '1'='1");
         boxes.expect("Error!", row.missing);
         control<QPushButton>("cmdLock")->click();
     }
     boxes.expect("Error!", "Voucher No. Does Not Exist!");
-    pick("nothing");
+    choose("cboSelection", "nothing");
     EXPECT_EQ(locked("tblSalesMaster"), 1);
 }
 
