@@ -5,6 +5,7 @@
 #include "masters/register.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/icons.h"
+#include "platform/ui/program_style.h"
 #include "purchases/register.h"
 #include "reports/register.h"
 #include "sales/register.h"
@@ -24,7 +25,7 @@ static void registerScreens() {
 
 void setUpProgram() {
     QApplication::setApplicationName("Zevrin");
-    QApplication::setStyle("Fusion");
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setWindowIcon(bundledIcon("bird"));
     installIdleHook();
     registerScreens();

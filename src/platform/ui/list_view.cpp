@@ -9,21 +9,12 @@
 #include <QStyledItemDelegate>
 
 namespace {
-// Rows that leave some room between their boxes. On a dark palette the style would frame an empty box in the
-// colour of what lies around it.
+// Rows that leave some room between their boxes.
 class BoxedRows : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 3);
-    }
-
-  protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        const QColor text = option->palette.color(QPalette::Text);
-        if (text.lightness() > option->palette.color(QPalette::Window).lightness())
-            option->palette.setColor(QPalette::Window, text);
     }
 };
 }  // namespace
