@@ -13,7 +13,7 @@ constexpr int condensed = 87;
 
 QFont drawnFont(const TextStyle& style, Rendering rendering) {
     QFont font = fontInTwips(style);
-    if (rendering == Rendering::DotMatrix) font.setFamily("DejaVu Sans Mono");
+    if (rendering == Rendering::DotMatrix) font.setFamily(fixedPitchFamily);
     return font;
 }
 

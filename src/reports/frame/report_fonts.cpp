@@ -3,19 +3,20 @@
 #include <QFontMetrics>
 #include <QTextLayout>
 
-QFont fontInTwips(const TextStyle& style) {
-    QFont font;
-    switch (style.face) {
+const char* familyOf(Typeface face) {
+    switch (face) {
         case Typeface::Verdana:
-            font.setFamily("DejaVu Sans");
-            break;
+            return "DejaVu Sans";
         case Typeface::Tahoma:
-            font.setFamily("DejaVu Sans Condensed");
-            break;
+            return "DejaVu Sans Condensed";
         case Typeface::Arial:
-            font.setFamily("Liberation Sans");
             break;
     }
+    return "Liberation Sans";
+}
+
+QFont fontInTwips(const TextStyle& style) {
+    QFont font(familyOf(style.face));
     font.setPixelSize(style.points * 20);
     font.setBold(style.isBold);
     font.setHintingPreference(QFont::PreferNoHinting);

@@ -3,8 +3,12 @@
 
 #include <QFont>
 
-// The font of a style in a space of twips: its pixel is a twentieth of a point. Verdana is printed with
-// DejaVu Sans, Tahoma with DejaVu Sans Condensed, Arial with Liberation Sans.
+// The family that a typeface is printed with: Verdana with DejaVu Sans, Tahoma with DejaVu Sans Condensed,
+// Arial with Liberation Sans.
+const char* familyOf(Typeface face);
+// What a dot matrix printer prints with.
+inline constexpr const char* fixedPitchFamily = "DejaVu Sans Mono";
+// The font of a style in a space of twips: its pixel is a twentieth of a point.
 QFont fontInTwips(const TextStyle& style);
 // The height of one line of the style, in twips.
 int lineHeight(const TextStyle& style);

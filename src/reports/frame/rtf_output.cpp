@@ -1,6 +1,7 @@
 #include "reports/frame/page_fonts.h"
 #include "reports/frame/page_lines.h"
 #include "reports/frame/page_progress.h"
+#include "reports/frame/report_fonts.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -162,14 +163,16 @@ QByteArray floating(const PageItem& item) {
 // The fonts that the texts are measured with, by Typeface; where there are none, those that they stand for,
 // which are no wider: a column never runs into the next one.
 QByteArray fontTable(Rendering rendering) {
-    static const char* const fonts[] = {"swiss{\\*\\falt Verdana}DejaVu Sans",
-                                        "swiss{\\*\\falt Tahoma}DejaVu Sans Condensed",
-                                        "swiss{\\*\\falt Arial}Liberation Sans"};
-    static const char* const fixedPitch = "modern\\fprq1{\\*\\falt Courier New}DejaVu Sans Mono";
+    static const char* const named[] = {"Verdana", "Tahoma", "Arial"};
     QByteArray table = "{\\fonttbl";
-    for (int face = 0; face < 3; ++face)
-        table += '{' + control("f", face) + "\\f" +
-                 (rendering == Rendering::Full ? fonts[face] : fixedPitch) + ";}";
+    for (int face = 0; face < 3; ++face) {
+        table += '{' + control("f", face);
+        if (rendering == Rendering::Full)
+            table += QByteArray("\\fswiss{\\*\\falt ") + named[face] + '}' + familyOf(Typeface(face));
+        else
+            table += QByteArray("\\fmodern\\fprq1{\\*\\falt Courier New}") + fixedPitchFamily;
+        table += ";}";
+    }
     return table + '}';
 }
 
