@@ -48,7 +48,7 @@ bool readyToExport(QWidget* parent, ReportTarget target, const Box& refusal) {
     if (target == ReportTarget::Preview || target == ReportTarget::Printer) return true;
     QString& file = session().ExportFileName;
     file = askFileToWrite(parent, "Export", file, exportKind(target));
-    if (!file.trimmed().isEmpty() && ValidFilePath(file)) return true;
+    if (ValidFilePath(file)) return true;
     showBox(refusal);
     return false;
 }

@@ -25,7 +25,6 @@ class RunRules {
         : target_(target),
           tagging_(tagging),
           fromEntry_(session().ReportFromEntry),
-          isDirect_(session().ReportDirectPrint),
           exportFile_(trim(session().ExportFileName)) {}
 
     ReportTarget target() const { return target_; }
@@ -46,10 +45,10 @@ class RunRules {
         if (tagging_ && fromEntry_) tagPrinted();
     }
 
-    // QueryClose
+    // QueryClose: what went to the printer is tagged without a question.
     void queryClose() const {
         if (!tagging_) return;
-        if (isDirect_) return tagPrinted();
+        if (target_ == ReportTarget::Printer) return tagPrinted();
         if (fromEntry_) return;
         if (askYes(question("Printed?", tagging_->question)))
             tagPrinted();
@@ -70,7 +69,7 @@ class RunRules {
 
     ReportTarget target_;
     const DocumentTagging* tagging_;
-    bool fromEntry_, isDirect_;
+    bool fromEntry_;
     QString exportFile_;
     QString number_;
 };
@@ -105,7 +104,6 @@ bool print(ReportJobParts parts, RunRules& rules) {
     layOut(*job);
     frmStatus status;
     if (!reportPrinter::printAtOnce(job->pages(), job->rendering(), status)) return false;
-    rules.end();
     rules.queryClose();
     return true;
 }
@@ -131,15 +129,16 @@ bool exportToFile(ReportJobParts parts, const Rules& rules) {
     return true;
 }
 
+// Something is to be printed; else a box says so.
+bool hasRecords(const std::optional<ReportJobParts>& report) {
+    if (!report) showBox(information("Nothing to Print!", "No Records to Print..."));
+    return report.has_value();
+}
+
 }  // namespace
 
-Box nothingToPrint() { return information("Nothing to Print!", "No Records to Print..."); }
-
 ReportPreview* previewFromEntry(std::optional<ReportJobParts> report, const DocumentTagging* tagging) {
-    if (!report) {
-        showBox(nothingToPrint());
-        return nullptr;
-    }
+    if (!hasRecords(report)) return nullptr;
     session().ReportFromEntry = true;
     session().ReportDirectPrint = false;
     return preview(std::move(*report), std::make_shared<RunRules>(ReportTarget::Preview, tagging));
@@ -147,10 +146,7 @@ ReportPreview* previewFromEntry(std::optional<ReportJobParts> report, const Docu
 
 bool runFromPrintScreen(std::optional<ReportJobParts> report, ReportTarget target,
                         const DocumentTagging* tagging) {
-    if (!report) {
-        showBox(nothingToPrint());
-        return true;
-    }
+    if (!hasRecords(report)) return true;
     session().ReportFromEntry = false;
     session().ReportDirectPrint = target == ReportTarget::Printer;
     const auto rules = std::make_shared<RunRules>(target, tagging);

@@ -1,5 +1,4 @@
 #pragma once
-#include "platform/box.h"
 #include "reports/frame/report_events.h"
 
 #include <optional>
@@ -7,7 +6,7 @@
 class ReportPreview;
 
 // Starts reports, and does what they are told to do at their end and when they close. A run keeps the values
-// that it was started with (target, ReportFromEntry, ReportDirectPrint, ExportFileName): whatever is started
+// that it was started with (target, ReportFromEntry, ExportFileName): whatever is started
 // while its preview stands open, it ends and asks as its own start was.
 
 enum class ReportTarget { Preview, Printer, RichText, PlainText };
@@ -37,6 +36,3 @@ ReportPreview* previewFromEntry(std::optional<ReportJobParts> report,
 // False when the output failed: a walk over several documents ends there. Nothing to print is no failure.
 bool runFromPrintScreen(std::optional<ReportJobParts> report, ReportTarget target,
                         const DocumentTagging* tagging = nullptr);
-
-// "No Records to Print..."
-Box nothingToPrint();
