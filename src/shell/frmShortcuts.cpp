@@ -4,6 +4,7 @@
 #include "foundation/shared_routines.h"
 #include "platform/parsing.h"
 #include "platform/store/connection.h"
+#include "platform/ui/enter_key.h"
 #include "platform/ui/form.h"
 #include "platform/ui/icons.h"
 
@@ -159,12 +160,8 @@ bool frmShortcuts::hasTheFocus() const { return isVisible() && isAncestorOf(QApp
 void frmShortcuts::takeFocus() { lvMenu->setFocus(); }
 
 bool frmShortcuts::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-            choose(lvMenu->currentItem());
-            return true;
-        }
-    }
-    return QFrame::eventFilter(watched, event);
+    const bool enter = event->type() == QEvent::KeyPress && isEnterKey(static_cast<QKeyEvent*>(event)->key());
+    if (!enter) return QFrame::eventFilter(watched, event);
+    choose(lvMenu->currentItem());
+    return true;
 }

@@ -1,6 +1,7 @@
 #include "platform/ui/child_screen.h"
 
 #include "platform/ui/boxes.h"
+#include "platform/ui/enter_key.h"
 #include "platform/ui/form.h"
 #include "platform/ui/front_watch.h"
 #include "platform/ui/mnemonics.h"
@@ -69,7 +70,7 @@ void ChildScreen::showEvent(QShowEvent* event) {
 }
 
 void ChildScreen::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool enter = isEnterKey(event->key());
     if (event->key() == Qt::Key_Escape)
         unload();
     else if (auto* picture = qobject_cast<QToolButton*>(QApplication::focusWidget()); enter && picture)

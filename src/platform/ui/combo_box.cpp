@@ -1,6 +1,7 @@
 #include "platform/ui/combo_box.h"
 
 #include "platform/ui/boxes.h"
+#include "platform/ui/enter_key.h"
 #include "platform/ui/text_box.h"
 
 #include <QAbstractItemView>
@@ -81,8 +82,7 @@ void ComboBox::fieldGained() {
 }
 
 void ComboBox::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter || isEditable()) return QComboBox::keyPressEvent(event);
+    if (!isEnterKey(event->key()) || isEditable()) return QComboBox::keyPressEvent(event);
     event->setAccepted(takesEnter());
     emit entered();
 }

@@ -1,6 +1,7 @@
 #include "platform/ui/data_grid.h"
 
 #include "platform/ui/boxes.h"
+#include "platform/ui/enter_key.h"
 #include "platform/ui/form.h"
 #include "platform/ui/grid_model.h"
 
@@ -65,8 +66,7 @@ QSize DataGrid::sizeHint() const { return form::listSize(this, horizontalHeader(
 // A key that nobody waits for goes on to the screen.
 void DataGrid::keyPressEvent(QKeyEvent* event) {
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter) {
+    if (isEnterKey(event->key())) {
         const bool waited = isSignalConnected(QMetaMethod::fromSignal(&DataGrid::picked));
         event->setAccepted(waited);
         emit picked();

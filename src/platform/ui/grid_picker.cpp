@@ -1,6 +1,7 @@
 #include "platform/ui/grid_picker.h"
 
 #include "platform/ui/boxes.h"
+#include "platform/ui/enter_key.h"
 
 #include <QKeyEvent>
 #include <QVBoxLayout>
@@ -45,7 +46,7 @@ void GridPicker::deactivated() {
 }
 
 void GridPicker::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnterKey(event->key()))
         pickCurrent();
     else
         ChildScreen::keyPressEvent(event);

@@ -1,5 +1,6 @@
 #include "platform/ui/list_view.h"
 
+#include "platform/ui/enter_key.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_list_model.h"
 
@@ -127,7 +128,7 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     const auto waitsFor = [this](auto signal) { return isSignalConnected(QMetaMethod::fromSignal(signal)); };
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
     const int key = plain ? event->key() : 0;
-    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    const bool enter = isEnterKey(key);
     if (key == Qt::Key_Space && model_->showsMarks())
         setMarked(currentRow(), !isMarked(currentRow()));
     else if (enter && waitsFor(&ListView::entered))

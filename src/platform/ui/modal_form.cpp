@@ -1,6 +1,7 @@
 #include "platform/ui/modal_form.h"
 
 #include "platform/ui/child_screen.h"
+#include "platform/ui/enter_key.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -13,7 +14,7 @@ ModalForm::ModalForm(const QString& name, const QString& caption) : QDialog(QApp
 void ModalForm::showModal() { exec(); }
 
 void ModalForm::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnterKey(event->key()))
         focusNextField(this);
     else
         QDialog::keyPressEvent(event);

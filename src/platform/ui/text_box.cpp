@@ -2,6 +2,7 @@
 
 #include "platform/masks.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/enter_key.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>
@@ -89,10 +90,6 @@ bool TextBox::event(QEvent* event) {
     return QLineEdit::event(event);
 }
 
-static bool isEnter(const QKeyEvent* event) {
-    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-}
-
 static bool isTypedText(const QKeyEvent* event) {
     constexpr auto command = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     return !event->text().isEmpty() && event->text().at(0).isPrint() && !(event->modifiers() & command);
@@ -102,7 +99,7 @@ bool TextBox::takesEnter() const { return isSignalConnected(QMetaMethod::fromSig
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
     if (isFrameKey(event)) return event->ignore();
-    if (isEnter(event)) {
+    if (isEnterKey(event->key())) {
         event->setAccepted(takesEnter());
         emit entered();
     } else if (isReadOnly()) {

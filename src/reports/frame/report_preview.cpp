@@ -1,6 +1,7 @@
 #include "reports/frame/report_preview.h"
 
 #include "platform/ui/boxes.h"
+#include "platform/ui/enter_key.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/icons.h"
@@ -455,7 +456,7 @@ bool ReportPreview::event(QEvent* event) {
 }
 
 void ReportPreview::keyPressEvent(QKeyEvent* event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isEnter = isEnterKey(event->key());
     if (const Command* command = commandFor(event))
         run(*command);
     else if (isEnter && txtFind->hasFocus())
