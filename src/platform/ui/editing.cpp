@@ -13,8 +13,6 @@ static QLineEdit* activeLine() {
     return qobject_cast<QLineEdit*>(focus);
 }
 
-QWidget* activeTextControl() { return activeLine(); }
-
 void cut() {
     if (QLineEdit* line = activeLine(); line && !line->isReadOnly()) line->cut();
 }

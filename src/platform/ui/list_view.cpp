@@ -40,8 +40,6 @@ ListView::ListView(const QString& name, const QList<ListColumn>& columns, QWidge
 void ListView::connectSignals() {
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& index) { emit rowDoubleClicked(index.row()); });
-    connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& now) { emit currentRowChanged(now.row()); });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
         if (sortsByHeader_) toggleSort(column);
         emit headerClicked(column);

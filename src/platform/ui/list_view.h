@@ -56,7 +56,6 @@ class ListView : public QTreeView {
     void deletePressed();
     void editPressed();  // F2
     void headerClicked(int column);
-    void currentRowChanged(int row);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -20,7 +20,6 @@ class TextBox : public QLineEdit, public FocusField {
     void setKeyFilter(const KeyFilter& filter) { filter_ = filter; }
     // The most characters it holds; 0 (at the start): 32,000.
     void setCapacity(int characters);
-    int capacity() const { return capacity_; }
     void selectAllText() { selectAll(); }
 
     void fieldGained() override;
