@@ -8,7 +8,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSqlError>
 
 #include <sqlite3.h>
 

@@ -1,6 +1,5 @@
 #include "platform/ui/boxes.h"
 
-#include "platform/store/store_error.h"
 #include "platform/ui/front_watch.h"
 
 #include <QApplication>

@@ -4,7 +4,6 @@
 #include "platform/ui/enter_key.h"
 #include "platform/ui/text_box.h"
 
-#include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QMetaMethod>
 #include <QSignalBlocker>
