@@ -33,8 +33,7 @@ void bindValue(sqlite3_stmt* statement, int position, const QVariant& value) {
 }
 
 void bindAll(sqlite3_stmt* statement, const QVariantList& values) {
-    if (sqlite3_bind_parameter_count(statement) != values.size())
-        throw StoreError(StoreError::general, "The statement has other values than it asks for.");
+    requireValues(sqlite3_bind_parameter_count(statement), values);
     for (int i = 0; i < values.size(); ++i) bindValue(statement, i + 1, storedValue(values[i]));
 }
 

@@ -43,6 +43,8 @@ struct Connection::Private {
 StoreError engineError(sqlite3* engine);
 // After a failure: waits for another try when it was another workstation's lock, else throws it.
 void waitOrThrow(sqlite3* engine, BusyWait& wait);
+// Throws when a statement asks for another number of values than it was given.
+void requireValues(int asked, const QVariantList& given);
 // The test door of Connection::setStatementHook.
 void tellStatement(const QString& text);
 // The names of columns, exact and lower-cased, with their positions; the first of equal names counts.

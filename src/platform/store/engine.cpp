@@ -128,6 +128,11 @@ void waitOrThrow(sqlite3* engine, BusyWait& wait) {
     if (error.number() != StoreError::busy || !wait.again()) throw error;
 }
 
+void requireValues(int asked, const QVariantList& given) {
+    if (given.size() != asked)
+        throw StoreError(StoreError::general, "The statement has other values than it asks for.");
+}
+
 std::shared_ptr<const QHash<QString, int>> columnPositions(const QStringList& names) {
     auto positions = std::make_shared<QHash<QString, int>>();
     for (int i = static_cast<int>(names.size()) - 1; i >= 0; --i) {
@@ -194,8 +199,7 @@ std::shared_ptr<PreparedStatement> Connection::Private::start(const Sql& sql) {
     BusyWait wait;
     for (bool told = false;;) {
         const auto statement = prepare(sql.text);
-        if (statement && statement->valueCount != sql.values.size())
-            throw StoreError(StoreError::general, "The statement has other values than it asks for.");
+        if (statement) requireValues(statement->valueCount, sql.values);
         if (statement && statement->writes && !std::exchange(told, true)) tellStatement(sql.text);
         if (statement && tryStart(*statement, sql)) return statement;
         waitOrThrow(engine(), wait);
