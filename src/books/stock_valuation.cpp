@@ -111,7 +111,7 @@ void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes) {
         boxes += exclamation("Error!", "Inventory Balance could not be Updated! Item Not Found!");
 }
 
-static const char* priceColumn(PriceKind kind) {
+const char* priceColumn(PriceKind kind) {
     switch (kind) {
         case PriceKind::Cost:
             return "CostPrice";

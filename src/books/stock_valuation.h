@@ -39,4 +39,5 @@ void RecomputeStockValuation(Connection& store, Progress& progress);
 
 // Keeps the master price in step with documents. Unchanged or unknown item: nothing is written.
 enum class PriceKind { Cost, Sell, Whole };
+const char* priceColumn(PriceKind kind);  // of tblItemMaster
 void UpdateItemPrice(Connection& store, const QString& itemCode, PriceKind kind, Currency price);

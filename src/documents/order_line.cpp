@@ -27,11 +27,6 @@ Recordset itemRow(Connection& store, const QString& code) {
     return store.execute({"SELECT * FROM tblItemMaster WHERE ItemCode = ?", {trimRight(code)}});
 }
 
-const char* priceColumn(const OrderBook& book, bool wholesale) {
-    if (!book.sells) return "CostPrice";
-    return wholesale ? "WholesalePrice" : "SellingPrice";
-}
-
 Currency contactDiscount(Connection& store, const QString& name) {
     const Recordset row =
         store.execute({"SELECT Discount FROM tblContactMaster WHERE ContactName = ?", {trimRight(name)}});
@@ -197,7 +192,7 @@ bool CheckCode(Connection& store, const OrderBook& book, const LineOrder& order,
     entry.inventory = item.currency("Balance").toPlainText();
     Currency discount;
     if (entry.addMode) {
-        entry.cost = asPrice(item.currency(priceColumn(book, order.wholesale)));
+        entry.cost = asPrice(item.currency(priceColumn(book.priceKind(order.wholesale))));
         discount = contactDiscount(store, order.contactName);
     }
     entry.discount = asPercent(discount);
