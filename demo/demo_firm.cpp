@@ -7,8 +7,10 @@
 #include "foundation/session.h"
 #include "masters/contact_document.h"
 #include "masters/item_document.h"
+#include "masters/unit_master.h"
 #include "platform/clock.h"
 #include "platform/masks.h"
+#include "platform/parsing.h"
 #include "platform/store/transaction.h"
 #include "purchases/purchase_document.h"
 #include "sales/sales_document.h"
@@ -116,29 +118,17 @@ class DemoFirm {
         openFor(lastDay_.addDays(-365));
         nameTheFirm(store_);
         for (const DemoUser& user : demoUsers()) addUser(store_, user);
-        addUnits();
+        for (const DemoItem& item : items_) AddUnitCode(store_, item.unit);
         for (const DemoContact& contact : contacts) {
             addContact(store_, contact);
-            discounts_[contact.name] = numberOf(contact.discount);
+            discounts_[contact.name] = numberOrZero(contact.discount);
         }
         for (const DemoItem& item : items_) codes_ += addItem(store_, item);
         trade(DemoTrade(contacts, items_, lastDay_).documents());
     }
 
   private:
-    static Currency numberOf(const QString& text) { return Currency::fromDouble(text.toDouble()); }
-
     void openFor(const QDate& day) { Clock::freeze(QDateTime(day, QTime(8, 30))); }
-
-    void addUnits() {
-        for (const DemoItem& item : items_) {
-            if (!store_.openTable("tblUnitMaster", {"WHERE UnitCode = ?", {item.unit}}).eof()) continue;
-            Recordset row = store_.openTable("tblUnitMaster");
-            row.addNew();
-            row.set("UnitCode", item.unit);
-            row.update();
-        }
-    }
 
     void trade(const QList<DemoDocument>& documents) {
         bool closed = false;
