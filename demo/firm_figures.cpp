@@ -1,5 +1,6 @@
 #include "demo/firm_figures.h"
 
+#include "foundation/shared_routines.h"
 #include "platform/masks.h"
 #include "platform/store/connection.h"
 
@@ -7,11 +8,8 @@ namespace {
 
 Currency sumOf(Connection& store, const QString& column, const char* table, const QString& where = {},
                const QVariantList& values = {}) {
-    Currency sum;
-    const QString statement = QString("SELECT %1 FROM %2%3").arg(column, table, where);
-    for (Recordset rows = store.execute({statement, values}); !rows.eof(); rows.moveNext())
-        sum += rows.currency(column);
-    return sum;
+    const QString statement = QString("SELECT SUM(%1) AS Total FROM %2%3").arg(column, table, where);
+    return store.execute({statement, values}).currency("Total");
 }
 
 Currency stockValue(Connection& store) {
@@ -38,7 +36,7 @@ FirmFigures firmFigures(Connection& store, const QDate& day) {
     figures.salesOfDay = sumOf(store, "TotalAmount", "tblSalesMaster", " WHERE RefDate = ?", {day});
     figures.costOfSales =
         sumOf(store, "SalesCost", "tblStockValuation", " WHERE BookID = 'S' AND TransDate = ?", {day});
-    figures.waiting = store.execute("SELECT Reference FROM tblForPosting").rowCount();
+    figures.waiting = CountRecords(store, "tblForPosting");
     return figures;
 }
 
