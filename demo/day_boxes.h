@@ -26,7 +26,6 @@ class DayBoxes {
     // What came that was not expected, or did not come that was; empty: all as expected. Expects nothing
     // from then on.
     QString settle();
-    bool surprised() const { return !surprise_.isEmpty(); }
 
   private:
     BoxAnswer answer(const Box& box);

@@ -257,7 +257,8 @@ void DayPlayer::save(QWidget* entry, const DayStep& step) {
 void DayPlayer::savePaper(const DayStep& step, const QString& number) {
     const Side& side = sideOf(step);
     const QTemporaryDir passing;
-    const QString file = QDir(folder_.isEmpty() ? passing.path() : folder_).filePath(QString("%1 %2.pdf").arg(side.paper, number));
+    const QString file = QDir(folder_.isEmpty() ? passing.path() : folder_)
+                             .filePath(QString("%1 %2.pdf").arg(side.paper, number));
     desk::setDoors({.saveFile = [file](const QString&) { return file; }});
     act({}, [&] {
         person::screen(side.paper);
