@@ -83,8 +83,6 @@ class OrderSave {
             return Done{boxes_};
         } catch (const StoreError& failure) {
             return Fault{failureBox(failure), {}};
-        } catch (const OverflowError& failure) {
-            return Fault{exclamation("Error...", failure.what()), {}};
         }
     }
 
