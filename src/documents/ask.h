@@ -13,6 +13,3 @@ inline Outcome askUntilSettled(const std::function<Outcome(const Answers&)>& req
         answers.insert(asked->key, showBox(asked->box));
     }
 }
-
-// Tells a fault over its screen; one without a text only moves the focus.
-void tellFault(const Fault& fault, QWidget* screen);

@@ -239,7 +239,7 @@ void frmAddItem::computeOrTell(const std::function<std::optional<Fault>(LineEntr
 // The fields that the focus passes on its way back to the one at fault have nothing to say.
 void frmAddItem::tell(const Fault& fault) {
     telling_ = true;
-    tellFault(fault, this);
+    showFault(fault, this);
     telling_ = false;
 }
 

@@ -48,7 +48,7 @@ void frmInputInList::commit() {
         return changeServed(StoreConnection(), owner_.orderBook(), owner_.lineOrder(), line, value, answers);
     });
     txtValue->setText(value);
-    if (const auto* fault = std::get_if<Fault>(&outcome)) return tellFault(*fault, this);
+    if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
     owner_.replaceLine(row_, line);
     unload();
 }

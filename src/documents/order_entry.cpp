@@ -1,6 +1,5 @@
 #include "documents/order_entry.h"
 
-#include "documents/ask.h"
 #include "documents/frmAddItem.h"
 #include "documents/frmInputInList.h"
 #include "foundation/session.h"
@@ -9,6 +8,7 @@
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/ui/boxes.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/screen_registry.h"
 
@@ -211,7 +211,7 @@ bool OrderEntry::CheckContact() {
 // True when lines may be entered for the contact; else tells why not.
 bool OrderEntry::contactReady(const char* unknown) {
     const auto refuse = [this](const Box& box) {
-        tellFault({box, "cboCustomer"}, this);
+        showFault({box, "cboCustomer"}, this);
         return false;
     };
     const QString name = ui.cboCustomer->text();
@@ -329,7 +329,7 @@ bool OrderEntry::SaveRecord() {
         outcome = saveOrder(StoreConnection(), orderBook(), document(), status);
     }
     if (const auto* fault = std::get_if<Fault>(&outcome)) {
-        tellFault(*fault, this);
+        showFault(*fault, this);
         return false;
     }
     finishSave(std::get<Done>(outcome).boxes);

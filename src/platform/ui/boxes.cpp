@@ -126,14 +126,17 @@ static void turnToPageOf(QWidget* control) {
 }
 
 void showFault(const Fault& fault, QWidget* screen) {
+    const bool isTold = !fault.box.text.isEmpty();
     const QPointer<QWidget> stillOpen = screen;
-    showBox(fault.box);
+    if (isTold) showBox(fault.box);
     if (!stillOpen || fault.focus.isEmpty()) return;
     auto* control = screen->findChild<QWidget*>(fault.focus);
     if (!control) return;
     turnToPageOf(control);
     control->setFocus(Qt::OtherFocusReason);
-    if (auto* line = qobject_cast<QLineEdit*>(control)) line->selectAll();
+    // What a person has just answered No to is not marked to be typed over.
+    auto* line = qobject_cast<QLineEdit*>(control);
+    if (isTold && line) line->selectAll();
 }
 
 bool guarded(const std::function<void()>& action, const QString& title) {
