@@ -89,10 +89,7 @@ void recompute(Connection& store) {
 void recomputeBare(Connection& store) { bareBalances(store.handle()); }
 
 void endOfDay(Connection& store) {
-    EndOfDayView view;
-    Boxes boxes;
-    PostStockValuation(store, LoadPostingQueue(store, Progress::none()), view, boxes);
-    InitializeStockValuation(store, LoadPostingItems(store, Progress::none()), view, boxes);
+    const Boxes boxes = postAndCostAll(store);
     if (!boxes.isEmpty()) qFatal("%s", qPrintable(boxes.first().text));
 }
 void endOfDayBare(Connection& store) { bareEndOfDay(store.handle()); }

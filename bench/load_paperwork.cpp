@@ -50,11 +50,7 @@ class Loader {
     }
 
     void endOfDay() {
-        EndOfDayView view;
-        Boxes boxes;
-        PostStockValuation(store_, LoadPostingQueue(store_, Progress::none()), view, boxes);
-        InitializeStockValuation(store_, LoadPostingItems(store_, Progress::none()), view, boxes);
-        for (const Box& box : boxes) refused_ += "end of day: " + box.text;
+        for (const Box& box : postAndCostAll(store_)) refused_ += "end of day: " + box.text;
     }
 
     void report() {

@@ -164,10 +164,7 @@ class DemoFirm {
         store_.run({"UPDATE tblSalesMaster SET Printed = True, RecordLock = True WHERE RefDate < ?", {week}});
         store_.run({"UPDATE tblPurchaseMaster SET Printed = True, RecordLock = True WHERE PurchaseDate < ?",
                     {week}});
-        EndOfDayView view;
-        Boxes boxes;
-        PostStockValuation(store_, LoadPostingQueue(store_, Progress::none()), view, boxes);
-        InitializeStockValuation(store_, LoadPostingItems(store_, Progress::none()), view, boxes);
+        const Boxes boxes = postAndCostAll(store_);
         if (!boxes.isEmpty()) throw std::runtime_error(boxes.first().text.toStdString());
     }
 

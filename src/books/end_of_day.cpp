@@ -189,3 +189,11 @@ bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items,
                 progress.setValue(index + 1);
             });
 }
+
+Boxes postAndCostAll(Connection& store) {
+    EndOfDayView unseen;
+    Boxes boxes;
+    PostStockValuation(store, LoadPostingQueue(store, Progress::none()), unseen, boxes);
+    InitializeStockValuation(store, LoadPostingItems(store, Progress::none()), unseen, boxes);
+    return boxes;
+}

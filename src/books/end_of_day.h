@@ -39,3 +39,6 @@ bool PostStockValuation(Connection& store, const QList<QueuedDocument>& document
                         Boxes& boxes);
 bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,
                               Boxes& boxes, Progress& progress = Progress::none());
+
+// All that waits, as it stands, with no screen; the boxes that came.
+Boxes postAndCostAll(Connection& store);
