@@ -1,9 +1,9 @@
 #include "bench/bare.h"
 
+#include "bench/seconds_of.h"
 #include "platform/store/store_error.h"
 
 #include <sqlite3.h>
-#include <QElapsedTimer>
 #include <algorithm>
 #include <cstdio>
 #include <vector>
@@ -89,12 +89,7 @@ double replay(sqlite3* engine, const QByteArrayList& statements) {
     });
 }
 
-double milliseconds(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
-}
+double milliseconds(const std::function<void()>& work) { return secondsOf(work) * 1e3; }
 
 double median(const std::function<void()>& work) {
     constexpr int runs = 9;

@@ -3,6 +3,7 @@
 // hand:  books_bench --benchmark_filter=/20000/
 #include "bench/bare_passes.h"
 #include "bench/books_generator.h"
+#include "bench/seconds_of.h"
 #include "books/balances.h"
 #include "books/end_of_day.h"
 #include "books/stock_valuation.h"
@@ -10,7 +11,6 @@
 #include "foundation/session.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -50,14 +50,10 @@ QString booksAfter(const char* name, const Pass& pass, qint64 size) {
     return path;
 }
 
-double secondsOf(const QString& books, const Pass& pass) {
+double secondsOnCopy(const QString& books, const Pass& pass) {
     double seconds = 0;
-    onCopy(books, folder() + "/copy.mdb", [&](Connection& store) {
-        QElapsedTimer timer;
-        timer.start();
-        pass(store);
-        seconds = static_cast<double>(timer.nsecsElapsed()) * 1e-9;
-    });
+    onCopy(books, folder() + "/copy.mdb",
+           [&](Connection& store) { seconds = secondsOf([&] { pass(store); }); });
     return seconds;
 }
 
@@ -67,8 +63,8 @@ void measure(benchmark::State& state, const QString& bareBooks, const Pass& bare
     double bareSeconds = 0;
     double seconds = 0;
     for (auto turn : state) {
-        bareSeconds += secondsOf(bareBooks, bare);
-        const double own = secondsOf(books, pass);
+        bareSeconds += secondsOnCopy(bareBooks, bare);
+        const double own = secondsOnCopy(books, pass);
         state.SetIterationTime(own);
         seconds += own;
     }

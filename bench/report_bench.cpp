@@ -2,6 +2,7 @@
 // painter output of the same lines, what memory it takes, and how its preview answers: to keys while the
 // pages are made, to Esc, and to each letter of a search. The limits stand in the names; by itself it runs
 // 100,000 rows.
+#include "bench/seconds_of.h"
 #include "platform/masks.h"
 #include "platform/ui/screen_registry.h"
 #include "reports/frame/page_view.h"
@@ -12,7 +13,6 @@
 
 #include <QApplication>
 #include <QBuffer>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -63,13 +63,6 @@ const ReportLayout goodsList{
 ReportPages wholeReport(qint64 rows) {
     Goods goods(rows);
     return runReport(goodsList, goods, {});
-}
-
-double secondsOf(const std::function<void()>& work) {
-    QElapsedTimer timer;
-    timer.start();
-    work();
-    return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
 }
 
 // The same texts at the same places on the same kind of device, with nothing around the painter.
@@ -184,12 +177,12 @@ class OpenPreview {
     void work() { QApplication::processEvents(); }
     // Presses a key behind all that waits already, and works until all is done and painted. The milliseconds.
     double press(QWidget* widget, int key, const QString& text = {}) {
-        QElapsedTimer timer;
-        timer.start();
-        QApplication::postEvent(widget, new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, text));
-        QApplication::processEvents();
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return static_cast<double>(timer.nsecsElapsed()) * 1e-6;
+        return 1e3 * secondsOf([&] {
+                   QApplication::postEvent(widget,
+                                           new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, text));
+                   QApplication::processEvents();
+                   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+               });
     }
 
   private:
