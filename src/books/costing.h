@@ -49,7 +49,6 @@ class ItemCosting {
   public:
     void clear();
     void add(const StockRow& row);
-    bool isEmpty() const { return rows_.empty(); }
     void computeBalances();
     void computeSalesCost();
     const std::vector<StockRow>& rows() const { return rows_; }

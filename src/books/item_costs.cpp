@@ -1,8 +1,8 @@
 #include "books/item_costs.h"
 
 #include "books/ledger.h"
-#include "books/long_pass.h"
 #include "books/stock_valuation.h"
+#include "platform/progress_scope.h"
 #include "platform/store/transaction.h"
 
 #include <optional>

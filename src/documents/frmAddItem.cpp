@@ -5,7 +5,6 @@
 #include "masters/field_widths.h"
 #include "masters/frmFound.h"
 #include "masters/unit_field.h"
-#include "platform/parsing.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
