@@ -41,11 +41,6 @@ class OrderBooks : public SessionTest {
                            .terms = money("30"),
                            .creditLimit = money("5000")});
     }
-    void TearDown() override {
-        Connection::setStatementHook({});
-        Clock::unfreeze();
-        SessionTest::TearDown();
-    }
 
     static OrderLine line(const char* item, const char* ordered, const char* served, const char* price,
                           const char* discount = "0") {

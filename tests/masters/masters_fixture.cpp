@@ -18,8 +18,6 @@ void MastersTest::SetUp() {
     supplierId_ = lastRecord(store(), contactMaster);
 }
 
-void MastersTest::TearDown() { Clock::unfreeze(); }
-
 ItemEntry MastersTest::goodItem() const {
     return {.ItemCode = "1000000001",
             .Description = "COMMON WIRE NAIL",

@@ -21,7 +21,6 @@ FaultText faultOf(const Outcome& outcome);
 class MastersTest : public SessionTest {
   protected:
     void SetUp() override;
-    void TearDown() override;
 
     QString supplierId() const { return supplierId_; }
     ItemEntry goodItem() const;        // "1000000001"

@@ -93,6 +93,7 @@ void SessionTest::TearDown() {
     session() = Session{};
     Connection::setIdleHook({});
     Connection::setStatementHook({});
+    Clock::unfreeze();
 }
 
 void insertRow(Connection& store, const QString& table, const QString& columns, const QVariantList& values) {

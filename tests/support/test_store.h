@@ -24,7 +24,7 @@ class TestStore {
 void copyDeliveredStore(const QString& path);
 
 // A test on the session's own connection: the program's folder is a fresh one with a delivered store, the
-// user is ADMIN.
+// user is ADMIN. A clock that the test has frozen goes on after it.
 class SessionTest : public ::testing::Test {
   protected:
     void SetUp() override;
