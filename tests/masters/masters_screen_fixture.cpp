@@ -24,9 +24,7 @@ void ScreenTest::open(const QString& name) {
 }
 
 ChildScreen* ScreenTest::popup(const QString& name) {
-    for (ChildScreen* open : ScreenRegistry::instance().openScreens())
-        if (open->objectName() == name) return open;
-    return nullptr;
+    return ScreenRegistry::instance().opened(name);
 }
 
 void ScreenTest::command(const char* name) {
