@@ -4,6 +4,7 @@
 #include "platform/ui/combo_box.h"
 #include "platform/ui/data_grid.h"
 #include "platform/ui/screen_registry.h"
+#include "support/screen_tour.h"
 
 #include <QGroupBox>
 
@@ -13,8 +14,7 @@ void ScreenTest::SetUp() {
 }
 
 void ScreenTest::TearDown() {
-    for (ChildScreen* open : ScreenRegistry::instance().openScreens()) open->unload();
-    person::settle();
+    closeOpenScreens();
     MastersTest::TearDown();
 }
 

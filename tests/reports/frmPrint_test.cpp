@@ -7,6 +7,7 @@
 #include "support/box_script.h"
 #include "support/screen_checks.h"
 #include "support/screen_driver.h"
+#include "support/screen_tour.h"
 #include "support/test_store.h"
 
 #include <QHeaderView>
@@ -41,7 +42,7 @@ class Hub : public SessionTest {
         addItem(store(), {.code = "RICE", .description = "Rice"});
     }
     void TearDown() override {
-        closeAll();
+        closeOpenScreens();
         desk::setDoors({});
         SessionTest::TearDown();
     }
@@ -96,10 +97,6 @@ class Hub : public SessionTest {
     }
     static QString textOf(const ReportPreview* paper) {
         return reportOutput::plainText(paper->job().pages());
-    }
-    static void closeAll() {
-        for (ChildScreen* open : ScreenRegistry::instance().openScreens()) open->unload();
-        person::settle();
     }
     // A printer that puts each job into a file of its own, and a dialog that chooses this file.
     void answerDesk(bool hasPrinter, const QString& file) {
@@ -262,7 +259,7 @@ TEST_F(Hub, EveryOutputTagsAsItShould) {
             }
             printAllOn(row.target);
             EXPECT_EQ(list->markedRows().size(), 1) << "neither list nor marks change";
-            closeAll();
+            closeOpenScreens();
             boxes.verify();
             EXPECT_EQ(flags(kind, "000001"), row.flags);
         }

@@ -4,7 +4,7 @@
 #include "reports/frame/report_preview.h"
 #include "reports/sales_by_town.h"
 #include "support/box_script.h"
-#include "support/screen_driver.h"
+#include "support/screen_tour.h"
 
 #include <linux/capability.h>
 #include <sys/resource.h>
@@ -83,8 +83,7 @@ class OutputFailures : public ::testing::Test {
     }
     void TearDown() override {
         desk::setDoors({});
-        for (ChildScreen* screen : ScreenRegistry::instance().openScreens()) screen->unload();
-        person::settle();
+        closeOpenScreens();
     }
 
     // Tries an output at the place of a failure. Whatever it does, the folder is as it was.

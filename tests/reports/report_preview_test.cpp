@@ -9,6 +9,7 @@
 #include "support/box_script.h"
 #include "support/screen_checks.h"
 #include "support/screen_driver.h"
+#include "support/screen_tour.h"
 
 #include <QPrinter>
 
@@ -50,8 +51,7 @@ std::unique_ptr<ReportJob> jobOf(int rows, int failAt = -1) {
 class ReportPreviewTest : public ::testing::Test {
   protected:
     void TearDown() override {
-        for (ChildScreen* screen : ScreenRegistry::instance().openScreens()) screen->unload();
-        person::settle();
+        closeOpenScreens();
         desk::setDoors({});
     }
 

@@ -6,6 +6,7 @@
 #include "reports/frame/report_preview.h"
 #include "support/box_script.h"
 #include "support/screen_driver.h"
+#include "support/screen_tour.h"
 #include "support/test_store.h"
 
 #include <QTest>
@@ -18,8 +19,7 @@ class ReportStart : public SessionTest {
         addContact(store(), {"C1", "Reyes Trading"});
     }
     void TearDown() override {
-        for (ChildScreen* screen : ScreenRegistry::instance().openScreens()) screen->unload();
-        person::settle();
+        closeOpenScreens();
         SessionTest::TearDown();
     }
 
