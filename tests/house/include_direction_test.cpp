@@ -1,5 +1,6 @@
+#include "support/files.h"
+
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
 
 #include <gtest/gtest.h>
@@ -18,10 +19,8 @@ static int levelOf(const QString& folder) {
 static QStringList arrowsUp(const QString& path, const QString& floor) {
     static const QRegularExpression include("^\\s*#include\\s+\"([a-z]+)/",
                                             QRegularExpression::MultilineOption);
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
     QStringList faults;
-    for (auto found = include.globalMatch(QString::fromUtf8(file.readAll())); found.hasNext();) {
+    for (auto found = include.globalMatch(QString::fromUtf8(contentOf(path))); found.hasNext();) {
         const QString target = found.next().captured(1);
         const bool own = target == floor;
         if (levelOf(target) < 0 || (!own && levelOf(target) >= levelOf(floor)))

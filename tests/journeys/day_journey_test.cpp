@@ -3,13 +3,7 @@
 #include "foundation/start.h"
 #include "journeys/journey.h"
 #include "platform/clock.h"
-
-#include <QFile>
-
-static QString demoDay() {
-    QFile file(QString(ZEVRIN_SOURCE_DIR) + "/demo/day.txt");
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
+#include "support/files.h"
 
 // The day that ./run plays without a display.
 TEST_F(Journey, TheDayOfTheDemoFirm) {
@@ -18,7 +12,7 @@ TEST_F(Journey, TheDayOfTheDemoFirm) {
     freshDemoFirm(QDir(folder.path()));
     ASSERT_TRUE(Main());
     const FirmFigures before = firmFigures(store(), Clock::today());
-    const QStringList saved = play(demoDay());
+    const QStringList saved = play(QString::fromUtf8(contentOf(ZEVRIN_SOURCE_DIR "/demo/day.txt")));
     EXPECT_EQ(saved.size(), 7);
     const FirmFigures after = firmFigures(store(), Clock::today());
     EXPECT_EQ(after.waiting, 0);

@@ -3,6 +3,7 @@
 #include "platform/store/dialect.h"
 #include "platform/store/schema_steps.h"
 #include "platform/store/transaction.h"
+#include "support/files.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -52,17 +53,6 @@ class StoreTest : public ::testing::Test {
     Connection theirs;
 };
 
-QByteArray bytesOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    ASSERT_EQ(file.write(bytes), bytes.size());
-}
-
 int numberThrown(const std::function<void()>& action) {
     try {
         action();
@@ -104,9 +94,9 @@ constexpr Permissions everything =
 }  // namespace
 
 TEST_F(StoreTest, WhatIsNoSoundStoreIsRefusedAndLeftAsItIs) {
-    QByteArray otherProgram = bytesOf(path());
+    QByteArray otherProgram = contentOf(path());
     otherProgram[68] = 'X';  // the mark in the header
-    QByteArray newer = bytesOf(path());
+    QByteArray newer = contentOf(path());
     newer[63] = 9;  // the version in the header
     const struct {
         const char* name;
@@ -116,18 +106,18 @@ TEST_F(StoreTest, WhatIsNoSoundStoreIsRefusedAndLeftAsItIs) {
     } faults[] = {{"empty", "", word, "empty"},
                   {"garbage", QByteArray(5000, 'z'), word, "damaged"},
                   {"short garbage", "zz", word, "damaged"},
-                  {"truncated", bytesOf(path()).left(4096), word, "damaged"},
+                  {"truncated", contentOf(path()).left(4096), word, "damaged"},
                   {"other program", otherProgram, word, "not a store of this program"},
                   {"newer", newer, word, "newer version"},
-                  {"wrong password", bytesOf(path()), "open Sesame", "not a valid password"},
-                  {"no password", bytesOf(path()), "", "not a valid password"}};
+                  {"wrong password", contentOf(path()), "open Sesame", "not a valid password"},
+                  {"no password", contentOf(path()), "", "not a valid password"}};
     for (const auto& fault : faults) {
         SCOPED_TRACE(fault.name);
         const QString file = path("fault.mdb");
-        write(file, fault.bytes);
+        writeFile(file, fault.bytes);
         const QString refusal = refusalOf(file, fault.password);
         EXPECT_TRUE(refusal.contains(fault.reason)) << qPrintable(refusal);
-        EXPECT_EQ(bytesOf(file), fault.bytes);
+        EXPECT_EQ(contentOf(file), fault.bytes);
     }
     EXPECT_TRUE(refusalOf(path("none.mdb")).contains("not there"));
     EXPECT_FALSE(QFileInfo::exists(path("none.mdb")));
@@ -137,7 +127,7 @@ TEST_F(StoreTest, WhatIsNoSoundStoreIsRefusedAndLeftAsItIs) {
 TEST_F(StoreTest, AReadOnlyFileOrFolderIsRefused) {
     QFile::setPermissions(path(), readOnly);
     QFile::setPermissions(folder_.path(), everything);
-    const QByteArray before = bytesOf(path());
+    const QByteArray before = contentOf(path());
     {
         const OrdinaryUser user;
         EXPECT_TRUE(refusalOf(path()).contains("file is read-only"));
@@ -149,7 +139,7 @@ TEST_F(StoreTest, AReadOnlyFileOrFolderIsRefused) {
         EXPECT_TRUE(refusalOf(path()).contains("folder is read-only"));
     }
     QFile::setPermissions(folder_.path(), everything);
-    EXPECT_EQ(bytesOf(path()), before);
+    EXPECT_EQ(contentOf(path()), before);
     EXPECT_EQ(refusalOf(path()), "opened");
 }
 

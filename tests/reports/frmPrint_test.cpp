@@ -5,6 +5,7 @@
 #include "reports/frame/report_preview.h"
 #include "reports/register.h"
 #include "support/box_script.h"
+#include "support/files.h"
 #include "support/screen_checks.h"
 #include "support/screen_driver.h"
 #include "support/screen_tour.h"
@@ -108,10 +109,6 @@ class Hub : public SessionTest {
             return made;
         };
         desk::setDoors({.saveFile = [file](const QString&) { return file; }, .printer = printer});
-    }
-    QByteArray contentOf(const QString& file) const {
-        QFile content(folder_.filePath(file));
-        return content.open(QIODevice::ReadOnly) ? content.readAll() : QByteArray();
     }
 
     BoxScript boxes;
@@ -263,9 +260,9 @@ TEST_F(Hub, EveryOutputTagsAsItShould) {
             boxes.verify();
             EXPECT_EQ(flags(kind, "000001"), row.flags);
         }
-    EXPECT_TRUE(contentOf("job1.pdf").startsWith("%PDF"));
-    EXPECT_TRUE(contentOf("paper.rtf").startsWith("{\\rtf"));
-    EXPECT_TRUE(contentOf("paper.txt").contains("000001"));
+    EXPECT_TRUE(contentOf(folder_.filePath("job1.pdf")).startsWith("%PDF"));
+    EXPECT_TRUE(contentOf(rtf).startsWith("{\\rtf"));
+    EXPECT_TRUE(contentOf(text).contains("000001"));
 }
 
 TEST_F(Hub, PrintsTheMarkedOnesInTheOrderOfTheList) {

@@ -1,7 +1,8 @@
 #include "reports/golden.h"
 
+#include "support/files.h"
+
 #include <gtest/gtest.h>
-#include <QFile>
 
 static QString differences(const QStringList& wanted, const QStringList& got) {
     QString text;
@@ -13,14 +14,9 @@ static QString differences(const QStringList& wanted, const QStringList& got) {
 }
 
 void compareWithGolden(const QString& name, const QString& text) {
-    QFile file(QString(ZEVRIN_SOURCE_DIR "/tests/reports/golden/") + name);
-    if (qEnvironmentVariableIsSet("ZEVRIN_WRITE_GOLDEN")) {
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(file.errorString());
-        file.write(text.toUtf8());
-        return;
-    }
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name + ": " + file.errorString());
-    const QString kept = QString::fromUtf8(file.readAll());
+    const QString path = ZEVRIN_SOURCE_DIR "/tests/reports/golden/" + name;
+    if (qEnvironmentVariableIsSet("ZEVRIN_WRITE_GOLDEN")) return writeFile(path, text.toUtf8());
+    const QString kept = QString::fromUtf8(contentOf(path));
     EXPECT_TRUE(kept == text) << qPrintable(name) << '\n'
                               << qPrintable(differences(kept.split('\n'), text.split('\n')));
 }

@@ -4,6 +4,7 @@
 #include "reports/frame/report_preview.h"
 #include "reports/sales_by_town.h"
 #include "support/box_script.h"
+#include "support/files.h"
 #include "support/screen_tour.h"
 
 #include <linux/capability.h>
@@ -78,8 +79,7 @@ class OutputFailures : public ::testing::Test {
   protected:
     void SetUp() override {
         ASSERT_TRUE(QDir(folder_.path()).mkdir("folder.txt"));
-        QFile old(folder_.filePath("old.txt"));
-        ASSERT_TRUE(old.open(QIODevice::WriteOnly) && old.write("kept") == 4);
+        writeFile(folder_.filePath("old.txt"), "kept");
     }
     void TearDown() override {
         desk::setDoors({});
@@ -98,8 +98,7 @@ class OutputFailures : public ::testing::Test {
         EXPECT_EQ(QDir(folder_.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
                   QStringList({"folder.txt", "old.txt"}))
             << failure.name;
-        QFile old(folder_.filePath("old.txt"));
-        EXPECT_TRUE(old.open(QIODevice::ReadOnly) && old.readAll() == "kept") << failure.name;
+        EXPECT_EQ(contentOf(folder_.filePath("old.txt")), "kept") << failure.name;
     }
 
     std::unique_ptr<ReportJob> job() {

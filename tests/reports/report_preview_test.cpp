@@ -7,6 +7,7 @@
 #include "reports/frame/page_view.h"
 #include "reports/frame/report_printer.h"
 #include "support/box_script.h"
+#include "support/files.h"
 #include "support/screen_checks.h"
 #include "support/screen_driver.h"
 #include "support/screen_tour.h"
@@ -77,11 +78,6 @@ class ReportPreviewTest : public ::testing::Test {
 
     QTemporaryDir folder_;
 };
-
-QByteArray contentOf(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 }  // namespace
 
 TEST_F(ReportPreviewTest, PageOneIsThereBeforeTheEndAndItsCountIsPending) {

@@ -5,6 +5,7 @@
 #include "reports/documents/prtDelivery.h"
 #include "reports/frame/report_preview.h"
 #include "support/box_script.h"
+#include "support/files.h"
 #include "support/screen_driver.h"
 #include "support/screen_tour.h"
 #include "support/test_store.h"
@@ -89,7 +90,5 @@ TEST_F(ReportStart, AListIsExportedWithoutAQuestion) {
     session().ExportFileName = folder_.filePath("list.txt");
     boxes.expect("Thank You!", "File is saved at : " + session().ExportFileName);
     EXPECT_TRUE(runFromPrintScreen(report(), ReportTarget::PlainText));
-    QFile file(session().ExportFileName);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(file.readAll().contains("Reyes Trading"));
+    EXPECT_TRUE(contentOf(session().ExportFileName).contains("Reyes Trading"));
 }

@@ -11,6 +11,7 @@
 #include "shell/frmShortcuts.h"
 #include "shell/menu_catalogue.h"
 #include "shell/screen_opening.h"
+#include "support/files.h"
 #include "support/screen_checks.h"
 
 #include <QCheckBox>
@@ -363,22 +364,17 @@ TEST_F(EmptyFrame, FilesThatTheDesktopCannotOpenAreTold) {
         return opens;
     };
     desk::setDoors(doors);
-    const auto write = [this](const QString& name, const char* line) {
-        QFile file(folder_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(line);
-    };
     for (const char* name : {"mnuHelpItem_1", "mnuAdminItem_4", "mnuHelpItem_2"}) {
         boxes.expect("Zevrin!");
         choose(name);
     }
     EXPECT_EQ(given, "");
-    write("Zevrin.hlp", "help");
+    writeFile(folder_.filePath("Zevrin.hlp"), "help");
     boxes.expect("Zevrin!", "Nothing on this computer opens Zevrin.hlp.");
     choose("mnuHelpItem_1");
     EXPECT_EQ(given, folder_.filePath("Zevrin.hlp"));
     opens = true;
-    write("Support.ini", "help@mabuhay.example\r\n");
+    writeFile(folder_.filePath("Support.ini"), "help@mabuhay.example\r\n");
     choose("mnuHelpItem_2");
     EXPECT_EQ(given, "mailto:help@mabuhay.example");
     desk::setDoors({});
