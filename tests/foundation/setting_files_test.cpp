@@ -1,24 +1,12 @@
 #include "foundation/setting_files.h"
-#include "foundation/session.h"
+#include "support/files.h"
+#include "support/test_store.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
-class SettingFiles : public ::testing::Test {
+class SettingFiles : public SessionTest {
   protected:
-    void SetUp() override { setProgramFolder(folder_.path()); }
-    void TearDown() override {
-        setProgramFolder({});
-        session() = Session{};
-    }
-    void write(const char* name, const QByteArray& text) {
-        QFile file(folder_.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-    QTemporaryDir folder_;
+    void write(const char* name, const QByteArray& text) { writeFile(folder_.filePath(name), text); }
 };
 
 TEST_F(SettingFiles, EachReaderKeepsTheTrimmedFirstLineOrItsValue) {
