@@ -3,30 +3,20 @@
 
 #include "platform/ui/file_dialogs.h"
 #include "reports/frame/page_view.h"
+#include "reports/sales_by_town.h"
 #include "support/screen_driver.h"
 
 namespace {
-class Lines : public ReportSource {
-  public:
-    bool next() override { return ++at_ <= 200; }
-    void lookBack(bool looksBack) override { at_ += looksBack ? -1 : 1; }
-    QString text(const QString&) const override { return QString("Line %1").arg(at_); }
-    Currency currency(const QString&) const override { return {}; }
-    QDateTime dateTime(const QString&) const override { return {}; }
-    bool isNull(const QString&) const override { return false; }
-
-  private:
-    int at_ = 0;
-};
-
 ReportPreview* openPreview() {
     const ReportLayout layout{
         "prtLines",
         "Lines...",
         letterPortrait(720, 720, 10800),
         {section(SectionKind::Detail, 270, {field("txtLine", "Line", 0, 0, 3000, 225)})}};
-    auto* preview =
-        new ReportPreview(std::make_unique<ReportJob>(layout, std::make_unique<Lines>(), ReportEvents()));
+    QList<QStringList> lines;
+    for (int line = 1; line <= 200; ++line) lines += QStringList(QString("Line %1").arg(line));
+    auto* preview = new ReportPreview(std::make_unique<ReportJob>(
+        layout, std::make_unique<Rows>(QStringList("Line"), lines), ReportEvents()));
     ScreenRegistry::instance().show(preview);
     EXPECT_TRUE(QTest::qWaitFor([&] { return preview->job().isComplete(); }));
     person::settle();
