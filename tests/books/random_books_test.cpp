@@ -3,7 +3,6 @@
 #include "books/books_model.h"
 #include "books/books_test.h"
 #include "books/end_of_day.h"
-#include "books/posting_queue.h"
 #include "books/stock_valuation.h"
 
 #include <random>

@@ -16,9 +16,7 @@
 
 #include <QCheckBox>
 #include <QDateTimeEdit>
-#include <QLabel>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 

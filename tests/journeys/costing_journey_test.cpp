@@ -1,7 +1,5 @@
 #include "journeys/journey.h"
 
-#include "platform/ui/list_view.h"
-
 TEST_F(Journey, TheRoadOfOneSale) {
     play("log in ADMIN admin");
     onDay(2);

@@ -12,7 +12,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolTip>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 

@@ -11,7 +11,6 @@
 
 #include <qabstractitemmodeltester.h>
 #include <QAccessible>
-#include <QApplication>
 #include <QSet>
 #include <QSignalSpy>
 

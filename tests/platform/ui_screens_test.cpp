@@ -13,7 +13,6 @@
 #include "support/screen_driver.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>

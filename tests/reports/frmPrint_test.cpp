@@ -11,7 +11,6 @@
 #include "support/screen_tour.h"
 #include "support/test_store.h"
 
-#include <QHeaderView>
 #include <QPrinter>
 #include <QTest>
 

@@ -10,12 +10,12 @@ class RichText {
         while (at_ < rtf_.size()) take();
     }
     QString text;
-    int depth = 0, deepest = 0;
+    int depth = 0;
 
   private:
     void take() {
         const char c = rtf_[at_++];
-        if (c == '{') deepest = std::max(deepest, ++depth);
+        if (c == '{') ++depth;
         if (c == '}' && depth-- == skipped_) skipped_ = 0;
         if (c == '\\')
             takeControl();

@@ -1,13 +1,11 @@
 #include "books/posting_queue.h"
 #include "documents/order_document.h"
-#include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/screen_registry.h"
 #include "purchases/purchase_document.h"
 #include "sales/sales_document.h"
 #include "shell/frmForUpload.h"
-#include "shell/register.h"
 #include "support/box_script.h"
 #include "support/test_store.h"
 

@@ -10,14 +10,12 @@
 #include "shell/child_area.h"
 #include "shell/frmShortcuts.h"
 #include "shell/menu_catalogue.h"
-#include "shell/screen_opening.h"
 #include "support/files.h"
 #include "support/screen_checks.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QStatusBar>

@@ -44,12 +44,6 @@ BoxScript& BoxScript::record(std::function<BoxAnswer(const Box&)> answer) {
     return *this;
 }
 
-QStringList BoxScript::shownTexts() const {
-    QStringList texts;
-    for (const Box& box : shown_) texts += box.text;
-    return texts;
-}
-
 bool BoxScript::Expected::matches(const Box& box) const {
     return (title.isEmpty() || title == box.title) && (text.isEmpty() || text == box.text);
 }

@@ -27,7 +27,6 @@ class BoxScript {
     BoxScript& record(std::function<BoxAnswer(const Box&)> answer = defaultAnswer);
 
     const QList<Box>& shown() const { return shown_; }
-    QStringList shownTexts() const;
     bool allShown() const { return expected_.isEmpty(); }
     // Fails the test for what is missing by now, and forgets it.
     void verify();

@@ -1,10 +1,8 @@
 #pragma once
-#include <QPoint>
 #include <QString>
 #include <Qt>
 
 class QAbstractItemView;
-class QModelIndex;
 class QWidget;
 
 // What a person does with keys, mouse and eyes. Keys go where the focus is; every act waits until what it set

@@ -13,7 +13,6 @@ class TestStore {
     TestStore();
     Connection& connection() { return connection_; }
     QString path() const { return folder_.filePath(storeFileName); }
-    QString folder() const { return folder_.path(); }
 
   private:
     QTemporaryDir folder_;
