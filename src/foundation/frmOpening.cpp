@@ -148,10 +148,8 @@ QLayout* frmOpening::makeButtons() {
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    for (QPushButton* button : {ok, cancel}) {
-        button->setAutoDefault(true);
-        buttons->addWidget(button);
-    }
+    buttons->addWidget(ok);
+    buttons->addWidget(cancel);
     return buttons;
 }
 

@@ -69,8 +69,6 @@ QLayout* frmCompanySetup::makeLogo() {
     imgLogo->setFrameShape(QFrame::StyledPanel);
     QPushButton* search = form::button("cmdSearch1", "Brow&se...");
     QPushButton* clear = form::button("cmdClear", "&Clear Logo");
-    search->setAutoDefault(true);
-    clear->setAutoDefault(true);
     connect(search, &QPushButton::clicked, this, &frmCompanySetup::cmdSearch1_Click);
     connect(clear, &QPushButton::clicked, this, &frmCompanySetup::cmdClear_Click);
     auto* buttons = new QHBoxLayout;

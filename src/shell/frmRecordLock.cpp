@@ -40,10 +40,7 @@ void frmRecordLock::build() {
     connect(cancel, &QPushButton::clicked, this, &frmRecordLock::CloseRecord);
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
-    for (QPushButton* button : {cmdLock, cmdUnlock, cancel}) {
-        button->setAutoDefault(true);
-        buttons->addWidget(button);
-    }
+    for (QPushButton* button : {cmdLock, cmdUnlock, cancel}) buttons->addWidget(button);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(12);
