@@ -7,7 +7,6 @@
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
 
-#include <QHBoxLayout>
 #include <QVBoxLayout>
 
 namespace {
@@ -40,17 +39,13 @@ void frmChangePassword::build() {
     QPushButton* cancel = form::button("cmdCancel", "&Cancel");
     connect(ok, &QPushButton::clicked, this, &frmChangePassword::cmdOK_Click);
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 12);
     layout->setSpacing(12);
     layout->addLayout(fields);
     layout->addStretch();
-    layout->addLayout(buttons);
+    layout->addLayout(form::buttonsAtRight({ok, cancel}));
     form::setAccessibleFromTexts(this);
 }
 

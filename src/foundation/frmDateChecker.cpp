@@ -7,7 +7,6 @@
 
 #include <QCheckBox>
 #include <QDateEdit>
-#include <QHBoxLayout>
 #include <QTimeEdit>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -106,11 +105,7 @@ void frmDateChecker::build() {
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &frmDateChecker::cmdOK_Click);
     connect(leave, &QPushButton::clicked, this, &QWidget::close);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(leave);
-    layout->addLayout(buttons);
+    layout->addLayout(form::buttonsAtRight({ok, leave}));
     ok->setFocus();
 
     connect(startedTimer(this, "tmrBlink", 500), &QTimer::timeout, this,

@@ -146,11 +146,7 @@ QLayout* frmOpening::makeButtons() {
     QPushButton* cancel = form::button("cmdCancel", "&Cancel");
     connect(ok, &QPushButton::clicked, this, &frmOpening::cmdOK_Click);
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(ok);
-    buttons->addWidget(cancel);
-    return buttons;
+    return form::buttonsAtRight({ok, cancel});
 }
 
 void frmOpening::keyPressEvent(QKeyEvent* event) {

@@ -59,15 +59,11 @@ frmAbout::frmAbout() : ModalForm("frmAbout", "About Zevrin") {
     ok->setDefault(true);
     connect(information, &QPushButton::clicked, this, &StartSysInfo);
     connect(ok, &QPushButton::clicked, this, &QWidget::close);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(information);
-    buttons->addWidget(ok);
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->addLayout(top);
     layout->addSpacing(12);
-    layout->addLayout(buttons);
+    layout->addLayout(form::buttonsAtRight({information, ok}));
     ok->setFocus();
 }

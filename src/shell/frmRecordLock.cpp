@@ -38,9 +38,6 @@ void frmRecordLock::build() {
 
     QPushButton* cancel = form::button("cmdCancel", "&Close");
     connect(cancel, &QPushButton::clicked, this, &frmRecordLock::CloseRecord);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton* button : {cmdLock, cmdUnlock, cancel}) buttons->addWidget(button);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(12);
@@ -49,7 +46,7 @@ void frmRecordLock::build() {
     layout->addLayout(journal);
     layout->addWidget(fraSelection);
     layout->addStretch();
-    layout->addLayout(buttons);
+    layout->addLayout(form::buttonsAtRight({cmdLock, cmdUnlock, cancel}));
 }
 
 void frmRecordLock::journalChanged() {

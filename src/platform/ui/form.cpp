@@ -2,6 +2,7 @@
 
 #include "platform/ui/icons.h"
 
+#include <QHBoxLayout>
 #include <QScrollBar>
 #include <QStyle>
 
@@ -56,6 +57,13 @@ QGroupBox* frame(const QString& name, const QString& caption) {
     auto* result = new QGroupBox(caption);
     result->setObjectName(name);
     result->setAccessibleName(spoken(caption));
+    return result;
+}
+
+QHBoxLayout* buttonsAtRight(const QList<QPushButton*>& buttons) {
+    auto* result = new QHBoxLayout;
+    result->addStretch();
+    for (QPushButton* each : buttons) result->addWidget(each);
     return result;
 }
 

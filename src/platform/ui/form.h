@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QToolButton>
 
+class QHBoxLayout;
+
 // Small builders, so that every screen labels and names its controls alike.
 namespace form {
 // A label with plain text; its buddy's accessible name is the label without the colon and mnemonic.
@@ -17,6 +19,8 @@ QPushButton* button(const QString& name, const QString& caption, const QString& 
 // A button with a picture only: the text is its tool tip and accessible name (the told img... controls).
 QToolButton* imageButton(const QString& name, const QString& icon, const QString& text);
 QGroupBox* frame(const QString& name, const QString& caption);
+// The buttons at the foot of a screen: side by side at the right end.
+QHBoxLayout* buttonsAtRight(const QList<QPushButton*>& buttons);
 void setAccessibleFromTexts(QWidget* screen);  // gives every unnamed control the name of its buddy or text
 // Width for this many average characters of the widget's font.
 int charactersWide(const QWidget* widget, int characters);
