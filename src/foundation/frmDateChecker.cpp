@@ -25,9 +25,7 @@ QDateTimeEdit* picker(QDateTimeEdit* edit, const QString& name, const QString& f
     edit->setObjectName(name);
     edit->setDisplayFormat(format);
     edit->setCorrectionMode(QAbstractSpinBox::CorrectToNearestValue);
-    QFont large = edit->font();
-    large.setPointSizeF(large.pointSizeF() * 1.3);
-    edit->setFont(large);
+    form::setFont(edit, 1.3);
     edit->setMinimumWidth(form::charactersWide(edit, 18));
     keepReadable(edit);
     return edit;
@@ -79,9 +77,7 @@ void frmDateChecker::build() {
     layout->setSpacing(12);
     question_->setObjectName("Labels_0");
     question_->setWordWrap(true);
-    QFont strong = question_->font();
-    strong.setBold(true);
-    question_->setFont(strong);
+    form::setFont(question_, 1, true);
     QSizePolicy keepsRoom = question_->sizePolicy();
     keepsRoom.setRetainSizeWhenHidden(true);
     question_->setSizePolicy(keepsRoom);

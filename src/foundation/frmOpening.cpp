@@ -78,10 +78,7 @@ void frmOpening::build() {
     right->setSpacing(10);
     lblCompany->setObjectName("lblCompany");
     lblCompany->setWordWrap(true);
-    QFont large = lblCompany->font();
-    large.setPointSizeF(large.pointSizeF() * 1.7);
-    large.setBold(true);
-    lblCompany->setFont(large);
+    form::setFont(lblCompany, 1.7, true);
     lblVersion->setObjectName("lblVersion");
     right->addWidget(lblCompany);
     right->addWidget(lblVersion);

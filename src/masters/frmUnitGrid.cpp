@@ -25,10 +25,7 @@ void paintIdle(TextBox* box, bool idle) {
 QLabel* heading(const QString& text) {
     auto* label = form::label(text);
     label->setObjectName("lblHeading");
-    QFont font = label->font();
-    font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.3);
-    label->setFont(font);
+    form::setFont(label, 1.3, true);
     return label;
 }
 }  // namespace

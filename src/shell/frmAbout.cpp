@@ -30,10 +30,7 @@ void StartSysInfo() {
 QLabel* line(const QString& name, const QString& text, double size = 1) {
     QLabel* label = form::label(text);
     label->setObjectName(name);
-    QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * size);
-    font.setBold(size > 1);
-    label->setFont(font);
+    form::setFont(label, size, size > 1);
     return label;
 }
 

@@ -78,10 +78,7 @@ const Entry* entryOf(int right) {
 
 QLabel* heading(const QString& text, double size, bool bold) {
     QLabel* label = form::label(text);
-    QFont font = label->font();
-    font.setPointSizeF(font.pointSizeF() * size);
-    font.setBold(bold);
-    label->setFont(font);
+    form::setFont(label, size, bold);
     return label;
 }
 

@@ -81,6 +81,13 @@ void setAccessibleFromTexts(QWidget* screen) {
         if (const QString text = ownText(control); !text.isEmpty()) name(control, text);
 }
 
+void setFont(QWidget* widget, double factor, bool bold) {
+    QFont font = widget->font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setBold(bold);
+    widget->setFont(font);
+}
+
 int charactersWide(const QWidget* widget, int characters) {
     const int frame = widget->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, widget);
     const int ends =

@@ -22,6 +22,8 @@ QGroupBox* frame(const QString& name, const QString& caption);
 // The buttons at the foot of a screen: side by side at the right end.
 QHBoxLayout* buttonsAtRight(const QList<QPushButton*>& buttons);
 void setAccessibleFromTexts(QWidget* screen);  // gives every unnamed control the name of its buddy or text
+// The widget's own font, this many times as large, bold or not.
+void setFont(QWidget* widget, double factor, bool bold = false);
 // Width for this many average characters of the widget's font.
 int charactersWide(const QWidget* widget, int characters);
 // The columns of a list as wide as their characters, and their headings, need.
