@@ -14,12 +14,7 @@
 namespace {
 
 // What is to be confirmed must be read well while it cannot be changed.
-void keepReadable(QWidget* widget) {
-    QPalette palette = widget->palette();
-    for (const auto role : {QPalette::Text, QPalette::WindowText})
-        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::Active, role));
-    widget->setPalette(palette);
-}
+void keepReadable(QWidget* widget) { form::keepReadable(widget, {QPalette::Text, QPalette::WindowText}); }
 
 QDateTimeEdit* picker(QDateTimeEdit* edit, const QString& name, const QString& format) {
     edit->setObjectName(name);

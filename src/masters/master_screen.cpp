@@ -39,14 +39,6 @@ TextBox* searchBox(const QString& name, const QString& accessibleName) {
     box->setMinimumWidth(form::charactersWide(box, 12));
     return box;
 }
-
-// A locked record is there to be read: its texts keep their full colour.
-void readWhenLocked(QWidget* record) {
-    QPalette palette = record->palette();
-    for (const auto role : {QPalette::Text, QPalette::ButtonText, QPalette::WindowText})
-        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::Active, role));
-    record->setPalette(palette);
-}
 }  // namespace
 
 MasterScreen::MasterScreen(const MasterDescriptor& descriptor)
@@ -271,7 +263,7 @@ void MasterScreen::buildLayout() {
 QWidget* MasterScreen::recordHalf() {
     auto* record = form::frame("fraRecord", {});
     record->setAccessibleName("Record");
-    readWhenLocked(record);
+    form::keepReadable(record, {QPalette::Text, QPalette::ButtonText, QPalette::WindowText});
     auto* grid = new QGridLayout(record);
     fields_ = new MasterFields(descriptor_.fields, grid, this);
     return record;

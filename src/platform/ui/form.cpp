@@ -88,6 +88,13 @@ void setFont(QWidget* widget, double factor, bool bold) {
     widget->setFont(font);
 }
 
+void keepReadable(QWidget* widget, std::initializer_list<QPalette::ColorRole> roles) {
+    QPalette palette = widget->palette();
+    for (const auto role : roles)
+        palette.setColor(QPalette::Disabled, role, palette.color(QPalette::Active, role));
+    widget->setPalette(palette);
+}
+
 int charactersWide(const QWidget* widget, int characters) {
     const int frame = widget->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, widget);
     const int ends =

@@ -24,6 +24,9 @@ QHBoxLayout* buttonsAtRight(const QList<QPushButton*>& buttons);
 void setAccessibleFromTexts(QWidget* screen);  // gives every unnamed control the name of its buddy or text
 // The widget's own font, this many times as large, bold or not.
 void setFont(QWidget* widget, double factor, bool bold = false);
+// Keeps the full colour of these parts while the widget, or what stands in it, is disabled: it is there to be
+// read.
+void keepReadable(QWidget* widget, std::initializer_list<QPalette::ColorRole> roles);
 // Width for this many average characters of the widget's font.
 int charactersWide(const QWidget* widget, int characters);
 // The columns of a list as wide as their characters, and their headings, need.
