@@ -1,12 +1,10 @@
 #include "shell/frmShortcuts.h"
 
-#include "foundation/session.h"
 #include "foundation/shared_routines.h"
-#include "platform/parsing.h"
-#include "platform/store/connection.h"
 #include "platform/ui/enter_key.h"
 #include "platform/ui/form.h"
 #include "platform/ui/icons.h"
+#include "shell/user_menus.h"
 
 #include <QKeyEvent>
 #include <QListWidget>
@@ -62,14 +60,6 @@ QIcon steadyIcon(const QString& name, double pixelRatio) {
     return icon;
 }
 
-QList<int> rightsOfUser(Connection& store) {
-    Recordset rows = store.execute({"SELECT MenuID FROM tblUserDetails WHERE UserID = ? ORDER BY MenuID ASC",
-                                    {trimRight(session().CurrentUserCode)}});
-    QList<int> rights;
-    for (; !rows.eof(); rows.moveNext()) rights << static_cast<int>(rows.integer("MenuID"));
-    return rights;
-}
-
 const Entry* entryOf(int right) {
     const auto* found = std::find_if(std::begin(byRight), std::end(byRight),
                                      [right](const Entry& entry) { return entry.right == right; });
@@ -99,16 +89,16 @@ frmShortcuts::frmShortcuts(Connection& store) : lvMenu(new QListWidget) {
     setWindowTitle("System Shortcuts");
     setAccessibleName(windowTitle());
     setStyleSheet(panelStyle);
-    build();
+    build(GetCompanyName(store));
     fill(store);
 }
 
-void frmShortcuts::build() {
+void frmShortcuts::build(const QString& companyName) {
     auto* banner = new QFrame;
     banner->setObjectName("banner");
     auto* words = new QVBoxLayout(banner);
     words->setContentsMargins(24, 16, 24, 16);
-    words->addWidget(heading(GetCompanyName(StoreConnection()), 1.8, true));
+    words->addWidget(heading(companyName, 1.8, true));
     words->addWidget(heading(windowTitle(), 1.1, false));
 
     lvMenu->setObjectName("lvMenu");
@@ -135,7 +125,7 @@ void frmShortcuts::build() {
 }
 
 void frmShortcuts::fill(Connection& store) {
-    for (const int right : rightsOfUser(store))
+    for (const int right : userRights(store))
         if (const Entry* entry = entryOf(right)) add(entry->caption, entry->key, entry->icon);
     if (UserHasAccess(store, "POSSuper")) add(cashRegister.caption, cashRegister.key, cashRegister.icon);
     for (const Entry& entry : everybodys) add(entry.caption, entry.key, entry.icon);

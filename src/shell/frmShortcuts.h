@@ -23,7 +23,7 @@ class frmShortcuts : public QFrame {
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
-    void build();
+    void build(const QString& companyName);
     void fill(Connection& store);
     void add(const char* caption, const char* key, const char* icon);
     void choose(const QListWidgetItem* item);

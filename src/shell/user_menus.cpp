@@ -28,14 +28,19 @@ void grant(FrameMenus& menus, int right) {
 
 }  // namespace
 
+QList<int> userRights(Connection& store) {
+    Recordset rows = store.execute({"SELECT MenuID FROM tblUserDetails WHERE UserID = ? ORDER BY MenuID",
+                                    {trimRight(session().CurrentUserCode)}});
+    QList<int> rights;
+    for (; !rows.eof(); rows.moveNext()) rights << static_cast<int>(rows.integer("MenuID"));
+    return rights;
+}
+
 bool LoadUserMenus(FrameMenus& menus, Connection& store) {
-    const QString code = trimRight(session().CurrentUserCode);
     disableAll(menus);
-    const Recordset user =
-        store.execute({"SELECT EndofDay, POSSuper FROM tblUserMaster WHERE UserCode = ?", {code}});
-    Recordset rights =
-        store.execute({"SELECT MenuID FROM tblUserDetails WHERE UserID = ? ORDER BY MenuID", {code}});
-    for (; !rights.eof(); rights.moveNext()) grant(menus, static_cast<int>(rights.integer("MenuID")));
+    const Recordset user = store.execute({"SELECT EndofDay, POSSuper FROM tblUserMaster WHERE UserCode = ?",
+                                          {trimRight(session().CurrentUserCode)}});
+    for (const int right : userRights(store)) grant(menus, right);
     if (user.eof()) return false;
     menus.item(endOfDayItem)->setEnabled(user.flag("EndofDay"));
     menus.item(cashRegisterItem)->setEnabled(user.flag("POSSuper"));
