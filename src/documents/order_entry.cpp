@@ -288,8 +288,7 @@ void OrderEntry::changeLine() {
 void OrderEntry::removeLine() {
     const int row = ui.lvwItems->currentRow();
     if (row < 0 || lineDialogHolds()) return;
-    if (askYes(question("Confirm Delete", "Confirm Deletion of this Record.  Delete Record Now?",
-                        BoxAnswer::No))) {
+    if (askYes(confirmDeleteBox())) {
         ui.lvwItems->removeRow(row);
         mblnUpdated = true;
     }

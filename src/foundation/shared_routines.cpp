@@ -123,3 +123,7 @@ Box saveErrorBox(const StoreError& error, const QString& duplicateText) {
     if (error.number() == StoreError::refused) return exclamation("Duplicate!", duplicateText);
     return exclamation("Error...", error.text());
 }
+
+Box confirmDeleteBox() {
+    return question("Confirm Delete", "Confirm Deletion of this Record.  Delete Record Now?", BoxAnswer::No);
+}

@@ -72,3 +72,5 @@ QDate GetLastSalesDate(Connection& store);
 struct Box;
 Box saveErrorBox(const StoreError& error,
                  const QString& duplicateText = "Code already exist, please assign another...");
+// The question before a record, a unit or a line is deleted; Enter answers No.
+Box confirmDeleteBox();

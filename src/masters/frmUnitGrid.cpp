@@ -1,6 +1,7 @@
 #include "masters/frmUnitGrid.h"
 
 #include "foundation/session.h"
+#include "foundation/shared_routines.h"
 #include "masters/unit_master.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
@@ -108,9 +109,7 @@ void frmUnitGrid::SaveRecord() {
 void frmUnitGrid::DeleteRecord() {
     const QString unit = selectedUnit();
     if (unit.isEmpty()) return;
-    if (!askYes(question("Confirm Delete", "Confirm Deletion of this Record.  Delete Record Now?",
-                         BoxAnswer::No)))
-        return;
+    if (!askYes(confirmDeleteBox())) return;
     guarded([&] {
         DeleteUnit(StoreConnection(), unit);
         closeField();

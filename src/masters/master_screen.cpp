@@ -125,9 +125,7 @@ void MasterScreen::finishSave(const QString& key) {
 }
 
 void MasterScreen::DeleteRecord() {
-    if (!askYes(question("Confirm Delete", "Confirm Deletion of this Record.  Delete Record Now?",
-                         BoxAnswer::No)))
-        return;
+    if (!askYes(confirmDeleteBox())) return;
     guarded([this] {
         try {
             const Outcome outcome = remove(gridKey());
