@@ -12,7 +12,6 @@ inline constexpr int telNo = 50;
 inline constexpr int eMail = 100;
 inline constexpr int remarks = 500;
 inline constexpr int documentNo = 30;
-inline constexpr int checkNo = 30;
 inline constexpr int userCode = 30;
 inline constexpr int number = 25;  // amounts, prices, quantities, percentages, days
 inline constexpr int date = 10;

@@ -18,8 +18,6 @@ struct Hourglass {
     Q_DISABLE_COPY_MOVE(Hourglass)
 };
 
-Box errorBox(const QString& title, const StoreError& error) { return exclamation(title, error.text()); }
-
 bool hasCategory(const QList<SearchCategory>& categories, SearchCategory::Match match) {
     return std::any_of(categories.begin(), categories.end(),
                        [match](const SearchCategory& category) { return category.match == match; });
@@ -158,7 +156,7 @@ void MasterScreen::move(Step step, const Box& atTheEnd) {
             showBox(atTheEnd);
     } catch (const StoreError& error) {
         const bool lost = error.number() == StoreError::noCurrentRow && !descriptor_.notLoaded.isEmpty();
-        showBox(lost ? exclamation("Error!", descriptor_.notLoaded) : errorBox("Error...", error));
+        showBox(lost ? exclamation("Error!", descriptor_.notLoaded) : exclamation("Error...", error.text()));
     }
 }
 

@@ -59,7 +59,6 @@ class MasterScreen : public RecordScreen {
   protected:
     const MasterFields& fields() const { return *fields_; }
     MasterFields& fields() { return *fields_; }
-    QString currentKey() const { return currentKey_; }
 
     // The key of a new record, also written to the screen where it shows there; may be empty until the save.
     virtual QString drawKey(bool duplicate) = 0;
