@@ -4,11 +4,8 @@
 #include "platform/parsing.h"
 
 #include <QFile>
-#include <optional>
 
-namespace {
-// The first line of a setting file; none when there is no file or no line in it.
-std::optional<QString> firstLine(const char* name) {
+std::optional<QString> SettingLine(const char* name) {
     QFile file(programFolder().filePath(name));
     if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
     QByteArray line = file.readLine();
@@ -17,11 +14,10 @@ std::optional<QString> firstLine(const char* name) {
     return QString::fromUtf8(line);
 }
 
-QString readSetting(const char* name, QString& value) {
-    if (const auto line = firstLine(name)) value = trim(line->left(10));
+static QString readSetting(const char* name, QString& value) {
+    if (const auto line = SettingLine(name)) value = trim(line->left(10));
     return value;
 }
-}  // namespace
 
 QString ReadPrinterIni() { return readSetting("Printer.ini", session().ReportPrinterKind); }
 
@@ -32,6 +28,6 @@ QString ReadReceiptPrinterIni() { return readSetting("ReceiptPrinter.ini", sessi
 QString ReadReceiptIni() { return readSetting("Receipt.ini", session().ReceiptFormat); }
 
 void ReadCheckIni() {
-    const QString format = trim(firstLine("Check.ini").value_or(QString()).left(1000)).toUpper();
+    const QString format = trim(SettingLine("Check.ini").value_or(QString()).left(1000)).toUpper();
     session().CheckBookFormat = format.isEmpty() ? QString("P") : format;
 }

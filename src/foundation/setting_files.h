@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+#include <optional>
 
 // The one-line setting files beside the program. Each reader sets its session value and returns it; a missing
 // file leaves the value as it was. A blank or missing "Check.ini" reads as "P".
@@ -8,3 +9,6 @@ QString ReadCheckPrinterIni();
 QString ReadReceiptPrinterIni();
 QString ReadReceiptIni();
 void ReadCheckIni();
+
+// The first line of any such file; none when there is no file or no line in it.
+std::optional<QString> SettingLine(const char* name);

@@ -2,22 +2,17 @@
 
 #include "foundation/comes_later.h"
 #include "foundation/session.h"
-#include "platform/parsing.h"
+#include "foundation/setting_files.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/file_dialogs.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace {
 
 constexpr const char* supportFile = "Support.ini";
 
-QString supportAddress() {
-    QFile file(programFolder().filePath(supportFile));
-    if (!file.open(QIODevice::ReadOnly)) return {};
-    return QString::fromUtf8(file.readLine(1000)).trimmed();
-}
+QString supportAddress() { return SettingLine(supportFile).value_or(QString()).left(999).trimmed(); }
 
 void openOrTell(const QString& fileOrUrl, const QString& name) {
     if (!desk::openWithDesktop(fileOrUrl))
