@@ -2,11 +2,9 @@
 #include "platform/ui/modal_form.h"
 
 class QCheckBox;
-class QDateEdit;
 class QDateTimeEdit;
 class QGroupBox;
 class QLabel;
-class QTimeEdit;
 class QTimer;
 
 // The confirmation of the machine's clock, which is what document dates begin with.

@@ -1,5 +1,4 @@
 #pragma once
-#include "platform/store/connection.h"
 
 // What menu items do by themselves, without a screen.
 

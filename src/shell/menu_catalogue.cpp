@@ -1,7 +1,5 @@
 #include "shell/menu_catalogue.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr const char* separator = "-";
