@@ -9,19 +9,17 @@
 namespace {
 using Check = std::optional<Fault>;
 
-Check fault(const QString& text, const QString& focus) { return Fault{exclamation("Error!", text), focus}; }
-
 Check entryFault(const ContactEntry& entry) {
-    if (!isNumeric(entry.Terms)) return fault("Invalid Term Entered!", "txtTerm");
-    if (!isNumeric(entry.CreditLimit)) return fault("Invalid Credit Limit Amount!", "txtCreditLimit");
+    if (!isNumeric(entry.Terms)) return errorFault("Invalid Term Entered!", "txtTerm");
+    if (!isNumeric(entry.CreditLimit)) return errorFault("Invalid Credit Limit Amount!", "txtCreditLimit");
     const auto discount = parseNumber(entry.Discount);
-    if (!discount) return fault("Invalid Discount Percentage!", "txtDiscount");
+    if (!discount) return errorFault("Invalid Discount Percentage!", "txtDiscount");
     // A discount of exactly 100 is refused, too.
     if (*discount >= Currency::fromInteger(100))
         return Fault{Box{{}, "Discount Should Not Be Greater Than 100 Percent!", BoxIcon::None},
                      "txtDiscount"};
     if (!entry.IsCustomer && !entry.IsSupplier)
-        return fault("Please Select At Least One Contact Category!", "chkCustomer");
+        return errorFault("Please Select At Least One Contact Category!", "chkCustomer");
     return {};
 }
 
@@ -55,7 +53,7 @@ Outcome writeContact(Connection& store, const ContactEntry& entry, bool addMode,
     if (addMode) {
         contactId = NextContactID(store);
         if (RecordFound(store, "tblContactMaster", "ContactName", trim(entry.ContactName)))
-            return *fault("Contact Name Already Exist!", "txtName");
+            return errorFault("Contact Name Already Exist!", "txtName");
     }
     writeRow(store, entry, addMode, trim(contactId));
     save.commit();

@@ -10,13 +10,11 @@
 namespace {
 using Check = std::optional<Fault>;
 
-Check fault(const QString& text, const QString& focus) { return Fault{exclamation("Error!", text), focus}; }
-
 bool blank(const QString& text) { return trim(text).isEmpty(); }
 
 Check codesFault(const ItemEntry& entry) {
-    if (blank(entry.ItemCode)) return fault("Please Enter Item Code!", "txtItemCode");
-    if (blank(entry.SupplierName)) return fault("Please Enter Supplier Code!", "txtSupplierCode");
+    if (blank(entry.ItemCode)) return errorFault("Please Enter Item Code!", "txtItemCode");
+    if (blank(entry.SupplierName)) return errorFault("Please Enter Supplier Code!", "txtSupplierCode");
     return {};
 }
 
@@ -27,32 +25,33 @@ Check numbersFault(const ItemEntry& entry) {
         return Fault{information("Invalid Price!", "Please Enter Numeric Value for Prices!"),
                      cost ? "txtSellingPrice" : "txtCostPrice"};
     if (!isNumeric(entry.InventoryBalance))
-        return fault("Please Enter Numeric Value for Inventory Balance!", "txtInventoryBalance");
+        return errorFault("Please Enter Numeric Value for Inventory Balance!", "txtInventoryBalance");
     if (!isNumeric(entry.OrderLevel))
-        return fault("Please Enter Numeric Value for Re-Order Level!", "txtReorder");
-    if (blank(entry.Unit)) return fault("Please Enter Unit!", "txtUnit");
+        return errorFault("Please Enter Numeric Value for Re-Order Level!", "txtReorder");
+    if (blank(entry.Unit)) return errorFault("Please Enter Unit!", "txtUnit");
     return {};
 }
 
 // Cost <= wholesale <= selling.
 Check pricesFault(const ItemEntry& entry) {
     const Currency cost = *parseNumber(entry.CostPrice), selling = *parseNumber(entry.SellingPrice);
-    if (cost > selling) return fault("Cost Price is Greater Than Selling Price!", "txtCostPrice");
+    if (cost > selling) return errorFault("Cost Price is Greater Than Selling Price!", "txtCostPrice");
     const auto wholesale = parseNumber(entry.WholesalePrice);
     if (!wholesale)
         return Fault{exclamation("Error...", '"' + entry.WholesalePrice + "\" is not a number."),
                      "txtWholesale"};
-    if (cost > *wholesale) return fault("Cost Price is Greater Than Wholesale Price!", "txtCostPrice");
-    if (*wholesale > selling) return fault("Wholesale Price is Greater Than Selling Price!", "txtWholesale");
+    if (cost > *wholesale) return errorFault("Cost Price is Greater Than Wholesale Price!", "txtCostPrice");
+    if (*wholesale > selling)
+        return errorFault("Wholesale Price is Greater Than Selling Price!", "txtWholesale");
     return {};
 }
 
 Check duplicateFault(Connection& store, const ItemEntry& entry) {
     if (RecordFound(store, "tblItemMaster", "ItemCode", trim(entry.ItemCode)))
-        return fault("Duplicate Item Code! Please Assign Another Number!", "txtItemCode");
+        return errorFault("Duplicate Item Code! Please Assign Another Number!", "txtItemCode");
     if (RecordFound(store, "tblItemMaster", "Description", trim(entry.Description).toUpper()))
-        return fault("Item Description Already Exist! System Cannot Allow Same Item Description!",
-                     "txtDescription");
+        return errorFault("Item Description Already Exist! System Cannot Allow Same Item Description!",
+                          "txtDescription");
     return {};
 }
 
@@ -60,11 +59,11 @@ Check entryFault(Connection& store, const ItemEntry& entry) {
     if (const Check found = codesFault(entry)) return found;
     if (const Check found = numbersFault(entry)) return found;
     if (!RecordFound(store, "tblContactMaster", "ContactName", trim(entry.SupplierName)))
-        return fault("Supplier Does Not Exist!", "txtSupplierCode");
+        return errorFault("Supplier Does Not Exist!", "txtSupplierCode");
     if (const Check found = pricesFault(entry)) return found;
-    if (!isDate(entry.DateAquired)) return fault("Invalid Aquisition Date!", "txtDateAquired");
+    if (!isDate(entry.DateAquired)) return errorFault("Invalid Aquisition Date!", "txtDateAquired");
     if (!RecordFound(store, "tblUnitMaster", "UnitCode", trim(entry.Unit)))
-        return fault("Unit Code Does Not Exist!", "txtUnit");
+        return errorFault("Unit Code Does Not Exist!", "txtUnit");
     return {};
 }
 

@@ -24,11 +24,9 @@ std::optional<QString> neighbour(Connection& store, const MasterTable& master, c
     return keyOf(row, master);
 }
 
-Outcome refusal(const QString& text) { return Fault{exclamation("Error!", text), {}}; }
-
 Outcome deletionFailure(const StoreError& error, const char* refusedText) {
     if (error.number() == StoreError::noCurrentRow) throw error;
-    if (error.number() == StoreError::refused) return refusal(refusedText);
+    if (error.number() == StoreError::refused) return errorFault(refusedText);
     return Fault{exclamation("Error...", error.text()), {}};
 }
 
@@ -60,6 +58,8 @@ Sql valueCondition(const SearchCategory& category, const QString& value) {
 }
 }  // namespace
 
+Fault errorFault(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
+
 QString firstRecord(Connection& store, const MasterTable& master) {
     return keyOf(store.execute(about("SELECT <key> FROM <table> ORDER BY <key> ASC LIMIT 1", master)),
                  master);
@@ -86,7 +86,7 @@ Outcome deleteRecord(Connection& store, const MasterTable& master, const QList<D
     try {
         Transaction deletion(store);
         for (const DeleteGuard& guard : guards)
-            if (RecordFound(store, guard.table, guard.column, key)) return refusal(guard.message);
+            if (RecordFound(store, guard.table, guard.column, key)) return errorFault(guard.message);
         store.run({about("DELETE FROM <table> WHERE <key> = ?", master), {key}});
         deletion.commit();
         return Done{};

@@ -20,6 +20,9 @@ QString lastRecord(Connection& store, const MasterTable& master);
 std::optional<QString> nextRecord(Connection& store, const MasterTable& master, const QString& key);
 std::optional<QString> previousRecord(Connection& store, const MasterTable& master, const QString& key);
 
+// Refused with the box "Error!"; the focus goes to the control of this name, or stays.
+Fault errorFault(const QString& text, const QString& focus = {});
+
 // A table that may refer to the record, and what is said when it does.
 struct DeleteGuard {
     const char* table;
