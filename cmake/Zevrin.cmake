@@ -13,11 +13,11 @@ option(ZEVRIN_SANITIZE "Build with the address and undefined behaviour sanitizer
 
 find_program(CCACHE ccache)
 if(CCACHE)
-    # The sloppiness lets compilations with a precompiled header be found again; base_dir shares them
-    # between check-outs.
+    # The sloppiness lets compilations with a precompiled header be found again, base_dir shares them
+    # between check-outs, the inode cache reads the large header once and not for every file.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE})
+        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 CCACHE_INODECACHE=1 ${CCACHE})
 endif()
 
 add_library(zevrin_options INTERFACE)

@@ -3,6 +3,7 @@
 #include "platform/parsing.h"
 
 #include <QRegularExpression>
+#include <QRegularExpressionMatch>
 
 namespace {
 

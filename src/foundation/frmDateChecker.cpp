@@ -5,8 +5,10 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 
+#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QDateEdit>
+#include <QSizePolicy>
 #include <QTimeEdit>
 #include <QTimer>
 #include <QVBoxLayout>

@@ -1,6 +1,7 @@
 #include "platform/parsing.h"
 
 #include <QRegularExpression>
+#include <QRegularExpressionMatch>
 #include <limits>
 
 namespace {

@@ -2,6 +2,7 @@
 #include "shell/menu_catalogue.h"
 
 #include <QHash>
+#include <QMultiHash>
 #include <QObject>
 
 class QAction;

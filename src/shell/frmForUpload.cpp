@@ -8,6 +8,7 @@
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/list_view.h"
 
+#include <QEventLoop>
 #include <QLabel>
 #include <QProgressBar>
 

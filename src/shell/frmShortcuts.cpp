@@ -8,6 +8,7 @@
 
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QListWidgetItem>
 #include <QVBoxLayout>
 
 namespace {

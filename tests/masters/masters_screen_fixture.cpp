@@ -23,9 +23,7 @@ void ScreenTest::open(const QString& name) {
     person::look(screen);
 }
 
-ChildScreen* ScreenTest::popup(const QString& name) {
-    return ScreenRegistry::instance().opened(name);
-}
+ChildScreen* ScreenTest::popup(const QString& name) { return ScreenRegistry::instance().opened(name); }
 
 void ScreenTest::command(const char* name) {
     ASSERT_TRUE(QMetaObject::invokeMethod(screen, name)) << name;

@@ -10,9 +10,11 @@
 #include "support/test_store.h"
 
 #include <qabstractitemmodeltester.h>
+#include <QAbstractItemModelTester>
 #include <QAccessible>
 #include <QSet>
 #include <QSignalSpy>
+#include <QStyleOptionViewItem>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

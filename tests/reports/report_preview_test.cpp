@@ -12,7 +12,9 @@
 #include "support/screen_driver.h"
 #include "support/screen_tour.h"
 
+#include <QClipboard>
 #include <QPrinter>
+#include <QScrollBar>
 
 namespace {
 // As many numbered lines as asked for.

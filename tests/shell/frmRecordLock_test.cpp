@@ -7,6 +7,7 @@
 #include "support/test_store.h"
 
 #include <QGroupBox>
+#include <QPair>
 #include <QPushButton>
 
 namespace {

@@ -2,6 +2,7 @@
 
 #include "foundation/schema.h"
 
+#include <QMap>
 #include <QSet>
 
 #include <gtest/gtest.h>

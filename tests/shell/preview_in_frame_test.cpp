@@ -6,6 +6,8 @@
 #include "reports/sales_by_town.h"
 #include "support/screen_driver.h"
 
+#include <QClipboard>
+
 namespace {
 ReportPreview* openPreview() {
     const ReportLayout layout{

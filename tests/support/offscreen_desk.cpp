@@ -1,6 +1,7 @@
 #include "support/offscreen_desk.h"
 
 #include <QFile>
+#include <QMessageLogContext>
 #include <QTemporaryDir>
 #include <cstdio>
 

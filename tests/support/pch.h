@@ -1,14 +1,8 @@
 #pragma once
-#include <QtCore/QtCore>
-#include <QtGui/QtGui>
-#include <QtSql/QtSql>
-#include <QtTest/QtTest>
-#include <QtWidgets/QtWidgets>
-#include <algorithm>
-#include <functional>
-#include <memory>
-#include <optional>
-#include <vector>
+#include "pch/pch.h"
+
+#include <QSignalSpy>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

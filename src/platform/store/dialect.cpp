@@ -1,5 +1,7 @@
 #include "platform/store/dialect.h"
 
+#include <QStringView>
+
 namespace {
 struct Token {
     enum Kind { Word, Name, Literal, Space, Sign };  // Name: a quoted column or table

@@ -4,8 +4,10 @@
 #include "platform/store/dialect.h"
 
 #include <QFileInfo>
+#include <QSqlDatabase>
 #include <QSqlDriver>
 #include <QSqlError>
+#include <QSqlQuery>
 #include <QSqlRecord>
 #include <QSqlResult>
 #include <QThread>

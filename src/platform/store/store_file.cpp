@@ -4,6 +4,7 @@
 #include "platform/store/schema_steps.h"
 #include "platform/store/transaction.h"
 
+#include <QCryptographicHash>
 #include <QFileInfo>
 #include <QPasswordDigestor>
 #include <QRandomGenerator>

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QMdiSubWindow>
 #include <QScreen>
+#include <QShowEvent>
 #include <QToolButton>
 
 ChildScreen::ChildScreen(const QString& name, const QString& caption, Placement placement, Kind kind)

@@ -1,5 +1,6 @@
 #pragma once
 #include <QPointer>
+#include <QShowEvent>
 #include <QWidget>
 
 // What a screen is opened with.

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QProgressBar>
 #include <QScreen>
 #include <QVBoxLayout>

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QStyleOptionViewItem>
 #include <QStyledItemDelegate>
 
 namespace {

@@ -1,5 +1,7 @@
 #include "platform/ui/program_style.h"
 
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QStyleOptionButton>
 
 ProgramStyle::ProgramStyle() : QProxyStyle("Fusion") {}

@@ -1,5 +1,6 @@
 #pragma once
 #include <QProxyStyle>
+#include <QStyleOption>
 
 // The look of the program: the same on every desktop, and readable on a dark palette, too.
 class ProgramStyle : public QProxyStyle {

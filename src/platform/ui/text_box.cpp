@@ -5,9 +5,11 @@
 #include "platform/ui/enter_key.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QToolTip>
 #include <QValidator>

@@ -2,7 +2,9 @@
 #include "platform/ui/front_watch.h"
 #include "platform/ui/key_filters.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 
 // A text box: selects its whole text on focus, takes the keys of its filter (beeps at others), and says when
 // it is full: a key is refused with a beep and a line beside the box, a paste that would not fit whole with a

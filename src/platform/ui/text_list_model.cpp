@@ -3,6 +3,8 @@
 #include "platform/parsing.h"
 #include "platform/ui/shown_text.h"
 
+#include <QModelIndexList>
+
 #include <numeric>
 
 TextListModel::TextListModel(const QList<ListColumn>& columns, QObject* parent)

@@ -13,6 +13,7 @@
 #include "reports/frame/export_file.h"
 #include "reports/frame/print_choice.h"
 
+#include <QBoxLayout>
 #include <QRadioButton>
 
 namespace {

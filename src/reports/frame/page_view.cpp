@@ -1,6 +1,7 @@
 #include "reports/frame/page_view.h"
 
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QWheelEvent>

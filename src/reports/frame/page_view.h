@@ -3,6 +3,7 @@
 
 #include <QAbstractScrollArea>
 #include <QCache>
+#include <QPaintEvent>
 #include <QPixmap>
 
 // The pages of a report on the screen, one under the other or one at a time. Paints what can be seen, and

@@ -2,6 +2,8 @@
 
 #include <QFontMetrics>
 #include <QTextLayout>
+#include <QTextLine>
+#include <QTextOption>
 
 const char* familyOf(Typeface face) {
     switch (face) {

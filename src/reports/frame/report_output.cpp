@@ -6,6 +6,7 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPen>
 
 namespace {
 using reportOutput::Rendering;

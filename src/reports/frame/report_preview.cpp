@@ -10,15 +10,19 @@
 #include "reports/frame/page_view.h"
 #include "reports/frame/report_printer.h"
 
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
+#include <QItemSelectionModel>
+#include <QKeyCombination>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QSpinBox>
 #include <QToolBar>
 #include <QVBoxLayout>

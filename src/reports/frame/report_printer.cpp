@@ -6,6 +6,8 @@
 #include "platform/ui/front_watch.h"
 #include "reports/frame/page_progress.h"
 
+#include <QAbstractPrintDialog>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>

@@ -3,6 +3,8 @@
 #include "platform/masks.h"
 #include "reports/frame/report_fonts.h"
 
+#include <QStringView>
+
 #include <algorithm>
 #include <cstring>
 #include <stdexcept>
