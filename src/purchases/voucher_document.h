@@ -1,0 +1,49 @@
+#pragma once
+#include "documents/order_document.h"
+#include "purchases/issued_check.h"
+#include "purchases/voucher_payment.h"
+
+// A payment voucher without its window: what was typed, and how it is loaded, checked, saved and deleted. It
+// is the one writer of the checks that the firm issues.
+//
+//     VoucherDocument voucher = newVoucher(store);
+//     voucher.contactName = "Cebu Traders";
+//     voucher.payments = {makePayment(PaymentKind::Payable, "11-1001-2026", date, amount, "")};
+//     voucher.checks = {makeCheck("000123", date, amount, "Cebu Traders")};
+//     const Outcome outcome = saveVoucher(store, voucher);
+struct VoucherDocument {
+    bool addMode = true;
+    QString code;    // the voucher's number, of an old one its key
+    QString serial;  // of a new one: becomes the counter when it is saved
+    QString date;    // as typed
+    QString contactName;
+    QString remarks;
+    bool cash = false;  // paid in cash: the checks do not count
+    QList<PaymentLine> payments;
+    QList<CheckLine> checks;
+};
+
+// An empty voucher of today with the number that comes next. The number is peeked, not taken.
+VoucherDocument newVoucher(Connection& store);
+
+// A stored voucher, as its screen shows it. Throws StoreError: noCurrentRow when it is not there.
+struct LoadedVoucher {
+    VoucherDocument document;
+    ContactFigures contact;
+    QString updatedBy;
+    QString lastUpdate;
+};
+LoadedVoucher loadVoucher(Connection& store, const QString& key);
+
+// The checks before a save, in their order; a fault leaves all as it is.
+std::optional<Fault> checkVoucher(Connection& store, const VoucherDocument& voucher);
+
+// Checks the voucher and saves it, whole or not at all: the master row, the counter of a new one, the
+// payments with the balances of the orders they pay, and the checks. All checks are written anew, pending
+// and with new keys, whatever became of them before; an order that an edited voucher no longer pays keeps
+// its balance until the next recompute. Done or a Fault, never a Question.
+Outcome saveVoucher(Connection& store, const VoucherDocument& voucher);
+
+// Deletes a voucher with its checks and its payments and recomputes what the firm owes, as one unit. Throws
+// StoreError; nothing is deleted then.
+void deleteVoucher(Connection& store, const QString& key, Progress& progress = Progress::none());
