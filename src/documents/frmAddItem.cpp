@@ -1,12 +1,13 @@
 #include "documents/frmAddItem.h"
 
-#include "documents/ask.h"
 #include "foundation/session.h"
 #include "masters/field_widths.h"
 #include "masters/frmFound.h"
 #include "masters/unit_field.h"
+#include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/form.h"
+#include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
 #include <QKeyEvent>

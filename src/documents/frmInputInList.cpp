@@ -1,8 +1,9 @@
 #include "documents/frmInputInList.h"
 
-#include "documents/ask.h"
 #include "foundation/session.h"
+#include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
+#include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
 #include <QLabel>

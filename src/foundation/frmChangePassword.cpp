@@ -5,6 +5,7 @@
 #include "foundation/shared_routines.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
+#include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
 #include <QVBoxLayout>
@@ -54,9 +55,8 @@ void frmChangePassword::cmdOK_Click() {
         const Outcome outcome = changePassword(
             StoreConnection(),
             {mstrUserCode, txtOldPassword->text(), txtNewPassword->text(), txtConfirmPassword->text()});
-        if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
-        close();
-        showBoxes(std::get<Done>(outcome).boxes);
+        if (isDone(outcome)) close();
+        settled(outcome, this);
     } catch (const StoreError& error) {
         showBox(saveErrorBox(error));
     }

@@ -6,6 +6,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 #include "platform/ui/list_view.h"
+#include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
 namespace {
@@ -100,7 +101,7 @@ void frmUnitGrid::EditRecord() {
 void frmUnitGrid::SaveRecord() {
     guarded([this] {
         const Outcome outcome = SaveUnit(StoreConnection(), txtUnit->text(), mblnAddmode, currentUnit_);
-        if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
+        if (!settled(outcome, this)) return;
         LoadGrid();
         closeField();
     });

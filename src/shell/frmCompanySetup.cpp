@@ -5,6 +5,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/form.h"
+#include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
 #include <QImageReader>
@@ -111,13 +112,8 @@ void frmCompanySetup::showLogo() {
 bool frmCompanySetup::SaveRecord() {
     try {
         const Outcome outcome = saveCompany(StoreConnection(), typed());
-        if (const auto* fault = std::get_if<Fault>(&outcome)) {
-            showFault(*fault, this);
-            return false;
-        }
-        mblnUpdated = false;
-        showBoxes(std::get<Done>(outcome).boxes);
-        return true;
+        if (isDone(outcome)) mblnUpdated = false;
+        return settled(outcome, this);
     } catch (const StoreError& error) {
         showBox(saveErrorBox(error));
         return false;

@@ -5,6 +5,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/form.h"
+#include "platform/ui/settled.h"
 
 #include <QVBoxLayout>
 
@@ -79,18 +80,11 @@ void frmRecordLock::readStatus() {
 void frmRecordLock::change(LockChange change) {
     guarded(
         [&] {
-            const auto request = [&](bool confirmed) {
+            const Outcome outcome = askUntilSettled([&](const Answers& answers) {
                 return changeLock(StoreConnection(), change, cboJournal->text(), cboSelection->text(),
-                                  confirmed);
-            };
-            Outcome outcome = request(false);
-            if (const auto* ask = std::get_if<Question>(&outcome)) {
-                if (!askYes(ask->box)) return;
-                outcome = request(true);
-            }
-            if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
-            showBoxes(std::get<Done>(outcome).boxes);
-            reset();
+                                  answers);
+            });
+            if (settled(outcome, this)) reset();
         },
         "Error");
 }

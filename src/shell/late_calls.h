@@ -1,4 +1,5 @@
 #pragma once
+#include <QString>
 #include <functional>
 
 class QObject;
@@ -7,6 +8,6 @@ class QObject;
 // passed over.
 void callCommand(QObject* child, const char* routine);
 
-// Runs what a menu item does: errors are passed over, and none reaches the event loop. One thing is told:
-// that another workstation kept the store busy.
-void passOverErrors(const std::function<void()>& action);
+// Runs what a menu item does: errors are passed over, and none reaches the event loop. They are logged with
+// what was done, and one has a box: that another workstation kept the store busy.
+void passOverErrors(const QString& what, const std::function<void()>& action);

@@ -34,7 +34,7 @@ DocumentLock documentLock(Connection& store, const LockJournal& journal, const Q
 Box missingDocument(const LockJournal& journal) { return exclamation("Error!", journal.missing); }
 
 Outcome changeLock(Connection& store, LockChange change, const QString& journalName, const QString& number,
-                   bool confirmed) {
+                   const Answers& answers) {
     const bool locks = change == LockChange::Lock;
     if (number.isEmpty())
         return Fault{exclamation("No Record!", locks ? "Please Select a Record to Lock!"
@@ -45,11 +45,12 @@ Outcome changeLock(Connection& store, LockChange change, const QString& journalN
         return Fault{exclamation("Error!", "Please Select Transaction Journal First!"), "cboJournal"};
     if (documentLock(store, *journal, number) == DocumentLock::Missing)
         return Fault{missingDocument(*journal), "cboSelection"};
-    if (!confirmed)
+    if (!answers.contains("lock"))
         return Question{"lock",
                         question("Are you Sure?", journal->question + number +
                                                       "! Please Make Sure That There is No One Editing "
                                                       "or Printing Record at the Moment!")};
+    if (answers.value("lock") != BoxAnswer::Yes) return Fault{};
     setRecordLock(store, journal->book, trimRight(number), locks);
     return Done{{locks ? information("Locked!", "Record Successfully Locked!")
                        : information("Released!", "Record Successfully Released!")}};

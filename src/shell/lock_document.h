@@ -22,4 +22,4 @@ Box missingDocument(const LockJournal& journal);
 enum class LockChange { Lock, Release };
 // A Question first, whose words are the same for both; then, confirmed, Done. Throws StoreError.
 Outcome changeLock(Connection& store, LockChange change, const QString& journalName, const QString& number,
-                   bool confirmed);
+                   const Answers& answers);

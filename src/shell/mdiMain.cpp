@@ -118,10 +118,10 @@ bool mdiMain::load() {
 }
 
 void mdiMain::greet() {
-    passOverErrors([] {
+    passOverErrors("greeting", [] {
         if (GetCompanyName(StoreConnection()) == deliveredCompanyName) openIfKnown("frmCompanySetup");
     });
-    const auto showReorder = [] { passOverErrors([] { openIfKnown("frmReorder"); }); };
+    const auto showReorder = [] { passOverErrors("frmReorder", [] { openIfKnown("frmReorder"); }); };
     showReorder();
     connect(new FrameActivation(this), &FrameActivation::cameBack, this, showReorder);
     startTimers();
@@ -172,7 +172,7 @@ void mdiMain::readActiveChild() {
 }
 
 void mdiMain::run(const MenuAction& action, const QString& caption) {
-    passOverErrors([&] { std::visit([&](const auto& chosen) { run(chosen, caption); }, action); });
+    passOverErrors(caption, [&] { std::visit([&](const auto& chosen) { run(chosen, caption); }, action); });
 }
 
 void mdiMain::run(const OpenScreen& action, const QString& caption) {
@@ -238,7 +238,7 @@ void mdiMain::runShortcut(const QString& key, const QString& caption) {
     if (key == "Switch") return logOff();
     if (key == "Exit") return exitProgram();
     if (key == "frmHelp") return openProgramFile("Zevrin.hlp");
-    passOverErrors([&] { openChosenScreen(key, {}, caption); });
+    passOverErrors(key, [&] { openChosenScreen(key, {}, caption); });
 }
 
 // In the order they were opened; stops at the first that stays.
@@ -250,7 +250,7 @@ bool mdiMain::closeAll() {
 
 void mdiMain::closeEvent(QCloseEvent* event) {
     event->setAccepted(closeAll());
-    if (event->isAccepted()) passOverErrors(&remindOfEndOfDay);
+    if (event->isAccepted()) passOverErrors("closing reminder", &remindOfEndOfDay);
 }
 
 void mdiMain::logOff() {

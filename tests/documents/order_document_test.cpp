@@ -76,7 +76,7 @@ class Order : public OrderBooks, public ::testing::WithParamInterface<Side> {
 INSTANTIATE_TEST_SUITE_P(Sides, Order, ::testing::ValuesIn(sides),
                          [](const auto& side) { return std::string(side.param.name); });
 
-TEST_P(Order, IsCheckedInTheToldOrder) {
+TEST_P(Order, IsCheckedInItsOrder) {
     saved(book(), {line("I1", "1", "1", "10")});
     OrderDocument document;
     document.code = " ";

@@ -76,7 +76,7 @@ class Line : public OrderBooks {
     QStringList entered;
 };
 
-TEST_F(Line, IsCheckedInTheToldOrder) {
+TEST_F(Line, IsCheckedInItsOrder) {
     // Each row mends the fault of the row before, so each text shows that its check comes first.
     LineEntry entry;
     entry.discount = "100";
@@ -241,7 +241,7 @@ class ServedQuantity : public Line {
     OrderLine row = line("I1", "5", "1", "15", "10");
 };
 
-TEST_F(ServedQuantity, IsCheckedInTheToldOrder) {
+TEST_F(ServedQuantity, IsCheckedInItsOrder) {
     EXPECT_EQ(said(change(salesOrders, "x")), "Error!: Please Enter Numeric Price Value!");
     row.netPrice = row.ordered = "";
     EXPECT_EQ(said(change(salesOrders, "10.5")),

@@ -79,7 +79,7 @@ TEST_F(UiGrid, ScrollingFetchesWhatComesIntoView) {
     grid.setFocus();
     person::press(Qt::Key_End);
     EXPECT_EQ(grid.currentText("Description"), "Kind 6");
-    EXPECT_EQ(column(grid, 0).last(), grid.currentText("ItemCode"));
+    EXPECT_EQ(column(grid, 0).value(grid.model()->rowCount() - 1), grid.currentText("ItemCode"));
     EXPECT_EQ(column(grid, 0)[150], "") << "a page that nobody came to is fetched";
     person::settle();
     EXPECT_NE(column(grid, 0)[150], "") << "a page that was asked for is not fetched";

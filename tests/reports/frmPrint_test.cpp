@@ -101,11 +101,12 @@ class Hub : public SessionTest {
     }
     // A printer that puts each job into a file of its own, and a dialog that chooses this file.
     void answerDesk(bool hasPrinter, const QString& file) {
-        const auto printer = [this, hasPrinter] {
+        const auto printer = [this, hasPrinter, file] {
             auto made = hasPrinter ? std::make_unique<QPrinter>(QPrinter::HighResolution) : nullptr;
             if (!made) return made;
             made->setOutputFormat(QPrinter::PdfFormat);
-            made->setOutputFileName(folder_.filePath(QString("job%1.pdf").arg(++jobs)));
+            const QString place = file.endsWith('/') ? file : QString();
+            made->setOutputFileName(folder_.filePath(QString("%1job%2.pdf").arg(place).arg(++jobs)));
             return made;
         };
         desk::setDoors({.saveFile = [file](const QString&) { return file; }, .printer = printer});
@@ -225,6 +226,7 @@ TEST_F(Hub, EveryOutputTagsAsItShould) {
         {"optPreview", "", true, true, {{question, BoxAnswer::No}}, "- RecordLock"},
         {"optPrinter", "", true, false, {}, "Printed RecordLock"},
         {"optPrinter", "", false, false, {{exclamation("No Printer!", ""), BoxAnswer::Ok}}, "Printed -"},
+        {"optPrinter", "none/", true, false, {{exclamation("Not Printed!", ""), BoxAnswer::Ok}}, "Printed -"},
         {"optRTF",
          rtf,
          true,

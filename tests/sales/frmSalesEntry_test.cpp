@@ -169,8 +169,10 @@ TEST_F(SalesEntry, RemovesALineAfterItsQuestion) {
     boxes.expect(asked);  // Enter is No
     press(Qt::Key_Delete);
     EXPECT_EQ(read(screen, "txtCount"), "1");
+    screen->mblnUpdated = false;
     boxes.expect(asked, BoxAnswer::Yes);
     press(Qt::Key_Delete);
+    EXPECT_TRUE(screen->mblnUpdated);
     EXPECT_EQ(read(screen, "txtCount"), "0");
     EXPECT_EQ(read(screen, "txtAmount"), "0.00");
     EXPECT_TRUE(wholesale->isEnabled());

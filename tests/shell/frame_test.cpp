@@ -90,6 +90,16 @@ TEST_F(FrameTest, AUserReachesWhatTheirRowsGrantAndNothingElse) {
     EXPECT_EQ(panel(frame, "UserName")->text(), "Current User : clerk - Administrator");
 }
 
+TEST_F(FrameTest, EndOfDayAndCashRegisterFollowTheirOwnFlags) {
+    for (const QString flag : {"EndofDay", "POSSuper"}) {
+        delete frame.data();
+        addUser(store(), flag, "abc", {}, {flag});
+        logIn(flag);
+        EXPECT_EQ(item("mnuFileItem_0")->isEnabled(), flag == "EndofDay");
+        EXPECT_EQ(item("mnuMaintenanceItem_6")->isEnabled(), flag == "POSSuper");
+    }
+}
+
 TEST_F(EmptyFrame, TheAdministratorGetsTheRecordLockInPlaceOfTheHiddenItem) {
     EXPECT_EQ(item("mnuAdminItem_2")->text(), "&Transaction Record Lock...");
     EXPECT_TRUE(item("mnuAdminItem_2")->isVisible());

@@ -1,5 +1,6 @@
 #include "platform/ui/guarded_application.h"
 #include "support/box_script.h"
+#include "support/modal_watch.h"
 #include "support/offscreen_desk.h"
 
 #include <QLocale>
@@ -29,6 +30,7 @@ int main(int argc, char** argv) {
     const GuardedApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale::c());
+    const ModalWatch watch;
     failOnUnexpectedBoxes();
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

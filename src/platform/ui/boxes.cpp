@@ -1,6 +1,7 @@
 #include "platform/ui/boxes.h"
 
 #include "platform/ui/front_watch.h"
+#include "platform/ui/named_control.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -130,8 +131,7 @@ void showFault(const Fault& fault, QWidget* screen) {
     const QPointer<QWidget> stillOpen = screen;
     if (isTold) showBox(fault.box);
     if (!stillOpen || fault.focus.isEmpty()) return;
-    auto* control = screen->findChild<QWidget*>(fault.focus);
-    if (!control) return;
+    auto* control = namedControl<QWidget>(screen, fault.focus);
     turnToPageOf(control);
     control->setFocus(Qt::OtherFocusReason);
     // What a person has just answered No to is not marked to be typed over.

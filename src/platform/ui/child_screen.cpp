@@ -90,7 +90,7 @@ void ChildScreen::openFrom(ChildScreen* opener, QWidget* frame) {
     activateWindow();
 }
 
-// The told margins of a picker within the frame, from 1/1440 inch.
+// The margins of a picker within the frame, from 1/1440 inch.
 static QSize roomWithin(const QWidget* frame) {
     return frame->size() - QSize(200 * frame->logicalDpiX() / 1440, 1600 * frame->logicalDpiY() / 1440);
 }

@@ -35,7 +35,7 @@ struct ReportPreview::Command {
     const char* name;
     const char* icon;
     const char* text;
-    const char* keys;  // the first is told, the others are the same on other keyboards
+    const char* keys;  // the first stands in the tool tip, the others are the same on other keyboards
     void (ReportPreview::*run)();
     bool needsAllPages = false;
 };
