@@ -1,25 +1,21 @@
 #pragma once
-#include "documents/order_book.h"
-#include "platform/outcome.h"
+#include "masters/master_records.h"
 #include "platform/progress.h"
-#include "platform/store/connection.h"
 
-#include <QString>
-
-// What the deletion of a document of one book minds, beside the order itself.
+// What the deletion of a document of one book takes along and minds.
 struct DeletionRules {
-    const OrderBook& orders;
-    // A row of the payments with the document's number forbids its deletion.
-    const char* paymentTable;
-    const char* paymentColumn;
-    const char* paidMessage;
-    void (*recomputeMoney)(Connection& store, Progress& progress);
+    // A table, and its column that holds the document's number.
+    struct Rows {
+        const char* table;
+        const char* column;
+    };
+    const char* queuedAs;              // its letter in the posting queue and the valuation; null: in neither
+    std::optional<DeleteGuard> guard;  // a row there, whatever its amount, forbids the deletion
+    QList<Rows> rows;                  // what goes, in this order
+    QList<void (*)(Connection& store, Progress& progress)> recomputes;  // the balances that follow
 };
 
-// Deletes a document, its lines, its valuation rows and its place in the posting queue, as one unit. A paid
-// document, whatever the amount, is a Fault. The items stay queued. Throws StoreError; nothing is deleted
-// then.
-Outcome deleteDocument(Connection& store, const DeletionRules& rules, const QString& key);
-
-// The balances after a deletion: of the book's documents, then of the inventory.
-void recomputeAfterDeletion(Connection& store, const DeletionRules& rules, Progress& progress);
+// Deletes a document and what belongs to it, and brings the balances to what is left, as one unit: all of it
+// or nothing. A guarded document is a Fault. Its items stay in the posting queue. Throws StoreError.
+Outcome deleteDocument(Connection& store, const DeletionRules& rules, const QVariant& key,
+                       Progress& progress = Progress::none());

@@ -1,5 +1,6 @@
 #include "documents/journal.h"
 
+#include "foundation/comes_later.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "platform/parsing.h"
@@ -25,10 +26,6 @@ Box locked() {
     return critical("Record Lock!",
                     "Record is Being Locked! You Cannot Edit This Record! Please Ask Administrator to Unlock "
                     "Record!");
-}
-
-Box nothingToEdit() {
-    return exclamation("Error!", "Please select proper record to EDIT! There's nothing to EDIT!");
 }
 
 Box nothingToDelete() {
@@ -133,7 +130,7 @@ QLayout* Journal::commandRow() {
         return button;
     };
     cmdNew = add("cmdNew", "&New", "new");
-    cmdEdit = add("cmdEdit", "&Edit", "edit");
+    cmdRow = add(book_.rowCommand.name, book_.rowCommand.caption, book_.rowCommand.icon);
     cmdDelete = add("cmdDelete", "&Delete", "delete");
     cmdPrint = add("cmdPrint", "&Print", "print");
     cmdRefresh = add("cmdRefresh", "&Refresh", "refresh");
@@ -152,7 +149,7 @@ void Journal::connectControls() {
     connect(dbgMyGrid, &DataGrid::headerClicked, this, &Journal::sortByHeader);
     connect(dbgMyGrid, &DataGrid::picked, this, &Journal::EditRecord);
     connect(cmdNew, &QPushButton::clicked, this, &Journal::NewRecord);
-    connect(cmdEdit, &QPushButton::clicked, this, &Journal::EditRecord);
+    connect(cmdRow, &QPushButton::clicked, this, &Journal::EditRecord);
     connect(cmdDelete, &QPushButton::clicked, this, &Journal::DeleteRecord);
     connect(cmdPrint, &QPushButton::clicked, this, &Journal::PrintRecord);
     connect(cmdRefresh, &QPushButton::clicked, this, &Journal::RefreshRecord);
@@ -187,11 +184,10 @@ void Journal::refreshGrid() {
 bool Journal::searching() const { return !trim(txtSearch->text()).isEmpty(); }
 
 void Journal::searchJournal() {
-    if (const auto fault = query_.search(cboSearch->text(), txtSearch->text(), optExact->isChecked())) {
-        showBox(*fault);
-        return;
-    }
-    refreshGrid();
+    if (const auto fault = query_.search(cboSearch->text(), txtSearch->text(), optExact->isChecked()))
+        showFault(*fault, this);
+    else
+        refreshGrid();
 }
 
 void Journal::searchOrRefresh() {
@@ -217,23 +213,40 @@ void Journal::sortByHeader(int column) {
     searchOrRefresh();
 }
 
+// The entry screen, or null when this version has none.
+ChildScreen* Journal::openEntry(const ScreenArguments& arguments) {
+    ScreenRegistry& screens = ScreenRegistry::instance();
+    if (screens.knows(book_.entryScreen)) return screens.open(book_.entryScreen, arguments);
+    showBox(notInThisVersion(book_.entryScreen));
+    return nullptr;
+}
+
 void Journal::NewRecord() {
-    guarded([this] { ScreenRegistry::instance().open(book_.entryScreen); });
+    guarded([this] { openEntry({}); });
 }
 
 void Journal::EditRecord() {
-    guarded([this] { edit(); });
+    guarded([this] { book_.rowCommand.popup ? showPopup() : edit(); });
+}
+
+void Journal::showNothing() { showBox(exclamation("Error!", book_.rowCommand.nothing)); }
+
+// The grid has the focus when the popup goes.
+void Journal::showPopup() {
+    if (!dbgMyGrid->hasCurrent()) return showNothing();
+    dbgMyGrid->setFocus();
+    ScreenRegistry::instance().show(book_.rowCommand.popup(*dbgMyGrid));
 }
 
 void Journal::edit() {
-    const QString key = dbgMyGrid->currentText(book_.lock.key);
+    const QString key = currentNumber();
     if (ChildScreen* entry = entryShowing(key)) return ScreenRegistry::instance().show(entry);
-    switch (key.isEmpty() ? LockResult::Gone : takeRecordLock(StoreConnection(), book_.lock, key)) {
+    switch (key.isEmpty() ? LockResult::Gone : takeRecordLock(StoreConnection(), book_.master, key)) {
         case LockResult::Locked:
             showBox(locked());
             break;
         case LockResult::Gone:
-            showBox(nothingToEdit());
+            showNothing();
             break;
         case LockResult::Taken:
             editLocked(key);
@@ -244,8 +257,8 @@ void Journal::edit() {
 // The entry screen holds the lock from here on; where it stays with another document, nobody does.
 void Journal::editLocked(const QString& key) {
     ChildScreen* entry = nullptr;
-    guarded([&] { entry = ScreenRegistry::instance().open(book_.entryScreen, {{}, key, {}}); });
-    if (!entry) setRecordLock(StoreConnection(), book_.lock, key, false);
+    guarded([&] { entry = openEntry({{}, key, {}}); });
+    if (!entry) setRecordLock(StoreConnection(), book_.master, key, false);
 }
 
 // The document that is open for editing in this very program is locked by it, not against it.
@@ -257,7 +270,7 @@ ChildScreen* Journal::entryShowing(const QString& key) const {
 }
 
 void Journal::DeleteRecord() {
-    if (!canDelete_) {
+    if (!canDelete_ && book_.saysNoDeleteRight) {
         showBox(accessDenied("Delete"));
         return;
     }
@@ -272,23 +285,23 @@ void Journal::DeleteRecord() {
     });
 }
 
+QString Journal::currentNumber() const { return dbgMyGrid->currentText(book_.master.key); }
+
 void Journal::deleteCurrent() {
     if (!dbgMyGrid->hasCurrent()) throw StoreError(StoreError::noCurrentRow, "No current record.");
-    const Outcome outcome =
-        deleteDocument(StoreConnection(), book_.deletion, dbgMyGrid->currentText(book_.lock.key));
+    QVariant key = currentNumber();
+    if (book_.keyKind == JournalBook::NumberKey) key = key.toLongLong();
+    frmStatus status;
+    const Outcome outcome = deleteDocument(StoreConnection(), book_.deletion, key, status);
     if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
-    guarded([this] {
-        frmStatus status;
-        recomputeAfterDeletion(StoreConnection(), book_.deletion, status);
-    });
     refreshGrid();
 }
 
 void Journal::PrintRecord() {
     if (!canPrint_)
         showBox(accessDenied("Print"));
-    else if (!dbgMyGrid->hasCurrent())
-        showBox(exclamation("Nothing to Print!", "No Records to Print..."));
+    else if (!dbgMyGrid->hasCurrent() || !book_.print)
+        showBox(book_.nothingToPrint);
     else
-        guarded([this] { book_.print(dbgMyGrid->currentText(book_.lock.key)); });
+        guarded([this] { book_.print(currentNumber()); });
 }

@@ -48,6 +48,10 @@ class Journal : public ChildScreen {
     void sortByHeader(int column);
     void fitKeyFilter();
 
+    ChildScreen* openEntry(const ScreenArguments& arguments);
+    QString currentNumber() const;
+    void showNothing();
+    void showPopup();
     void edit();
     void editLocked(const QString& key);
     ChildScreen* entryShowing(const QString& key) const;
@@ -69,7 +73,7 @@ class Journal : public ChildScreen {
     QRadioButton* optUnPrinted;
     DataGrid* dbgMyGrid;
     QPushButton* cmdNew;
-    QPushButton* cmdEdit;
+    QPushButton* cmdRow;
     QPushButton* cmdDelete;
     QPushButton* cmdPrint;
     QPushButton* cmdRefresh;

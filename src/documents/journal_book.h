@@ -18,17 +18,34 @@ struct JournalSort {
     const char* order;
 };
 
+// What the Edit command of the frame, a button of its own, Enter and a double click do with the current row.
+struct JournalRowCommand {
+    const char* name = "cmdEdit";
+    const char* caption = "&Edit";
+    const char* icon = "edit";
+    const char* nothing = "Please select proper record to EDIT! There's nothing to EDIT!";
+    // Makes a popup about the row that the grid stands on; null: the document is locked and opened.
+    ChildScreen* (*popup)(const DataGrid& grid) = nullptr;
+};
+
 // All that tells one journal from another.
 struct JournalBook {
+    enum KeyKind { TextKey, NumberKey };
+
     const char* screen;
     const char* caption;
     const char* entryScreen;
-    LockableBook lock;
+    LockableBook master;
+    KeyKind keyKind = TextKey;
     JournalTables tables;
+    JournalRowCommand rowCommand = {};
     DeletionRules deletion;
-    const char* printRight;
-    ChildScreen* (*print)(const QString& number);  // shows the paper; null: there is none
     const char* deleteRight;
+    bool saysNoDeleteRight = true;  // with a box; else the button and the menu, being disabled, are all
+    const char* printRight;
+    // Shows the paper of a document, null when it has no rows; a book without the function has no paper.
+    ChildScreen* (*print)(const QString& number);
+    Box nothingToPrint = exclamation("Nothing to Print!", "No Records to Print...");
     const char* initialCategory;
     QList<JournalSort> sorts;
     QList<JournalColumn> columns;

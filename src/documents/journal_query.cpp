@@ -38,10 +38,11 @@ std::optional<Sql> clauseFor(const JournalCategory& category, const QString& tex
     return textClause(category.column, text, exact);
 }
 
-Box cannotCompare(const JournalCategory& category, const QString& text) {
-    const char* kind = category.kind == JournalCategory::Date ? "a date" : "an amount";
+Box cannotCompare(const JournalTables& tables, const JournalCategory& category, const QString& text) {
+    const bool isDate = category.kind == JournalCategory::Date;
+    if (const char* own = isDate ? tables.notADate : tables.notAnAmount) return exclamation("Error!", own);
     return exclamation("Error...", QString("\"%1\" is not %2 and cannot be compared with %3.")
-                                       .arg(text, QString(kind), QString(category.name)));
+                                       .arg(text, isDate ? "a date" : "an amount", category.name));
 }
 }  // namespace
 
@@ -63,13 +64,13 @@ void JournalQuery::setPrintedFilter(bool printed, bool searching) {
     tail_ = (searching ? andMark : whereMark) + printedTest(printed);
 }
 
-std::optional<Box> JournalQuery::search(const QString& category, const QString& text, bool exact) {
+std::optional<Fault> JournalQuery::search(const QString& category, const QString& text, bool exact) {
     const QString value = trim(text);
     if (value.isEmpty()) return {};
     const JournalCategory* found = findCategory(tables_.categories, trim(category));
-    if (!found) return exclamation("Error!", "Criteria does not exist!");
+    if (!found) return Fault{exclamation("Error!", "Criteria does not exist!"), "cboSearch"};
     const std::optional<Sql> clause = clauseFor(*found, value, exact);
-    if (!clause) return cannotCompare(*found, value);
+    if (!clause) return Fault{cannotCompare(tables_, *found, value), "txtSearch"};
     search_ = *clause;
     fitTailToSearch();
     return {};

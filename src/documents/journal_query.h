@@ -1,5 +1,5 @@
 #pragma once
-#include "platform/box.h"
+#include "platform/outcome.h"
 #include "platform/store/sql.h"
 
 #include <QList>
@@ -19,6 +19,9 @@ struct JournalTables {
     const char* contactColumn;
     const char* searchOrder;  // of a search that finds neither a sort nor a filter set
     QList<JournalCategory> categories;
+    // What is said of a search text that is no date or no amount; null: what the store would say.
+    const char* notADate = nullptr;
+    const char* notAnAmount = nullptr;
 };
 
 // The statement of a journal as the person's clicks have put it together: one search clause, and one tail
@@ -39,8 +42,8 @@ class JournalQuery {
     void setPrintedFilter(bool printed, bool searching);
 
     // Replaces the search clause; an empty text keeps the former one. A category that is not there, or a text
-    // that its column cannot take, gives the box to show and changes nothing.
-    std::optional<Box> search(const QString& category, const QString& text, bool exact);
+    // that its column cannot take, is a fault and changes nothing.
+    std::optional<Fault> search(const QString& category, const QString& text, bool exact);
 
   private:
     bool sorts() const { return tail_.startsWith(" ORDER BY"); }

@@ -2,7 +2,6 @@
 
 #include "books/balances.h"
 #include "purchases/print_purchase.h"
-#include "purchases/purchase_document.h"
 
 const JournalBook& purchaseJournal() {
     using Category = JournalCategory;
@@ -10,7 +9,7 @@ const JournalBook& purchaseJournal() {
         .screen = "frmPurchaseGrid",
         .caption = "Purchase Journal Data Grid . . .",
         .entryScreen = "frmPurchaseEntry",
-        .lock = purchaseBook,
+        .master = purchaseBook,
         .tables = {.table = "tblPurchaseMaster",
                    .contactColumn = "ContactNo",
                    .searchOrder = " ORDER BY PurchaseDate DESC",
@@ -20,15 +19,16 @@ const JournalBook& purchaseJournal() {
                                   {"Total Amount", "PurchaseAmount", Category::Amount},
                                   {"Remarks", "tblPurchaseMaster.Remarks"},
                                   {"Who Updated", "tblPurchaseMaster.UpdatedBy"}}},
-        .deletion = {.orders = purchaseOrders,
-                     .paymentTable = "tblDisbursementDetails",
-                     .paymentColumn = "PuchaseID",
-                     .paidMessage = "You Cannot Delete This Purchase Order, You have Tag Payment with This "
-                                    "Order! Remove Payment First!",
-                     .recomputeMoney = RecomputePayableBalances},
+        .deletion = {.queuedAs = "P",
+                     .guard =
+                         DeleteGuard{"tblDisbursementDetails", "PuchaseID",
+                                     "You Cannot Delete This Purchase Order, You have Tag Payment with This "
+                                     "Order! Remove Payment First!"},
+                     .rows = {{"tblPurchaseDetails", "Reference"}, {"tblPurchaseMaster", "PurchaseNo"}},
+                     .recomputes = {RecomputePayableBalances, RecomputeInventoryBalances}},
+        .deleteRight = "DeletePOAccess",
         .printRight = "PrintPOAccess",
         .print = PrintPurchaseOrder,
-        .deleteRight = "DeletePOAccess",
         .initialCategory = "Supplier Name",
         .sorts = {{"optPackNo", "P.O. No.", " ORDER BY PurchaseNo ASC"},
                   {"optCustomer", "Supplier", " ORDER BY ContactName ASC"},

@@ -2,7 +2,6 @@
 
 #include "books/balances.h"
 #include "sales/print_delivery.h"
-#include "sales/sales_document.h"
 
 const JournalBook& salesJournal() {
     using Category = JournalCategory;
@@ -10,7 +9,7 @@ const JournalBook& salesJournal() {
         .screen = "frmSalesGrid",
         .caption = "Sales Journal Data Grid . . .",
         .entryScreen = "frmSalesEntry",
-        .lock = salesBook,
+        .master = salesBook,
         .tables = {.table = "tblSalesMaster",
                    .contactColumn = "ContactNo",
                    .searchOrder = " ORDER BY RefDate DESC",
@@ -20,15 +19,16 @@ const JournalBook& salesJournal() {
                                   {"Total Amount", "TotalAmount", Category::Amount},
                                   {"Remarks", "tblSalesMaster.Remarks"},
                                   {"Who Updated", "tblSalesMaster.UpdatedBy"}}},
-        .deletion = {.orders = salesOrders,
-                     .paymentTable = "tblReceiptDetails",
-                     .paymentColumn = "Reference",
-                     .paidMessage = "You Cannot Delete This Sales Order, You have Tag Payment with This "
-                                    "Order! Remove Payment First!",
-                     .recomputeMoney = RecomputeReceivableBalances},
+        .deletion = {.queuedAs = "S",
+                     .guard =
+                         DeleteGuard{"tblReceiptDetails", "Reference",
+                                     "You Cannot Delete This Sales Order, You have Tag Payment with This "
+                                     "Order! Remove Payment First!"},
+                     .rows = {{"tblSalesDetails", "Reference"}, {"tblSalesMaster", "RefNo"}},
+                     .recomputes = {RecomputeReceivableBalances, RecomputeInventoryBalances}},
+        .deleteRight = "DeleteDRAccess",
         .printRight = "PrintDRAccess",
         .print = PrintDeliveryReceipt,
-        .deleteRight = "DeleteDRAccess",
         .initialCategory = "Customer Name",
         .sorts = {{"optPackNo", "D.R. No.", " ORDER BY RefNo ASC"},
                   {"optCustomer", "Customer", " ORDER BY ContactName ASC"},
