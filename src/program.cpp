@@ -10,6 +10,7 @@
 #include "reports/register.h"
 #include "sales/register.h"
 #include "shell/register.h"
+#include "tools/register.h"
 
 #include <QApplication>
 
@@ -20,6 +21,7 @@ static void registerScreens() {
     registerDocumentScreens();
     registerSalesScreens();
     registerPurchaseScreens();
+    registerToolScreens();
     registerShellScreens();
 }
 

@@ -11,6 +11,8 @@ const char* familyOf(Typeface face) {
             return "DejaVu Sans";
         case Typeface::Tahoma:
             return "DejaVu Sans Condensed";
+        case Typeface::TimesNewRoman:
+            return "Liberation Serif";
         case Typeface::Arial:
             break;
     }

@@ -4,7 +4,7 @@
 #include <QFont>
 
 // The family that a typeface is printed with: Verdana with DejaVu Sans, Tahoma with DejaVu Sans Condensed,
-// Arial with Liberation Sans.
+// Arial with Liberation Sans, Times New Roman with Liberation Serif.
 const char* familyOf(Typeface face);
 // What a dot matrix printer prints with.
 inline constexpr const char* fixedPitchFamily = "DejaVu Sans Mono";

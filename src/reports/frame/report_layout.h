@@ -28,7 +28,7 @@ enum class SectionKind {
 
 enum class ControlKind { Label, Field, Line, Image, SubReport };
 
-enum class Typeface { Verdana, Tahoma, Arial };
+enum class Typeface { Verdana, Tahoma, Arial, TimesNewRoman };
 
 // How a control's text looks.
 struct TextStyle {
