@@ -54,15 +54,16 @@ quint64 roundedTo(quint64 tenThousandths, int decimals) {
     return tenThousandths / unit + (tenThousandths % unit >= unit / 2 ? 1 : 0);
 }
 
-QString grouped(QString digits) {
-    for (qsizetype at = digits.size() - 3; at > 0; at -= 3) digits.insert(at, u',');
-    return digits;
+// With commas between the thousands.
+QString grouped(quint64 whole) {
+    QLocale locale = QLocale::c();
+    locale.setNumberOptions({});
+    return locale.toString(whole);
 }
 
 QString wholePart(quint64 whole, const NumberMask& mask) {
-    QString digits = whole == 0 ? QString() : QString::number(whole);
-    digits = digits.rightJustified(mask.leastDigits, u'0');
-    return mask.grouped ? grouped(digits) : digits;
+    const QString digits = whole == 0 ? QString() : mask.grouped ? grouped(whole) : QString::number(whole);
+    return digits.rightJustified(mask.leastDigits, u'0');
 }
 
 QString decimalPart(quint64 fraction, const NumberMask& mask) {
@@ -76,33 +77,9 @@ QString applied(quint64 rounded, const NumberMask& mask) {
     return mask.prefix + wholePart(rounded / unit, mask) + decimalPart(rounded % unit, mask) + mask.suffix;
 }
 
-// The length of the run of one letter that starts here.
-qsizetype runLength(const QString& mask, qsizetype at) {
-    qsizetype end = at;
-    while (end < mask.size() && mask[end] == mask[at]) ++end;
-    return end - at;
-}
-
-QString twoDigits(int number) { return QString::number(number).rightJustified(2, u'0'); }
-
-QString dateField(const QDateTime& moment, QChar letter, qsizetype length, bool afterHours) {
-    const QDate date = moment.date();
-    switch (letter.unicode()) {
-        case u'm':
-            if (afterHours) return twoDigits(moment.time().minute());
-            if (length == 4) return QLocale::c().monthName(date.month());
-            return twoDigits(date.month());
-        case u'd':
-            return twoDigits(date.day());
-        case u'y':
-            return QString::number(date.year()).rightJustified(4, u'0');
-        case u'h':
-            return twoDigits(moment.time().hour());
-        case u's':
-            return twoDigits(moment.time().second());
-        default:
-            return QString(length, letter);
-    }
+// The mask as Qt reads it: months are capitals, minutes stand behind the hours.
+QString qtDateMask(const char* dateMask) {
+    return QString::fromLatin1(dateMask).replace(u'm', u'M').replace("hh:MM", "hh:mm");
 }
 }  // namespace
 
@@ -121,23 +98,14 @@ QString formatNumber(Currency value, const char* numberMask) {
 }
 
 QString formatCount(qint64 value) {
-    const QString digits = grouped(QString::number(magnitude(value)));
+    const QString digits = grouped(magnitude(value));
     return value < 0 ? u'-' + digits : digits;
 }
 
 QString formatDate(const QDate& date, const char* dateMask) {
-    return date.isValid() ? formatDateTime(QDateTime(date, QTime(0, 0), Qt::UTC), dateMask) : QString();
+    return date.isValid() ? QLocale::c().toString(date, qtDateMask(dateMask)) : QString();
 }
 
 QString formatDateTime(const QDateTime& moment, const char* dateMask) {
-    if (!moment.isValid()) return {};
-    const QString mask = QString::fromLatin1(dateMask);
-    QString text;
-    bool afterHours = false;
-    for (qsizetype at = 0, length = 0; at < mask.size(); at += length) {
-        length = runLength(mask, at);
-        text += dateField(moment, mask[at], length, afterHours);
-        if (mask[at].isLetter()) afterHours = mask[at] == u'h';
-    }
-    return text;
+    return moment.isValid() ? QLocale::c().toString(moment, qtDateMask(dateMask)) : QString();
 }
