@@ -19,7 +19,7 @@ QList<QStringList> table(const QString& path) {
 }
 
 DemoContact contactOf(const QStringList& row) {
-    const QString kind = row[7];
+    const QString& kind = row[7];
     return {row[0], row[1], row[2], row[3], row[4], row[5], row[6], row[8], kind != "S", kind != "C"};
 }
 
