@@ -77,10 +77,10 @@ QList<View> filteredViews(const JournalBook& book) {
 
 QList<View> sortedViews(const JournalBook& book) {
     QList<View> views;
-    for (const JournalColumn& column : book.columns) {
+    for (const GridColumn& column : book.columns) {
         JournalQuery query(book.tables);
         query.setOrder(column.order);
-        views += viewOf(book, query, "by " + column.grid.heading);
+        views += viewOf(book, query, "by " + column.heading);
     }
     return views;
 }
@@ -98,10 +98,10 @@ View searchedView(const JournalBook& book, const QString& category, const QStrin
 QList<View> searchedViews(const JournalBook& book) {
     QList<View> views;
     for (const bool unprinted : {false, true}) {
-        views += searchedView(book, book.tables.categories[0].name, "99", false, unprinted);
-        views += searchedView(book, book.tables.categories[1].name, "2/1/2024", true, unprinted);
-        views += searchedView(book, book.initialCategory, "1", false, unprinted);
-        views += searchedView(book, book.initialCategory, "Trader 7919", true, unprinted);
+        views += searchedView(book, book.tables.fields[0].caption, "99", false, unprinted);
+        views += searchedView(book, book.tables.fields[1].caption, "2/1/2024", true, unprinted);
+        views += searchedView(book, book.initialField, "1", false, unprinted);
+        views += searchedView(book, book.initialField, "Trader 7919", true, unprinted);
         views += searchedView(book, "Total Amount", "7.7777", true, unprinted);
         views += searchedView(book, "Remarks", "noon", false, unprinted);
         views += searchedView(book, "Who Updated", "ADMIN", true, unprinted);

@@ -188,7 +188,7 @@ class UiPicker : public UiGrid {
     }
     void openPicker() {
         picker =
-            new GridPicker("frmFound", "Item Search...", itemColumns, {}, [this](const GridPicker::Row& row) {
+            new GridPicker("frmFound", "Item Search...", itemColumns, [this](const GridPicker::Row& row) {
                 ++picks;
                 opener->item->setText(row("ItemCode"));
                 opener->activateWindow();
@@ -306,6 +306,7 @@ TEST(UiList, MarksAreSetByKeyAndClickAndGoWithTheirRows) {
     list.setRows({{"1", "12-31-2025"}, {"2", "02-01-2026"}, {"3", "01-15-2026"}});
     person::look(&list);
     list.setCurrentRow(0);
+    const QSignalSpy changes(&list, &ListView::marksChanged);
     person::press(Qt::Key_Space);
     QStyleOptionViewItem option;
     option.rect = list.visualRect(list.model()->index(2, 0));
@@ -326,6 +327,7 @@ TEST(UiList, MarksAreSetByKeyAndClickAndGoWithTheirRows) {
     EXPECT_EQ(list.markedRows(), QList<int>());
     list.setAllMarked(true);
     EXPECT_EQ(list.markedRows().size(), 2);
+    EXPECT_EQ(changes.size(), 4) << "two keys, a click, and all at once";
     EXPECT_TRUE(QAccessible::queryAccessibleInterface(&list)->child(2)->state().checked)
         << "the first cell below two headings";
     list.setRows({{"4", ""}});

@@ -9,6 +9,7 @@ struct GridColumn {
     QString column;
     enum Kind { Text, Amount, Price, Count, Date, DateTime, Flag } kind = Text;
     int characters = 14;  // usable width, in average characters of the font
+    QString order = {};   // " ORDER BY RefNo ASC": what a click on the heading gives; empty: the screen's own
 };
 
 class GridModel;

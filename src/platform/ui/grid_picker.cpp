@@ -7,10 +7,10 @@
 #include <QVBoxLayout>
 
 GridPicker::GridPicker(const QString& name, const QString& caption, const QList<GridColumn>& columns,
-                       const QStringList& headerOrders, Pick pick)
+                       Pick pick)
     : ChildScreen(name, caption, FillsFrame, Popup),
       grid_(new DataGrid("dbgSearch", "adcSearch", columns)),
-      headerOrders_(headerOrders),
+      columns_(columns),
       pick_(std::move(pick)) {
     grid_->setAccessibleName(caption);
     auto* layout = new QVBoxLayout(this);
@@ -27,8 +27,9 @@ void GridPicker::list(Connection& store, const DataGrid::Source& source) {
 }
 
 void GridPicker::reorder(int column) {
-    if (!store_ || column >= headerOrders_.size()) return;
-    source_.order = headerOrders_.at(column);
+    const QString& order = columns_.at(column).order;
+    if (!store_ || order.isEmpty()) return;
+    source_.order = order;
     guarded([this] { grid_->setSource(*store_, source_); });
 }
 

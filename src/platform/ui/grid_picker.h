@@ -12,10 +12,9 @@ class GridPicker : public ChildScreen {
     using Row = std::function<QString(const QString& column)>;
     using Pick = std::function<void(const Row& row)>;
 
-    GridPicker(const QString& name, const QString& caption, const QList<GridColumn>& columns,
-               const QStringList& headerOrders, Pick pick);
+    GridPicker(const QString& name, const QString& caption, const QList<GridColumn>& columns, Pick pick);
 
-    // Lists the source; a click on a header lists it again in headerOrders[column].
+    // Lists the source; a click on a header lists it again in the order of the column, if it has one.
     void list(Connection& store, const DataGrid::Source& source);
     DataGrid* grid() const { return grid_; }
 
@@ -28,7 +27,7 @@ class GridPicker : public ChildScreen {
     void reorder(int column);
 
     DataGrid* grid_;
-    QStringList headerOrders_;
+    QList<GridColumn> columns_;
     Pick pick_;
     Connection* store_ = nullptr;
     DataGrid::Source source_;

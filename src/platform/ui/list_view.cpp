@@ -41,6 +41,9 @@ ListView::ListView(const QString& name, const QList<ListColumn>& columns, QWidge
 void ListView::connectSignals() {
     connect(this, &QTreeView::doubleClicked, this,
             [this](const QModelIndex& index) { emit rowDoubleClicked(index.row()); });
+    connect(model_, &TextListModel::dataChanged, this, [this](auto&, auto&, const QList<int>& roles) {
+        if (roles.contains(Qt::CheckStateRole)) emit marksChanged();
+    });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
         if (sortsByHeader_) toggleSort(column);
         emit headerClicked(column);

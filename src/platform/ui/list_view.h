@@ -56,6 +56,7 @@ class ListView : public QTreeView {
     void deletePressed();
     void editPressed();  // F2
     void headerClicked(int column);
+    void marksChanged();  // one or all, by a person or the program
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
