@@ -1,8 +1,6 @@
 #include "masters/contact_document.h"
 
-#include "foundation/session.h"
 #include "foundation/shared_routines.h"
-#include "platform/clock.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
 
@@ -23,28 +21,18 @@ Check entryFault(const ContactEntry& entry) {
     return {};
 }
 
-void setColumns(Recordset& row, const ContactEntry& entry, const QString& contactId) {
-    row.set("ContactID", contactId);
-    row.set("ContactName", trim(entry.ContactName));
-    row.set("Address", trim(entry.Address));
-    row.set("TelNo", trim(entry.TelNo));
-    row.set("Terms", *parseNumber(entry.Terms));
-    row.set("Remarks", trim(entry.Remarks));
-    row.set("eMail", trim(entry.eMail));
-    row.set("CreditLimit", *parseNumber(entry.CreditLimit));
-    row.set("Discount", *parseNumber(entry.Discount));
-    row.set("IsCustomer", entry.IsCustomer);
-    row.set("IsSupplier", entry.IsSupplier);
-    row.set("UpdatedBy", trim(session().CurrentUserCode));
-    row.set("DateUpdate", Clock::today());
-}
-
-void writeRow(Connection& store, const ContactEntry& entry, bool addMode, const QString& contactId) {
-    Recordset row =
-        store.openTable("tblContactMaster", addMode ? Sql{} : Sql{"WHERE ContactID = ?", {contactId}});
-    if (addMode) row.addNew();
-    setColumns(row, entry, contactId);
-    row.update();
+ColumnValues columnsOf(const ContactEntry& entry, const QString& contactId) {
+    return {{"ContactID", contactId},
+            {"ContactName", trim(entry.ContactName)},
+            {"Address", trim(entry.Address)},
+            {"TelNo", trim(entry.TelNo)},
+            {"Terms", bound(*parseNumber(entry.Terms))},
+            {"Remarks", trim(entry.Remarks)},
+            {"eMail", trim(entry.eMail)},
+            {"CreditLimit", bound(*parseNumber(entry.CreditLimit))},
+            {"Discount", bound(*parseNumber(entry.Discount))},
+            {"IsCustomer", entry.IsCustomer},
+            {"IsSupplier", entry.IsSupplier}};
 }
 
 // The id is drawn inside the unit of the write: no other workstation draws it, too.
@@ -52,10 +40,11 @@ Outcome writeContact(Connection& store, const ContactEntry& entry, bool addMode,
     Transaction save(store);
     if (addMode) {
         contactId = NextContactID(store);
-        if (RecordFound(store, "tblContactMaster", "ContactName", trim(entry.ContactName)))
+        if (nameFound(store, "tblContactMaster", "ContactName", entry.ContactName))
             return errorFault("Contact Name Already Exist!", "txtName");
     }
-    writeRow(store, entry, addMode, trim(contactId));
+    const QString id = trim(contactId);
+    writeRecord(store, contactMaster, addMode, id, columnsOf(entry, id), entry.changed);
     save.commit();
     return Done{};
 }
@@ -98,17 +87,17 @@ QString NextContactID(Connection& store) {
     return (*number + Currency::fromInteger(1)).toPlainText();
 }
 
-const QList<SearchCategory>& contactSearchCategories() {
-    static const QList<SearchCategory> categories{
+const QList<SearchField>& contactSearchFields() {
+    static const QList<SearchField> fields{
         {"Name", "ContactName"},
         {"Address", "Address"},
         {"Tel. No.", "TelNo"},
-        {"Terms", "Terms", SearchCategory::Number},
-        {"Type", "", SearchCategory::Type},
+        {"Terms", "Terms", SearchField::Amount},
+        {"Type", "", SearchField::Choice},
         {"Remarks", "Remarks"},
-        {"Who Updated", "UpdatedBy", SearchCategory::Exact},
+        {"Who Updated", "UpdatedBy", SearchField::Whole},
     };
-    return categories;
+    return fields;
 }
 
 SearchCondition contactTypeCondition(const QString& type) {

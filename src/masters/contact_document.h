@@ -17,9 +17,11 @@ struct ContactEntry {
     QString Discount = {};
     bool IsCustomer = false;
     bool IsSupplier = false;
+    QSet<QString> changed = {};  // of an old contact: the columns that are written
 };
 
-// Checks, in the system's order, and writes: a new contact, or the one of contactId. All or nothing. For a
+// Checks, in the system's order, and writes: a new contact, or what of the one of contactId was changed. All
+// or nothing. For a
 // new one the id is drawn here and put into contactId, the duplicate test coming after. An edit with an empty
 // id passes the checks and writes nothing. A failing store is a Fault.
 Outcome SaveContact(Connection& store, const ContactEntry& entry, bool addMode, QString& contactId);
@@ -31,6 +33,6 @@ Outcome DeleteContact(Connection& store, const QString& contactId);
 // of a deleted highest contact comes again.
 QString NextContactID(Connection& store);
 
-const QList<SearchCategory>& contactSearchCategories();
+const QList<SearchField>& contactSearchFields();
 // The condition of the type picked, "Customer" or "Supplier".
 SearchCondition contactTypeCondition(const QString& type);

@@ -6,16 +6,13 @@
 namespace {
 const QList<GridColumn>& columns() {
     static const QList<GridColumn> list{
-        {"Name", "ContactName", GridColumn::Text, 46},
-        {"Address", "Address", GridColumn::Text, 60},
-        {"Tel. No.", "TelNo", GridColumn::Text, 24},
-        {"Term", "Terms", GridColumn::Count, 8},
+        {"Name", "ContactName", GridColumn::Text, 46, " ORDER BY ContactName ASC"},
+        {"Address", "Address", GridColumn::Text, 60, " ORDER BY Address ASC"},
+        {"Tel. No.", "TelNo", GridColumn::Text, 24, " ORDER BY TelNo ASC"},
+        {"Term", "Terms", GridColumn::Count, 8, " ORDER BY Terms ASC"},
     };
     return list;
 }
-
-const QStringList headerOrders{" ORDER BY ContactName ASC", " ORDER BY Address ASC", " ORDER BY TelNo ASC",
-                               " ORDER BY Terms ASC"};
 
 QString typeCondition(const QString& filter) {
     if (filter == "C") return "IsCustomer = True";
@@ -25,7 +22,7 @@ QString typeCondition(const QString& filter) {
 }  // namespace
 
 frmContactFound::frmContactFound(Pick pick)
-    : GridPicker("frmContactFound", "Contact Search...", columns(), headerOrders, std::move(pick)) {}
+    : GridPicker("frmContactFound", "Contact Search...", columns(), std::move(pick)) {}
 
 DataGrid::Source contactFoundSource(const QString& search, const QString& filter) {
     DataGrid::Source source{"*", "tblContactMaster", "tblContactMaster", {}, " ORDER BY ContactName"};

@@ -6,17 +6,14 @@
 namespace {
 const QList<GridColumn>& columns() {
     static const QList<GridColumn> list{
-        {"Item Code", "ItemCode", GridColumn::Text, 14},
-        {"Description", "Description", GridColumn::Text, 60},
-        {"Unit", "Unit", GridColumn::Text, 8},
-        {"Cost Price", "CostPrice", GridColumn::Amount, 13},
-        {"Selling Price", "SellingPrice", GridColumn::Amount, 13},
+        {"Item Code", "ItemCode", GridColumn::Text, 14, " ORDER BY ItemCode ASC"},
+        {"Description", "Description", GridColumn::Text, 60, " ORDER BY Description ASC"},
+        {"Unit", "Unit", GridColumn::Text, 8, " ORDER BY Unit ASC"},
+        {"Cost Price", "CostPrice", GridColumn::Amount, 13, " ORDER BY CostPrice ASC"},
+        {"Selling Price", "SellingPrice", GridColumn::Amount, 13, " ORDER BY SellingPrice ASC"},
     };
     return list;
 }
-
-const QStringList headerOrders{" ORDER BY ItemCode ASC", " ORDER BY Description ASC", " ORDER BY Unit ASC",
-                               " ORDER BY CostPrice ASC", " ORDER BY SellingPrice ASC"};
 
 QString searchedColumn(const QString& kind) {
     if (kind == "D") return "Description";
@@ -25,8 +22,7 @@ QString searchedColumn(const QString& kind) {
 }
 }  // namespace
 
-frmFound::frmFound(Pick pick)
-    : GridPicker("frmFound", "Item Search...", columns(), headerOrders, std::move(pick)) {}
+frmFound::frmFound(Pick pick) : GridPicker("frmFound", "Item Search...", columns(), std::move(pick)) {}
 
 DataGrid::Source itemFoundSource(const QString& search, const QString& kind) {
     DataGrid::Source source{"*", "tblItemMaster", "tblItemMaster", {}, " ORDER BY ItemCode"};

@@ -1,7 +1,6 @@
 #include "masters/frmItem.h"
 
 #include "foundation/session.h"
-#include "foundation/shared_routines.h"
 #include "masters/field_widths.h"
 #include "masters/frmContactFound.h"
 #include "platform/parsing.h"
@@ -11,14 +10,16 @@
 namespace {
 using F = MasterField;
 
+constexpr MasterLookup suppliers{"tblContactMaster", "ContactID", "ContactName", "IsSupplier = True"};
+
 // control, label, column, kind, capacity, access, blank, survives a clear, line, pair, pairs
 QList<MasterField> itemFields() {
     return {
         {"txtItemCode", "&Item Code :", "ItemCode", F::Text, width::itemCode, F::NewOnly, "", false, 0, 0},
         {"txtDescription", "Descri&ption :", "Description", F::Upper, width::description, F::Open, "", false,
          0, 1, 2},
-        {"txtSupplierCode", "Ma&jor Supplier :", "SupplierCode", F::Supplier, width::contactName, F::Open, "",
-         false, 1, 0, 2},
+        {"txtSupplierCode", "Ma&jor Supplier :", "SupplierCode", F::Lookup, width::contactName, F::Open, "",
+         false, 1, 0, 2, suppliers},
         {"txtUnit", "U&nit :", "Unit", F::Unit, width::unit, F::Open, "", false, 1, 2},
         {"txtLocator", "&Locator :", "Locator", F::UpperShown, width::locator, F::Open, "", false, 2, 0},
         {"txtRemarks", "Remar&ks :", "Remarks", F::Upper, width::remarks, F::Open, "", false, 2, 1, 2},
@@ -38,14 +39,15 @@ QList<MasterField> itemFields() {
     };
 }
 
+// The headings order by their position: "Wholesale" by locator, "Locator" by balance.
 QList<GridColumn> itemColumns() {
     return {
-        {"Item Code", "ItemCode", GridColumn::Text, 13},
-        {"Description", "Description", GridColumn::Text, 50},
-        {"Cost Price", "CostPrice", GridColumn::Amount, 12},
-        {"Selling Price", "SellingPrice", GridColumn::Amount, 12},
-        {"Wholesale", "WholesalePrice", GridColumn::Amount, 12},
-        {"Locator", "Locator", GridColumn::Text, 10},
+        {"Item Code", "ItemCode", GridColumn::Text, 13, " ORDER BY ItemCode ASC"},
+        {"Description", "Description", GridColumn::Text, 50, " ORDER BY Description ASC"},
+        {"Cost Price", "CostPrice", GridColumn::Amount, 12, " ORDER BY CostPrice ASC"},
+        {"Selling Price", "SellingPrice", GridColumn::Amount, 12, " ORDER BY SellingPrice ASC"},
+        {"Wholesale", "WholesalePrice", GridColumn::Amount, 12, " ORDER BY Locator ASC"},
+        {"Locator", "Locator", GridColumn::Text, 10, " ORDER BY Balance ASC"},
         {"Inventory", "Balance", GridColumn::Amount, 12},
     };
 }
@@ -58,29 +60,21 @@ MasterDescriptor itemDescriptor() {
         .fields = itemFields(),
         .firstField = "txtDescription",
         .columns = itemColumns(),
-        // By position, as the system has it: "Wholesale" sorts by locator, "Locator" by balance.
-        .headerOrders = {" ORDER BY ItemCode ASC", " ORDER BY Description ASC", " ORDER BY CostPrice ASC",
-                         " ORDER BY SellingPrice ASC", " ORDER BY Locator ASC", " ORDER BY Balance ASC"},
         .defaultOrder = " ORDER BY ItemCode",
         .listedNone = "There are No Items in the Database...",
         .listed = "There are %1 Records in the Item Master File Database...",
         .countedNone = "System Found No Items in your Stock Inventory",
         .counted = "System Found %1 Items in your Stock Inventory",
         .allCaption = "Reload &All Items",
-        .categories = itemSearchCategories(),
-        .defaultCategory = "Description",
+        .searchFields = itemSearchFields(),
+        .initialField = "Description",
         .notLoaded = "Item Master File Database is not yet loaded. You cannot move item at the moment!",
     };
 }
 }  // namespace
 
 frmItem::frmItem() : MasterScreen(itemDescriptor()) {
-    ComboBox* supplier = fields().combo("txtSupplierCode");
-    supplier->setFiller([supplier] {
-        LoadComboBoxUDF("ContactName", "tblContactMaster", supplier, "IsSupplier = True ORDER BY ContactName",
-                        false);
-    });
-    connect(supplier, &ComboBox::entered, this, [this] { findSupplier(); });
+    connect(fields().combo("txtSupplierCode"), &ComboBox::entered, this, [this] { findSupplier(); });
 }
 
 QString frmItem::drawKey(bool /*duplicate*/) {
@@ -104,6 +98,7 @@ ItemEntry frmItem::entry() const {
         .DateAquired = typed("txtDateAquired"),
         .OrderLevel = typed("txtReorder"),
         .InventoryBalance = typed("txtInventoryBalance"),
+        .changed = fields().changedColumns(),
     };
 }
 

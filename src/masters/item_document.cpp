@@ -1,9 +1,7 @@
 #include "masters/item_document.h"
 
 #include "books/balances.h"
-#include "foundation/session.h"
 #include "foundation/shared_routines.h"
-#include "platform/clock.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
 
@@ -49,7 +47,7 @@ Check pricesFault(const ItemEntry& entry) {
 Check duplicateFault(Connection& store, const ItemEntry& entry) {
     if (RecordFound(store, "tblItemMaster", "ItemCode", trim(entry.ItemCode)))
         return errorFault("Duplicate Item Code! Please Assign Another Number!", "txtItemCode");
-    if (RecordFound(store, "tblItemMaster", "Description", trim(entry.Description).toUpper()))
+    if (nameFound(store, "tblItemMaster", "Description", entry.Description))
         return errorFault("Item Description Already Exist! System Cannot Allow Same Item Description!",
                           "txtDescription");
     return {};
@@ -67,43 +65,46 @@ Check entryFault(Connection& store, const ItemEntry& entry) {
     return {};
 }
 
-void setTexts(Connection& store, Recordset& row, const ItemEntry& entry) {
-    row.set("ItemCode", trim(entry.ItemCode));
-    row.set("Description", trim(entry.Description).toUpper());
-    row.set("Unit", trim(entry.Unit));
-    row.set("Locator", trim(entry.Locator).toUpper());
-    row.set("Remarks", trim(entry.Remarks).toUpper());
-    row.set("SupplierCode", LookupField(store, "ContactID", "tblContactMaster", "ContactName",
-                                        trim(entry.SupplierName), LookupMode::PrimaryKey));
+ColumnValues columnsOf(Connection& store, const ItemEntry& entry) {
+    const QString supplier = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
+                                         trim(entry.SupplierName), LookupMode::PrimaryKey);
+    return {{"ItemCode", trim(entry.ItemCode)},
+            {"Description", trim(entry.Description).toUpper()},
+            {"Unit", trim(entry.Unit)},
+            {"Locator", trim(entry.Locator).toUpper()},
+            {"Remarks", trim(entry.Remarks).toUpper()},
+            {"SupplierCode", supplier},
+            {"CostPrice", bound(*parseNumber(entry.CostPrice))},
+            {"SellingPrice", bound(*parseNumber(entry.SellingPrice))},
+            {"WholesalePrice", bound(*parseNumber(entry.WholesalePrice))},
+            {"DateAquired", *parseDate(entry.DateAquired)},
+            {"OrderLevel", bound(*parseNumber(entry.OrderLevel))},
+            {"Balance", bound(*parseNumber(entry.InventoryBalance))}};
 }
 
-void setFigures(Recordset& row, const ItemEntry& entry) {
-    row.set("CostPrice", *parseNumber(entry.CostPrice));
-    row.set("SellingPrice", *parseNumber(entry.SellingPrice));
-    row.set("WholesalePrice", *parseNumber(entry.WholesalePrice));
-    row.set("DateAquired", *parseDate(entry.DateAquired));
-    row.set("OrderLevel", *parseNumber(entry.OrderLevel));
-    row.set("Balance", *parseNumber(entry.InventoryBalance));
-    row.set("UpdatedBy", trim(session().CurrentUserCode));
-    row.set("DateUpdate", Clock::today());
+// A changed price is held against those that are stored by now, not against those that were shown.
+Check storedPricesFault(Connection& store, const ItemEntry& entry) {
+    const Recordset row =
+        store.execute({"SELECT * FROM tblItemMaster WHERE ItemCode = ?", {trim(entry.ItemCode)}});
+    ItemEntry prices = entry;
+    bool anyChanged = false;
+    for (auto [column, price] : {std::pair{"CostPrice", &prices.CostPrice},
+                                 {"SellingPrice", &prices.SellingPrice},
+                                 {"WholesalePrice", &prices.WholesalePrice}}) {
+        const bool changed = entry.changed.contains(column);
+        anyChanged |= changed;
+        if (!changed && !row.eof()) *price = row.currency(column).toPlainText();
+    }
+    return anyChanged ? pricesFault(prices) : Check();
 }
 
-void writeRow(Connection& store, const ItemEntry& entry, bool addMode) {
-    const Sql where{"WHERE ItemCode = ?", {trim(entry.ItemCode)}};
-    Recordset row = store.openTable("tblItemMaster", addMode ? Sql{} : where);
-    if (addMode) row.addNew();
-    setTexts(store, row, entry);
-    setFigures(row, entry);
-    row.update();
-}
-
-// The duplicate tests and the write are one unit: no other workstation comes between.
+// The tests against the store and the write are one unit: no other workstation comes between.
 Outcome writeItem(Connection& store, const ItemEntry& entry, bool addMode) {
     Transaction save(store);
-    if (addMode)
-        if (const Check found = duplicateFault(store, entry)) return *found;
-    writeRow(store, entry, addMode);
+    if (const Check found = addMode ? duplicateFault(store, entry) : storedPricesFault(store, entry))
+        return *found;
     const QString code = trim(entry.ItemCode);
+    writeRecord(store, itemMaster, addMode, code, columnsOf(store, entry), entry.changed);
     Done done;
     StoreItemBalance(store, code, done.boxes);
     if (addMode) StoreLastItemCode(store, code);
@@ -148,18 +149,18 @@ void StoreLastItemCode(Connection& store, const QString& itemCode) {
     row.update();
 }
 
-const QList<SearchCategory>& itemSearchCategories() {
-    static const QList<SearchCategory> categories{
+const QList<SearchField>& itemSearchFields() {
+    static const QList<SearchField> fields{
         {"Item Code", "ItemCode"},
-        {"Description", "Description", SearchCategory::TwoWords},
+        {"Description", "Description", SearchField::TwoWords},
         {"Unit", "Unit"},
         {"Locator", "Locator"},
         {"Remarks", "Remarks"},
         {"Supplier Code", "SupplierCode"},
-        {"Cost Price", "CostPrice", SearchCategory::Number},
-        {"Selling Price", "SellingPrice", SearchCategory::Number},
-        {"Inventory Balance", "Balance", SearchCategory::Number},
-        {"Who Updated", "UpdatedBy", SearchCategory::Exact},
+        {"Cost Price", "CostPrice", SearchField::Amount},
+        {"Selling Price", "SellingPrice", SearchField::Amount},
+        {"Inventory Balance", "Balance", SearchField::Amount},
+        {"Who Updated", "UpdatedBy", SearchField::Whole},
     };
-    return categories;
+    return fields;
 }

@@ -19,9 +19,11 @@ struct ItemEntry {
     QString DateAquired = {};
     QString OrderLevel = {};
     QString InventoryBalance = {};
+    QSet<QString> changed = {};  // of an old item: the columns that are written
 };
 
-// Checks, in the system's order, and writes: a new item, or the one of the entry's code. All or nothing. The
+// Checks, in the system's order, and writes: a new item, or what of the one of the entry's code was changed.
+// All or nothing. The
 // balance is recomputed from the books, whatever was typed; the code of a new item is the base of the next.
 // An edit with an empty currentCode passes the checks and writes nothing. A failing store is a Fault.
 Outcome SaveItem(Connection& store, const ItemEntry& entry, bool addMode, const QString& currentCode);
@@ -34,4 +36,4 @@ Outcome DeleteItem(Connection& store, const QString& itemCode);
 QString NextItemCode(Connection& store);
 void StoreLastItemCode(Connection& store, const QString& itemCode);
 
-const QList<SearchCategory>& itemSearchCategories();
+const QList<SearchField>& itemSearchFields();

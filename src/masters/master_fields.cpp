@@ -28,17 +28,22 @@ KeyFilter keysOf(MasterField::Kind kind) {
 
 bool isFigure(MasterField::Kind kind) { return kind >= MasterField::Days && kind <= MasterField::Price; }
 
-QString supplierName(Connection& store, const QString& contactId) {
-    return LookupField(store, "ContactID", "tblContactMaster", "ContactName", contactId,
-                       LookupMode::DisplayText);
+QString lookedUp(Connection& store, const MasterLookup& lookup, const QString& key) {
+    return LookupField(store, lookup.key, lookup.table, lookup.shown, key, LookupMode::DisplayText);
+}
+
+void fillList(ComboBox* list, const MasterLookup& lookup) {
+    const QString order = QString(" ORDER BY ") + lookup.shown;
+    const QString filter = *lookup.filter ? QString(lookup.filter) : "1=1";
+    LoadComboBoxUDF(lookup.shown, lookup.table, list, filter + order, false);
 }
 
 QString shown(Connection& store, const MasterField& field, const Recordset& row) {
     switch (field.kind) {
         case MasterField::UpperShown:
             return row.trimmed(field.column).toUpper();
-        case MasterField::Supplier:
-            return supplierName(store, row.trimmed(field.column));
+        case MasterField::Lookup:
+            return lookedUp(store, field.lookup, row.trimmed(field.column));
         case MasterField::Days:
             return row.currency(field.column).toPlainText();
         case MasterField::Percent:
@@ -71,6 +76,7 @@ QString shapeOf(MasterField::Kind kind, const QString& text) {
     switch (kind) {
         case MasterField::Upper:
         case MasterField::UpperShown:
+        case MasterField::Unit:
             return text.toUpper();
         case MasterField::Amount:
             return numberShape(text, mask::amount);
@@ -102,7 +108,7 @@ void MasterFields::add(const MasterField& field, QGridLayout* layout) {
 }
 
 QWidget* MasterFields::makeControl(const MasterField& field) {
-    if (field.kind == MasterField::Supplier) return makeCombo(field);
+    if (field.kind == MasterField::Lookup) return makeCombo(field);
     if (field.kind != MasterField::Flag) return makeBox(field);
     auto* check = new QCheckBox(field.label);
     check->setObjectName(field.control);
@@ -122,12 +128,13 @@ ComboBox* MasterFields::makeCombo(const MasterField& field) {
     auto* made = new ComboBox(field.control, ComboBox::Open);
     made->setKeyFilter(keysOf(field.kind));
     made->setCapacity(field.capacity);
+    made->setFiller([made, lookup = field.lookup] { fillList(made, lookup); });
     return combos_[field.control] = made;
 }
 
 QWidget* MasterFields::control(const MasterField& field) const {
     if (field.kind == MasterField::Flag) return flags_.value(field.control);
-    if (field.kind == MasterField::Supplier) return combos_.value(field.control);
+    if (field.kind == MasterField::Lookup) return combos_.value(field.control);
     return boxes_.value(field.control);
 }
 
@@ -159,9 +166,26 @@ void MasterFields::put(const MasterField& field, const QString& text) {
         setText(field.control, text);
 }
 
+QString MasterFields::content(const MasterField& field) const {
+    if (field.kind == MasterField::Flag) return flag(field.control) ? "1" : "";
+    return shapeOf(field.kind, trim(text(field.control)));
+}
+
+QSet<QString> MasterFields::changedColumns() const {
+    QSet<QString> changed;
+    for (const MasterField& field : fields_)
+        if (content(field) != shown_.value(field.control)) changed << field.column;
+    return changed;
+}
+
 void MasterFields::clear() {
     for (const MasterField& field : fields_)
         if (!field.survivesClear) put(field, field.blank);
+}
+
+void MasterFields::blankStamps() {
+    for (const MasterField& field : fields_)
+        if (field.access == MasterField::Never) put(field, {});
 }
 
 void MasterFields::blankForNew() {
@@ -171,7 +195,10 @@ void MasterFields::blankForNew() {
 }
 
 void MasterFields::show(Connection& store, const Recordset& row) {
-    for (const MasterField& field : fields_) put(field, shown(store, field, row));
+    for (const MasterField& field : fields_) {
+        put(field, shown(store, field, row));
+        shown_[field.control] = content(field);
+    }
 }
 
 void MasterFields::unlock(bool newRecord) {

@@ -3,12 +3,22 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 
 class QCheckBox;
 class QGridLayout;
 class QWidget;
 class ComboBox;
 class TextBox;
+
+// What a Lookup field stands for: the row of a table, known by one column, shown by another. The list that
+// drops down holds the rows of the filter, a condition, in the order of what they show; empty: all rows.
+struct MasterLookup {
+    const char* table;
+    const char* key;
+    const char* shown;
+    const char* filter;
+};
 
 // One field of a master screen: a control, its label, its column, and how the two look alike.
 struct MasterField {
@@ -17,7 +27,7 @@ struct MasterField {
         Upper,       // upper-cased when it is left
         UpperShown,  // and when it is shown
         Unit,        // completed from the unit master when it is left
-        Supplier,    // an open combo of names over the column of a contact's code
+        Lookup,      // an open combo of what another table shows, over the column of its key
         Days,        // a whole number, as plain digits
         Percent,     // "0.00", taken as it is typed
         Amount,      // "#,##0.00"
@@ -39,6 +49,7 @@ struct MasterField {
     int line = 0;
     int pair = 0;
     int pairs = 1;
+    MasterLookup lookup = {};
 };
 
 // The record half of a master screen, built from a table of fields.
@@ -53,7 +64,11 @@ class MasterFields : public QObject {
     void setText(const QString& control, const QString& text);
     bool flag(const QString& control) const;
 
+    // The columns whose fields no longer say what show() put there, in whatever shape.
+    QSet<QString> changedColumns() const;
+
     void clear();
+    void blankStamps();  // who last saved it, and when
     void blankForNew();  // clears, and blanks what survives a clear: a date is today
     void show(Connection& store, const Recordset& row);
     void unlock(bool newRecord);
@@ -68,10 +83,12 @@ class MasterFields : public QObject {
     ComboBox* makeCombo(const MasterField& field);
     QWidget* control(const MasterField& field) const;
     void put(const MasterField& field, const QString& text);
+    QString content(const MasterField& field) const;
     void reshape(const MasterField& field);
 
     QList<MasterField> fields_;
     QHash<QString, TextBox*> boxes_;
     QHash<QString, ComboBox*> combos_;
     QHash<QString, QCheckBox*> flags_;
+    QHash<QString, QString> shown_;  // by control
 };

@@ -1,6 +1,8 @@
 #include "masters/master_records.h"
 
+#include "foundation/session.h"
 #include "foundation/shared_routines.h"
+#include "platform/clock.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
 
@@ -30,31 +32,20 @@ Outcome deletionFailure(const StoreError& error, const char* refusedText) {
     return Fault{exclamation("Error...", error.text()), {}};
 }
 
-Sql likeCondition(const QString& column, const QString& value) {
-    return {column + " LIKE ?", {anywhere(value)}};
-}
-
-Sql numberCondition(const QString& column, const QString& value) {
-    const auto number = parseNumber(value);
-    if (!number) throw StoreError(StoreError::typeMismatch, '"' + value + "\" is not a number.");
-    return {column + " = ?", {bound(*number)}};
-}
-
-SearchCondition twoWords(const QString& column, const QString& first, const QString& second) {
+SearchCondition twoWords(const SearchField& field, const QString& first, const QString& second) {
     Sql condition;
     for (const QString& word : {first, second})
         if (!word.isEmpty())
-            condition += Sql(condition.isEmpty() ? " WHERE " : " AND ") + likeCondition(column, word);
+            condition += Sql(condition.isEmpty() ? " WHERE " : " AND ") + *comparison(field, word, false);
     if (condition.isEmpty()) return exclamation("Error!", "Please Enter Search Value to Search!");
     return condition;
 }
 
-Sql valueCondition(const SearchCategory& category, const QString& value) {
+Sql valueCondition(const SearchField& field, const QString& value) {
     if (value.isEmpty()) return {};
-    const Sql where = " WHERE ";
-    if (category.match == SearchCategory::Number) return where + numberCondition(category.column, value);
-    if (category.match == SearchCategory::Like) return where + likeCondition(category.column, value);
-    return where + Sql{QString(category.column) + " = ?", {value}};
+    const auto condition = comparison(field, value, false);
+    if (!condition) throw StoreError(StoreError::typeMismatch, '"' + value + "\" is not a number.");
+    return Sql(" WHERE ") + *condition;
 }
 }  // namespace
 
@@ -80,6 +71,32 @@ std::optional<QString> previousRecord(Connection& store, const MasterTable& mast
                      "SELECT <key> FROM <table> WHERE <key> < ? ORDER BY <key> DESC LIMIT 1");
 }
 
+bool nameFound(Connection& store, const char* table, const char* column, const QString& name) {
+    // LIKE folds all letters, but takes a % of the name for a wildcard: the texts themselves decide.
+    Recordset rows = store.execute(
+        {QString("SELECT %1 AS Name FROM %2 WHERE TRIM(%1) LIKE ?").arg(column, table), {trim(name)}});
+    for (; !rows.eof(); rows.moveNext())
+        if (rows.trimmed("Name").compare(trim(name), Qt::CaseInsensitive) == 0) return true;
+    return false;
+}
+
+void writeRecord(Connection& store, const MasterTable& master, bool addMode, const QString& key,
+                 const ColumnValues& values, const QSet<QString>& changed) {
+    const Sql where{about("WHERE <key> = ?", master), {key}};
+    Recordset row = store.openTable(master.table, addMode ? Sql{} : where);
+    if (addMode)
+        row.addNew();
+    else if (row.eof())
+        throw StoreError(StoreError::noCurrentRow, "The row has been deleted by another user.");
+    else if (changed.isEmpty())
+        return;
+    for (const auto& [column, value] : values)
+        if (addMode || changed.contains(column)) row.set(column, value);
+    row.set("UpdatedBy", trim(session().CurrentUserCode));
+    row.set("DateUpdate", Clock::today());
+    row.update();
+}
+
 Outcome deleteRecord(Connection& store, const MasterTable& master, const QList<DeleteGuard>& guards,
                      const QString& key, const char* refusedText) {
     if (trim(key).isEmpty()) throw StoreError(StoreError::noCurrentRow, "There is no current record.");
@@ -95,18 +112,11 @@ Outcome deleteRecord(Connection& store, const MasterTable& master, const QList<D
     }
 }
 
-const SearchCategory* findCategory(const QList<SearchCategory>& categories, const QString& caption) {
-    for (const SearchCategory& category : categories)
-        if (caption == category.caption) return &category;
-    return nullptr;
-}
-
-SearchCondition searchCondition(const QList<SearchCategory>& categories, const QString& caption,
+SearchCondition searchCondition(const QList<SearchField>& fields, const QString& caption,
                                 const QString& value, const QString& secondValue) {
-    const SearchCategory* category = findCategory(categories, caption);
-    if (!category || category->match == SearchCategory::Type)
+    const SearchField* field = findField(fields, caption);
+    if (!field || field->kind == SearchField::Choice)
         return information("Please select!", "Please enter proper search category!");
-    if (category->match == SearchCategory::TwoWords)
-        return twoWords(category->column, trim(value), trim(secondValue));
-    return valueCondition(*category, trim(value));
+    if (field->kind == SearchField::TwoWords) return twoWords(*field, trim(value), trim(secondValue));
+    return valueCondition(*field, trim(value));
 }

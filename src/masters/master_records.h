@@ -1,8 +1,10 @@
 #pragma once
 #include "platform/outcome.h"
+#include "platform/search_field.h"
 #include "platform/store/connection.h"
 
 #include <QList>
+#include <QSet>
 #include <optional>
 #include <variant>
 
@@ -23,6 +25,16 @@ std::optional<QString> previousRecord(Connection& store, const MasterTable& mast
 // Refused with the box "Error!"; the focus goes to the control of this name, or stays.
 Fault errorFault(const QString& text, const QString& focus = {});
 
+// Whether a row has this name: all letters alike, Ñ and ñ too, blanks at the ends left out.
+bool nameFound(Connection& store, const char* table, const char* column, const QString& name);
+
+// Writes a record: a new one whole, an old one in the columns that a person changed, and then who did it and
+// when. So what another workstation has stored meanwhile stays, and nothing changed is nothing written.
+// StoreError noCurrentRow when an old one has gone.
+using ColumnValues = QList<std::pair<const char*, QVariant>>;
+void writeRecord(Connection& store, const MasterTable& master, bool addMode, const QString& key,
+                 const ColumnValues& values, const QSet<QString>& changed);
+
 // A table that may refer to the record, and what is said when it does.
 struct DeleteGuard {
     const char* table;
@@ -35,18 +47,8 @@ struct DeleteGuard {
 Outcome deleteRecord(Connection& store, const MasterTable& master, const QList<DeleteGuard>& guards,
                      const QString& key, const char* refusedText);
 
-// A category of the search box.
-struct SearchCategory {
-    const char* caption;
-    const char* column;
-    // Type: searched by its own combo, not by what is typed.
-    enum Match { Like, TwoWords, Number, Exact, Type } match = Like;
-};
-
-const SearchCategory* findCategory(const QList<SearchCategory>& categories, const QString& caption);
-
 // The condition for what was typed, or the box that refuses it. Empty values list all, but two words must
 // have one. A number that does not convert is StoreError typeMismatch.
 using SearchCondition = std::variant<Sql, Box>;
-SearchCondition searchCondition(const QList<SearchCategory>& categories, const QString& caption,
+SearchCondition searchCondition(const QList<SearchField>& fields, const QString& caption,
                                 const QString& value, const QString& secondValue = {});

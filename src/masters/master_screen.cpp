@@ -8,6 +8,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/form.h"
+#include "platform/ui/search_keys.h"
 #include "platform/ui/text_box.h"
 
 namespace {
@@ -18,15 +19,8 @@ struct Hourglass {
     Q_DISABLE_COPY_MOVE(Hourglass)
 };
 
-bool hasCategory(const QList<SearchCategory>& categories, SearchCategory::Match match) {
-    return std::any_of(categories.begin(), categories.end(),
-                       [match](const SearchCategory& category) { return category.match == match; });
-}
-
-QStringList captionsOf(const QList<SearchCategory>& categories) {
-    QStringList captions;
-    for (const SearchCategory& category : categories) captions << category.caption;
-    return captions;
+bool hasField(const QList<SearchField>& fields, SearchField::Kind kind) {
+    return std::ranges::any_of(fields, [kind](const SearchField& field) { return field.kind == kind; });
 }
 
 TextBox* searchBox(const QString& name, const QString& accessibleName) {
@@ -43,8 +37,6 @@ MasterScreen::MasterScreen(const MasterDescriptor& descriptor)
     : RecordScreen(descriptor.name, descriptor.caption), descriptor_(descriptor) {
     buildLayout();
     connectControls();
-    cboSearchBy->setText(descriptor_.defaultCategory);
-    categoryChosen();
     guarded([this] { UpdateRecordCount(); });
 }
 
@@ -57,7 +49,7 @@ QSize MasterScreen::sizeHint() const {
 void MasterScreen::DisplayRecord(const QString& key) {
     mblnAddmode = false;
     mblnUpdated = false;
-    ClearRecord();
+    fields_->clear();
     currentKey_ = trim(key);
     if (currentKey_.isEmpty()) return;
     try {
@@ -72,7 +64,14 @@ void MasterScreen::DisplayRecord(const QString& key) {
     }
 }
 
-void MasterScreen::ClearRecord() { fields_->clear(); }
+// An empty form is no record: nothing typed into it could be saved.
+void MasterScreen::ClearRecord() {
+    mblnAddmode = false;
+    mblnUpdated = false;
+    currentKey_.clear();
+    fields_->clear();
+    LockFields();
+}
 
 void MasterScreen::UnlockFields() { fields_->unlock(mblnAddmode); }
 
@@ -86,8 +85,7 @@ void MasterScreen::compose(bool duplicate) {
         mblnUpdated = false;
         UnlockFields();
         if (!duplicate) fields_->blankForNew();
-        fields_->setText("txtLastUpdate", {});
-        fields_->setText("txtUpdatedBy", {});
+        fields_->blankStamps();
         findChild<QWidget*>(descriptor_.firstField)->setFocus();
         currentKey_ = drawKey(duplicate);
     });
@@ -140,6 +138,7 @@ void MasterScreen::DeleteRecord() {
 void MasterScreen::RefreshRecord() {
     guarded([this] {
         listAll();
+        ClearRecord();
         DisplayRecord(gridKey());
     });
 }
@@ -148,6 +147,7 @@ void MasterScreen::RefreshRecord() {
 
 template <typename Step>
 void MasterScreen::move(Step step, const Box& atTheEnd) {
+    if (!descriptor_.walks) return;
     try {
         const auto key = step(StoreConnection(), descriptor_.master, currentKey_);
         if (key)
@@ -167,6 +167,7 @@ void MasterScreen::PrevRecord() {
 }
 
 void MasterScreen::showFromEnd(QString (*end)(Connection&, const MasterTable&)) {
+    if (!descriptor_.walks) return;
     guarded([&] {
         const QString key = end(StoreConnection(), descriptor_.master);
         if (!key.isEmpty()) DisplayRecord(key);
@@ -207,27 +208,31 @@ void MasterScreen::setCount(qint64 count, const QString& none, const QString& so
     fraCount->setAccessibleName(fraCount->title());
 }
 
+void MasterScreen::reloadAll() {
+    guarded([this] { listAll(); });
+}
+
 // ---- the search
 
 SearchCondition MasterScreen::typeCondition(const QString& /*type*/) { return Sql(); }
 
-// The category decides which boxes stand there and which keys they take.
-void MasterScreen::categoryChosen() {
-    const SearchCategory* category = findCategory(descriptor_.categories, cboSearchBy->text());
-    const auto match = category ? category->match : SearchCategory::Like;
-    txtSearch->setKeyFilter(match == SearchCategory::Number ? keys::amount() : keys::freeText());
-    txtSearch->setVisible(match != SearchCategory::Type);
-    lblSearch->setText(match == SearchCategory::Type ? "Type :" : "Te&xt :");
-    if (cboType) cboType->setVisible(match == SearchCategory::Type);
-    if (lblDash) lblDash->setVisible(match == SearchCategory::TwoWords);
-    if (txtSecondSearch) txtSecondSearch->setVisible(match == SearchCategory::TwoWords);
-    if (match == SearchCategory::Type && cboType && isVisible()) cboType->setFocus();
+// The field decides which boxes stand there and which keys they take.
+void MasterScreen::fieldChosen() {
+    const SearchField* field = findField(descriptor_.searchFields, cboSearchBy->text());
+    const auto kind = field ? field->kind : SearchField::Text;
+    txtSearch->setKeyFilter(searchKeys(field));
+    txtSearch->setVisible(kind != SearchField::Choice);
+    lblSearch->setText(kind == SearchField::Choice ? "Type :" : "Te&xt :");
+    if (cboType) cboType->setVisible(kind == SearchField::Choice);
+    if (lblDash) lblDash->setVisible(kind == SearchField::TwoWords);
+    if (txtSecondSearch) txtSecondSearch->setVisible(kind == SearchField::TwoWords);
+    if (kind == SearchField::Choice && cboType && isVisible()) cboType->setFocus();
 }
 
 void MasterScreen::search() {
     ClearRecord();
     guarded([this] {
-        listCondition(searchCondition(descriptor_.categories, cboSearchBy->text(), txtSearch->text(),
+        listCondition(searchCondition(descriptor_.searchFields, cboSearchBy->text(), txtSearch->text(),
                                       txtSecondSearch ? txtSecondSearch->text() : QString()));
     });
 }
@@ -251,7 +256,7 @@ void MasterScreen::listCondition(const SearchCondition& condition) {
 void MasterScreen::buildLayout() {
     auto* halves = new QVBoxLayout(this);
     halves->addWidget(recordHalf());
-    halves->addWidget(searchLine());
+    if (QWidget* line = commandLine()) halves->addWidget(line);
     halves->addWidget(gridHalf(), 1);
     form::setAccessibleFromTexts(this);
 }
@@ -265,12 +270,21 @@ QWidget* MasterScreen::recordHalf() {
     return record;
 }
 
-QWidget* MasterScreen::searchLine() {
-    auto* line = new QWidget;
-    auto* row = new QHBoxLayout(line);
+// The search and the buttons beside it; null when the master has none of them.
+QWidget* MasterScreen::commandLine() {
+    auto line = std::make_unique<QWidget>();
+    auto* row = new QHBoxLayout(line.get());
     row->setContentsMargins({});
+    if (!descriptor_.searchFields.isEmpty()) addSearch(row);
+    if (!descriptor_.allCaption.isEmpty())
+        row->addWidget(form::button("cmdAll", descriptor_.allCaption, "refresh"));
+    if (descriptor_.duplicates) row->addWidget(form::button("cmdNewDuplicate", "Add New &Duplicate", "new"));
+    return row->isEmpty() ? nullptr : line.release();
+}
+
+void MasterScreen::addSearch(QHBoxLayout* row) {
     cboSearchBy = new ComboBox("cboSearchBy", ComboBox::Closed);
-    cboSearchBy->addItems(captionsOf(descriptor_.categories));
+    cboSearchBy->addItems(captionsOf(descriptor_.searchFields));
     row->addWidget(form::label("Search &By :", cboSearchBy));
     row->addWidget(cboSearchBy);
     txtSearch = searchBox("txtSearch", "Search value");
@@ -280,14 +294,11 @@ QWidget* MasterScreen::searchLine() {
     addSecondBox(row);
     addTypeList(row);
     row->addWidget(form::button("cmdSearch", "Searc&h", "search"));
-    row->addWidget(form::button("cmdAll", descriptor_.allCaption, "refresh"));
-    row->addWidget(form::button("cmdNewDuplicate", "Add New &Duplicate", "new"));
-    return line;
 }
 
 // The two boxes of a search for two words.
 void MasterScreen::addSecondBox(QHBoxLayout* row) {
-    if (!hasCategory(descriptor_.categories, SearchCategory::TwoWords)) return;
+    if (!hasField(descriptor_.searchFields, SearchField::TwoWords)) return;
     lblDash = form::label("-");
     lblDash->setObjectName("lblDash");
     txtSecondSearch = searchBox("txtSecondSearch", "Second search value");
@@ -313,18 +324,26 @@ QGroupBox* MasterScreen::gridHalf() {
     return fraCount;
 }
 
+void MasterScreen::onClick(const char* name, void (MasterScreen::*act)()) {
+    if (auto* button = findChild<QAbstractButton*>(name))
+        connect(button, &QAbstractButton::clicked, this, act);
+}
+
 void MasterScreen::connectControls() {
-    const auto click = [this](const char* name, auto slot) {
-        connect(findChild<QAbstractButton*>(name), &QAbstractButton::clicked, this, slot);
-    };
-    click("cmdSearch", [this] { search(); });
-    click("cmdAll", [this] { guarded([this] { listAll(); }); });
-    click("cmdNewDuplicate", [this] { duplicateRecord(); });
-    connect(txtSearch, &TextBox::entered, this, [this] { search(); });
-    if (txtSecondSearch) connect(txtSecondSearch, &TextBox::entered, this, [this] { search(); });
-    if (cboType) connect(cboType, &ComboBox::picked, this, [this] { searchType(); });
-    connect(cboSearchBy, &QComboBox::currentTextChanged, this, [this] { categoryChosen(); });
-    connect(dbgMyGrid, &DataGrid::picked, this, [this] { pickFromGrid(); });
+    onClick("cmdAll", &MasterScreen::reloadAll);
+    onClick("cmdNewDuplicate", &MasterScreen::duplicateRecord);
+    connect(dbgMyGrid, &DataGrid::picked, this, &MasterScreen::pickFromGrid);
     connect(dbgMyGrid, &DataGrid::headerClicked, this,
-            [this](int column) { guarded([&] { listAll(descriptor_.headerOrders.value(column)); }); });
+            [this](int column) { guarded([&] { listAll(descriptor_.columns.at(column).order); }); });
+    if (cboSearchBy) connectSearch();
+}
+
+void MasterScreen::connectSearch() {
+    onClick("cmdSearch", &MasterScreen::search);
+    connect(txtSearch, &TextBox::entered, this, &MasterScreen::search);
+    if (txtSecondSearch) connect(txtSecondSearch, &TextBox::entered, this, &MasterScreen::search);
+    if (cboType) connect(cboType, &ComboBox::picked, this, &MasterScreen::searchType);
+    connect(cboSearchBy, &QComboBox::currentTextChanged, this, &MasterScreen::fieldChosen);
+    cboSearchBy->setText(descriptor_.initialField);
+    fieldChosen();
 }

@@ -18,26 +18,28 @@ struct MasterDescriptor {
     QString firstField = {};  // the focus of a record under change
 
     QList<GridColumn> columns = {};
-    QStringList headerOrders = {};  // by column; a column beyond them orders as the default
-    QString defaultOrder = {};
-    QString listedNone = {};   // the count after a list: none,
-    QString listed = {};       // and "%1" of them
-    QString countedNone = {};  // the same for the count of the whole table
+    QString defaultOrder = {};  // also of a column without an order
+    QString listedNone = {};    // the count after a list: none,
+    QString listed = {};        // and "%1" of them
+    QString countedNone = {};   // the same for the count of the whole table
     QString counted = {};
-    QString allCaption = {};  // of cmdAll
+    QString allCaption = {};  // of cmdAll; empty: the screen has none
 
-    QList<SearchCategory> categories = {};
-    QString defaultCategory = {};
-    QStringList types = {};  // of the Type category
+    QList<SearchField> searchFields = {};  // none: the screen has no search
+    QString initialField = {};
+    QStringList types = {};  // of the field that is a choice
 
     QString notLoaded = {};      // what a move from no record says; empty: the store's own words
+    bool duplicates = true;      // a record may be taken as the start of a new one
+    bool walks = true;           // First, Previous, Next and Last go through the table
     bool locksOnShow = true;     // showing a record locks the fields
     bool editShowsLast = false;  // an edit shows its record after raising the flags, and so clears them
     bool listsAfterSave = false;
 };
 
 // The pattern of the item and the contact master: the record on show in the top half, its fields locked until
-// a command opens them; in the bottom half the grid that a search narrows and a pick shows from.
+// a command opens them; in the bottom half the grid that a search narrows and a pick shows from. The search,
+// the duplicate and the walk are there for the masters that ask for them.
 class MasterScreen : public RecordScreen {
     Q_OBJECT
   public:
@@ -70,11 +72,13 @@ class MasterScreen : public RecordScreen {
   private:
     void buildLayout();
     QWidget* recordHalf();
-    QWidget* searchLine();
+    QWidget* commandLine();
+    void addSearch(QHBoxLayout* row);
     void addSecondBox(QHBoxLayout* row);
     void addTypeList(QHBoxLayout* row);
     QGroupBox* gridHalf();
     void connectControls();
+    void connectSearch();
 
     void DisplayRecord(const QString& key);
     void LoadGrid(const Sql& where, const QString& order);
@@ -92,11 +96,13 @@ class MasterScreen : public RecordScreen {
     void move(Step step, const Box& atTheEnd);
     void showFromEnd(QString (*end)(Connection&, const MasterTable&));
 
-    void categoryChosen();
+    void onClick(const char* name, void (MasterScreen::*act)());
+    void fieldChosen();
     void search();
     void searchType();
     void listCondition(const SearchCondition& condition);
     void listAll(const QString& order = {});
+    void reloadAll();
 
     const MasterDescriptor descriptor_;
     MasterFields* fields_ = nullptr;
@@ -104,10 +110,10 @@ class MasterScreen : public RecordScreen {
 
     DataGrid* dbgMyGrid;
     QGroupBox* fraCount;
-    ComboBox* cboSearchBy;
+    ComboBox* cboSearchBy = nullptr;
     ComboBox* cboType = nullptr;
-    TextBox* txtSearch;
+    TextBox* txtSearch = nullptr;
     TextBox* txtSecondSearch = nullptr;
-    QLabel* lblSearch;
+    QLabel* lblSearch = nullptr;
     QLabel* lblDash = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "foundation/shared_routines.h"
 #include "masters/field_widths.h"
+#include "masters/master_records.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
 
@@ -55,7 +56,8 @@ Outcome SaveUnit(Connection& store, const QString& typed, bool addMode, const QS
     if (trim(typed).size() > width::unit)
         return unitFault("Unit Error!", "Please Enter Not More Than 15 Characters!");
     try {
-        if (addMode && RecordFound(store, "tblUnitMaster", "UnitCode", code))
+        const bool keepsCode = !addMode && code.compare(trim(currentUnit), Qt::CaseInsensitive) == 0;
+        if (!keepsCode && nameFound(store, "tblUnitMaster", "UnitCode", code))
             return unitFault("Error!", "System Cannot Accept Duplicate Unit!");
         writeUnit(store, code, addMode, currentUnit);
     } catch (const StoreError& error) {

@@ -35,6 +35,16 @@ TEST_F(ContactDocument, ChecksRunInTheSystemsOrder) {
     EXPECT_TRUE(isDone(save(entry)));
 }
 
+TEST_F(ContactDocument, NamesAreTheSameInEitherCaseOfAnyLetter) {
+    ContactEntry entry = goodContact();
+    const std::pair<const char*, bool> names[] = {
+        {"Niño 100%", true}, {" NIÑO 100%", false}, {"Nino 100%", true}, {"Niño 1000", true}};
+    for (const auto& [name, isNew] : names) {
+        entry.ContactName = QString::fromUtf8(name);
+        EXPECT_EQ(isDone(save(entry)), isNew) << name;
+    }
+}
+
 TEST_F(ContactDocument, StoresWhatWasTyped) {
     ContactEntry entry = goodContact();
     entry.ContactName = " O'Hara & Sons <b> ";
@@ -66,6 +76,7 @@ TEST_F(ContactDocument, AnEditTestsNoName) {
     ASSERT_TRUE(isDone(save(goodContact())));
     ContactEntry entry = goodContact();
     entry.ContactName = "MABUHAY TRADING";
+    entry.changed = {"ContactName"};
     EXPECT_TRUE(isDone(SaveContact(store(), entry, false, id_)));
     EXPECT_EQ(count("tblContactMaster WHERE ContactName = 'mabuhay trading'"), 2);
     entry.ContactName = "";

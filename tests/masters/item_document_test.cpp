@@ -128,9 +128,28 @@ TEST_F(ItemDocument, AnEditRunsNoDuplicateTest) {
     ItemEntry entry = goodItem();
     entry.ItemCode = "1000000002";
     entry.Description = "STEEL NAIL";
+    entry.changed = {"Description"};
     EXPECT_TRUE(isDone(edit(entry)));
     EXPECT_EQ(count("tblItemMaster WHERE Description = 'STEEL NAIL'"), 2);
     EXPECT_EQ(count("tblServer WHERE Server = '1000000002'"), 1) << "an edit leaves the counter";
+}
+
+// Another workstation stores prices while this one has the item on its screen.
+TEST_F(ItemDocument, AnEditWritesWhatWasChangedAndHoldsItAgainstWhatIsStored) {
+    addItem("1000000001", "STEEL NAIL");
+    store().run("UPDATE tblItemMaster SET SellingPrice = 140000, UpdatedBy = 'CLERK'");
+    ItemEntry entry = goodItem();
+    entry.Description = "OTHER";
+    EXPECT_TRUE(isDone(edit(entry)));
+    EXPECT_EQ(count("tblItemMaster WHERE Description = 'STEEL NAIL' AND UpdatedBy = 'CLERK'"), 1);
+    entry.WholesalePrice = "14.50";
+    entry.changed = {"WholesalePrice"};
+    EXPECT_EQ(faultOf(edit(entry)).focus, "txtWholesale");
+    entry.WholesalePrice = "13";
+    EXPECT_TRUE(isDone(edit(entry)));
+    EXPECT_EQ(count("tblItemMaster WHERE WholesalePrice = 130000 AND SellingPrice = 140000 AND UpdatedBy = "
+                    "'ADMIN' AND Description = 'STEEL NAIL'"),
+              1);
 }
 
 TEST_F(ItemDocument, AnEditOfNothingOrOfAnItemThatHasGoneWritesNothing) {

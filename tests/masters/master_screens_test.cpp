@@ -290,6 +290,33 @@ TEST_F(ContactScreen, AnEditClearsItsOwnFlagsAndFollowsTheGrid) {
               "Mabuhay Trading");
 }
 
+TEST_F(ContactScreen, ASaveChangesOnlyWhatAPersonDid) {
+    store().run("UPDATE tblContactMaster SET Discount = 333333, Address = ' 1 Road'");
+    person::click(screen, "cmdAll");
+    command("EditRecord");
+    set("txtTelNo", "555-0101");
+    store().run("UPDATE tblContactMaster SET CreditLimit = 77");
+    command("SaveRecord");
+    EXPECT_EQ(count("tblContactMaster WHERE TelNo = '555-0101' AND Discount = 333333 AND CreditLimit = 77 "
+                    "AND Address = ' 1 Road'"),
+              1);
+}
+
+TEST_F(ContactScreen, AClearedFormEndsTheEdit) {
+    for (const char* way : {"cmdSearch", "RefreshRecord", "ClearRecord"}) {
+        person::click(screen, "cmdAll");
+        command("EditRecord");
+        ASSERT_TRUE(enabledFields().contains("txtName"));
+        way == QString("cmdSearch") ? person::click(screen, way) : command(way);
+        EXPECT_EQ(enabledFields(), QStringList()) << way;
+        EXPECT_EQ(text("txtName"), way == QString("RefreshRecord") ? "Ana Reyes" : "") << way;
+    }
+    set("txtName", "Somebody Else");
+    person::find<QCheckBox>(screen, "chkCustomer")->setChecked(true);
+    command("SaveRecord");
+    EXPECT_EQ(count("tblContactMaster WHERE ContactName = 'Somebody Else'"), 0);
+}
+
 TEST_F(ContactScreen, TheTypeIsPickedFromItsOwnList) {
     set("cboSearchBy", "Type");
     EXPECT_FALSE(person::control(screen, "txtSearch")->isVisible());

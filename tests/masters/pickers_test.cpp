@@ -1,5 +1,6 @@
 #include "masters/frmContactFound.h"
 #include "masters/frmFound.h"
+#include "masters/order_pickers.h"
 #include "masters_screen_fixture.h"
 
 namespace {
@@ -59,6 +60,29 @@ TEST_F(Pickers, ItemsAreSearchedByKind) {
     };
     for (const Row& row : rows)
         EXPECT_EQ(listed(itemFoundSource(row.search, row.kind), "ItemCode").join(','), row.codes);
+}
+
+TEST_F(Pickers, OrdersAreThoseOfTheContactAndWithABalance) {
+    const char* const orders[][2] = {{"tblSalesMaster", "RefNo, RefDate, ContactNo, Balance"},
+                                     {"tblPurchaseMaster", "PurchaseNo, PurchaseDate, ContactNo, Balance"}};
+    for (const auto& [table, columns] : orders)
+        for (const auto& [number, contact, balance] :
+             {std::tuple{"A2", "C", 5}, {"B1", "C", 0}, {"A1", "C", -5}, {"A3", "D", 5}})
+            insertRow(store(), table, columns,
+                      {number, QDate(2026, 3, number[1] == '1' ? 1 : 2), contact, balance});
+    const auto sales = [&](const char* search, const char* purpose) {
+        return listed(salesFoundSource(search, "C", purpose), "RefNo").join(',');
+    };
+    const auto purchases = [&](const char* search, const char* mode) {
+        return listed(disbursementFoundSource(search, "C", mode), "PurchaseNo").join(',');
+    };
+    EXPECT_EQ(sales("", "R") + '|' + sales("2", "B") + '|' + sales("1", "PP"), "A1,A2|A2|B1,A1");
+    EXPECT_EQ(purchases("", "A") + '|' + purchases("1", "A") + '|' + purchases("b", "PX"), "A2,A1|A1|B1");
+    ASSERT_TRUE(openSalesFound(store(), "", "C", "R", keep("RefNo")));
+    pressIn("frmSalesFound", Qt::Key_Return);
+    ASSERT_TRUE(openDisbursementFound(store(), "", "C", "A", keep("Balance")));
+    pressIn("frmDisbursementFound", Qt::Key_Return);
+    EXPECT_EQ(picked_, (QStringList{"A1", "0.00"}));
 }
 
 TEST_F(Pickers, ThePickReadsTheRowAsTheListShowsIt) {

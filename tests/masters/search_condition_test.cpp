@@ -13,11 +13,11 @@ QString shownCondition(const SearchCondition& condition) {
 
 TEST(SearchCondition, IsBuiltByTheCategory) {
     struct Row {
-        const QList<SearchCategory>& categories;
+        const QList<SearchField>& fields;
         const char *category, *first, *second, *condition;
     };
-    const auto& items = itemSearchCategories();
-    const auto& contacts = contactSearchCategories();
+    const auto& items = itemSearchFields();
+    const auto& contacts = contactSearchFields();
     const Row rows[] = {
         {items, "Item Code", "10", "", " WHERE ItemCode LIKE ?|%10%"},
         {items, "Unit", "", "", ""},
@@ -37,7 +37,7 @@ TEST(SearchCondition, IsBuiltByTheCategory) {
         {contacts, "Type", "Customer", "", "Please select!|Please enter proper search category!"},
     };
     for (const Row& row : rows)
-        EXPECT_EQ(shownCondition(searchCondition(row.categories, row.category, row.first, row.second)),
+        EXPECT_EQ(shownCondition(searchCondition(row.fields, row.category, row.first, row.second)),
                   row.condition)
             << row.category;
 }

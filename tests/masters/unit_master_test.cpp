@@ -39,13 +39,14 @@ TEST_F(UnitMaster, SavingChecksInOrder) {
 
 TEST_F(UnitMaster, ARenamedUnitLeavesTheItemsAlone) {
     addItem("1000000001", "NAIL");
+    EXPECT_EQ(faultOf(SaveUnit(store(), "box", false, "PC")).text, "System Cannot Accept Duplicate Unit!");
+    EXPECT_TRUE(isDone(SaveUnit(store(), "pc", false, "PC"))) << "it is its own";
     EXPECT_TRUE(isDone(SaveUnit(store(), "piece", false, "PC")));
     EXPECT_EQ(UnitCodes(store()), (QStringList{"BOX", "PCS", "PIECE"}));
     EXPECT_EQ(one("SELECT Unit FROM tblItemMaster").text("Unit"), "PC");
 }
 
 TEST_F(UnitMaster, WhatTheStoreRefusesIsPassedOver) {
-    EXPECT_TRUE(isDone(SaveUnit(store(), "BOX", false, "PC"))) << "no test for an edit";
     EXPECT_TRUE(isDone(SaveUnit(store(), "NEW", false, "GONE")));
     EXPECT_EQ(UnitCodes(store()), (QStringList{"BOX", "PC", "PCS"}));
 }
