@@ -9,6 +9,7 @@
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/screen_registry.h"
+#include "platform/ui/search_keys.h"
 #include "platform/ui/text_box.h"
 
 #include <QButtonGroup>
@@ -16,12 +17,6 @@
 #include <QRadioButton>
 
 namespace {
-QList<GridColumn> gridColumns(const QList<JournalColumn>& columns) {
-    QList<GridColumn> grid;
-    for (const JournalColumn& column : columns) grid += column.grid;
-    return grid;
-}
-
 Box locked() {
     return critical("Record Lock!",
                     "Record is Being Locked! You Cannot Edit This Record! Please Ask Administrator to Unlock "
@@ -51,7 +46,7 @@ Journal::Journal(const JournalBook& book)
     auto* top = new QHBoxLayout;
     top->addWidget(searchFrame(), 1);
     top->addWidget(sortFrame());
-    dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", gridColumns(book.columns));
+    dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", book.columns);
     dbgMyGrid->setAccessibleName("Documents");
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
@@ -82,8 +77,8 @@ QRadioButton* Journal::addOption(QButtonGroup* group, QGridLayout* grid, const Q
 QWidget* Journal::searchFrame() {
     cboSearch = new ComboBox("cboSearch", ComboBox::Open);
     cboSearch->setKeyFilter(keys::freeText());
-    for (const JournalCategory& category : book_.tables.categories) cboSearch->addItem(category.name);
-    cboSearch->setText(book_.initialCategory);
+    cboSearch->addItems(captionsOf(book_.tables.fields));
+    cboSearch->setText(book_.initialField);
     txtSearch = new TextBox("txtSearch");
     txtSearch->setMinimumWidth(form::charactersWide(txtSearch, 24));
     txtSearch->setAccessibleName("Search text");
@@ -164,14 +159,7 @@ bool Journal::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void Journal::fitKeyFilter() {
-    const QString chosen = trim(cboSearch->text());
-    KeyFilter filter = keys::freeText();
-    for (const JournalCategory& category : book_.tables.categories) {
-        if (chosen != category.name) continue;
-        if (category.kind == JournalCategory::Date) filter = keys::date();
-        if (category.kind == JournalCategory::Amount) filter = keys::amount();
-    }
-    txtSearch->setKeyFilter(filter);
+    txtSearch->setKeyFilter(searchKeys(findField(book_.tables.fields, trim(cboSearch->text()))));
 }
 
 void Journal::refreshGrid() {

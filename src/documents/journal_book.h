@@ -5,12 +5,6 @@
 #include "platform/ui/child_screen.h"
 #include "platform/ui/data_grid.h"
 
-// A column of a journal, and the order that a click on its header gives.
-struct JournalColumn {
-    GridColumn grid;
-    const char* order;
-};
-
 // A sort option: its name, its caption, and the order that it gives.
 struct JournalSort {
     const char* name;
@@ -46,7 +40,7 @@ struct JournalBook {
     // Shows the paper of a document, null when it has no rows; a book without the function has no paper.
     ChildScreen* (*print)(const QString& number);
     Box nothingToPrint = exclamation("Nothing to Print!", "No Records to Print...");
-    const char* initialCategory;
+    const char* initialField;
     QList<JournalSort> sorts;
-    QList<JournalColumn> columns;
+    QList<GridColumn> columns;
 };

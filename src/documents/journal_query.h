@@ -1,24 +1,16 @@
 #pragma once
 #include "platform/outcome.h"
-#include "platform/store/sql.h"
+#include "platform/search_field.h"
 
-#include <QList>
 #include <QString>
 #include <optional>
-
-// One entry of the search criteria: the column it looks in, and how what was typed is read.
-struct JournalCategory {
-    const char* name;
-    const char* column;
-    enum Kind { Text, Date, Amount } kind = Text;
-};
 
 // The rows that a journal lists: its master table, joined to the contact of each document.
 struct JournalTables {
     const char* table;
     const char* contactColumn;
     const char* searchOrder;  // of a search that finds neither a sort nor a filter set
-    QList<JournalCategory> categories;
+    QList<SearchField> fields;
     // What is said of a search text that is no date or no amount; null: what the store would say.
     const char* notADate = nullptr;
     const char* notAnAmount = nullptr;
@@ -41,9 +33,9 @@ class JournalQuery {
     // searching: a search text stands in the screen, so that the filter follows its clause.
     void setPrintedFilter(bool printed, bool searching);
 
-    // Replaces the search clause; an empty text keeps the former one. A category that is not there, or a text
+    // Replaces the search clause; an empty text keeps the former one. A field that is not there, or a text
     // that its column cannot take, is a fault and changes nothing.
-    std::optional<Fault> search(const QString& category, const QString& text, bool exact);
+    std::optional<Fault> search(const QString& caption, const QString& text, bool exact);
 
   private:
     bool sorts() const { return tail_.startsWith(" ORDER BY"); }

@@ -4,7 +4,7 @@
 #include "purchases/print_purchase.h"
 
 const JournalBook& purchaseJournal() {
-    using Category = JournalCategory;
+    using Field = SearchField;
     static const JournalBook book{
         .screen = "frmPurchaseGrid",
         .caption = "Purchase Journal Data Grid . . .",
@@ -13,12 +13,12 @@ const JournalBook& purchaseJournal() {
         .tables = {.table = "tblPurchaseMaster",
                    .contactColumn = "ContactNo",
                    .searchOrder = " ORDER BY PurchaseDate DESC",
-                   .categories = {{"Purchase No.", "PurchaseNo"},
-                                  {"Purchase Date", "PurchaseDate", Category::Date},
-                                  {"Supplier Name", "ContactName"},
-                                  {"Total Amount", "PurchaseAmount", Category::Amount},
-                                  {"Remarks", "tblPurchaseMaster.Remarks"},
-                                  {"Who Updated", "tblPurchaseMaster.UpdatedBy"}}},
+                   .fields = {{"Purchase No.", "PurchaseNo"},
+                              {"Purchase Date", "PurchaseDate", Field::Date},
+                              {"Supplier Name", "ContactName"},
+                              {"Total Amount", "PurchaseAmount", Field::Amount},
+                              {"Remarks", "tblPurchaseMaster.Remarks"},
+                              {"Who Updated", "tblPurchaseMaster.UpdatedBy"}}},
         .deletion = {.queuedAs = "P",
                      .guard =
                          DeleteGuard{"tblDisbursementDetails", "PuchaseID",
@@ -29,20 +29,20 @@ const JournalBook& purchaseJournal() {
         .deleteRight = "DeletePOAccess",
         .printRight = "PrintPOAccess",
         .print = PrintPurchaseOrder,
-        .initialCategory = "Supplier Name",
+        .initialField = "Supplier Name",
         .sorts = {{"optPackNo", "P.O. No.", " ORDER BY PurchaseNo ASC"},
                   {"optCustomer", "Supplier", " ORDER BY ContactName ASC"},
                   {"optPackDate", "P.O. Date", " ORDER BY PurchaseDate ASC"},
                   {"optTotalAmount", "Total Amount", " ORDER BY PurchaseAmount ASC"}},
         .columns = {
-            {{"P.O. No.", "PurchaseNo", GridColumn::Text, 14}, " ORDER BY PurchaseNo ASC"},
-            {{"P.O. Date", "PurchaseDate", GridColumn::Date, 11}, " ORDER BY PurchaseDate ASC"},
-            {{"Supplier", "ContactName", GridColumn::Text, 30}, " ORDER BY ContactName ASC"},
-            {{"Total Amount", "PurchaseAmount", GridColumn::Amount, 15}, " ORDER BY PurchaseAmount ASC"},
-            {{"Locked", "RecordLock", GridColumn::Flag, 8}, " ORDER BY RecordLock ASC"},
-            {{"Printed", "Printed", GridColumn::Flag, 8}, " ORDER BY Printed ASC"},
-            {{"Updated By", "UpdatedBy", GridColumn::Text, 12}, " ORDER BY tblPurchaseMaster.UpdatedBy ASC"},
-            {{"Last Update", "DateUpdate", GridColumn::DateTime, 19},
+            {"P.O. No.", "PurchaseNo", GridColumn::Text, 14, " ORDER BY PurchaseNo ASC"},
+            {"P.O. Date", "PurchaseDate", GridColumn::Date, 11, " ORDER BY PurchaseDate ASC"},
+            {"Supplier", "ContactName", GridColumn::Text, 30, " ORDER BY ContactName ASC"},
+            {"Total Amount", "PurchaseAmount", GridColumn::Amount, 15, " ORDER BY PurchaseAmount ASC"},
+            {"Locked", "RecordLock", GridColumn::Flag, 8, " ORDER BY RecordLock ASC"},
+            {"Printed", "Printed", GridColumn::Flag, 8, " ORDER BY Printed ASC"},
+            {"Updated By", "UpdatedBy", GridColumn::Text, 12, " ORDER BY tblPurchaseMaster.UpdatedBy ASC"},
+            {"Last Update", "DateUpdate", GridColumn::DateTime, 19,
              " ORDER BY tblPurchaseMaster.DateUpdate ASC"}}};
     return book;
 }

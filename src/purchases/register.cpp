@@ -1,11 +1,13 @@
 #include "purchases/register.h"
 
 #include "platform/ui/screen_registry.h"
+#include "purchases/frmDisbursementGrid.h"
 #include "purchases/frmPurchaseEntry.h"
 #include "purchases/frmPurchaseGrid.h"
 
 void registerPurchaseScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmPurchaseGrid", [] { return new frmPurchaseGrid; });
+    screens.add("frmDisbursementGrid", [] { return new frmDisbursementGrid; });
     screens.add("frmPurchaseEntry", [] { return new frmPurchaseEntry; });
 }

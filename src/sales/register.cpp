@@ -1,11 +1,13 @@
 #include "sales/register.h"
 
 #include "platform/ui/screen_registry.h"
+#include "sales/frmReceiptGrid.h"
 #include "sales/frmSalesEntry.h"
 #include "sales/frmSalesGrid.h"
 
 void registerSalesScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmSalesGrid", [] { return new frmSalesGrid; });
+    screens.add("frmReceiptGrid", [] { return new frmReceiptGrid; });
     screens.add("frmSalesEntry", [] { return new frmSalesEntry; });
 }
