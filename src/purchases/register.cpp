@@ -4,10 +4,12 @@
 #include "purchases/frmDisbursementGrid.h"
 #include "purchases/frmPurchaseEntry.h"
 #include "purchases/frmPurchaseGrid.h"
+#include "purchases/issued_checks.h"
 
 void registerPurchaseScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmPurchaseGrid", [] { return new frmPurchaseGrid; });
     screens.add("frmDisbursementGrid", [] { return new frmDisbursementGrid; });
     screens.add("frmPurchaseEntry", [] { return new frmPurchaseEntry; });
+    screens.add("frmNegPayableChecks", [] { return new CheckList(issuedCheckScreens); });
 }

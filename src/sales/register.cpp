@@ -4,10 +4,12 @@
 #include "sales/frmReceiptGrid.h"
 #include "sales/frmSalesEntry.h"
 #include "sales/frmSalesGrid.h"
+#include "sales/received_checks.h"
 
 void registerSalesScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmSalesGrid", [] { return new frmSalesGrid; });
     screens.add("frmReceiptGrid", [] { return new frmReceiptGrid; });
     screens.add("frmSalesEntry", [] { return new frmSalesEntry; });
+    screens.add("frmNegReceivableChecks", [] { return new CheckList(receivedCheckScreens); });
 }
