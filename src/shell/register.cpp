@@ -5,6 +5,8 @@
 #include "shell/frmCompanySetup.h"
 #include "shell/frmForUpload.h"
 #include "shell/frmRecordLock.h"
+#include "shell/frmUserDetails.h"
+#include "shell/frmUserGrid.h"
 #include "shell/mdiMain.h"
 
 void registerShellScreens() {
@@ -14,4 +16,6 @@ void registerShellScreens() {
     screens.add("frmCompanySetup", [] { return new frmCompanySetup; });
     screens.add("frmForUpload", [] { return new frmForUpload; });
     screens.add("frmRecordLock", [] { return new frmRecordLock; });
+    screens.add("frmUserDetails", [] { return new frmUserDetails; });
+    screens.add("frmUserGrid", [] { return new frmUserGrid; });
 }
