@@ -198,5 +198,7 @@ QStringList firstStatements() {
 }  // namespace
 
 void registerSchema() {
-    setSchemaSteps({{"The tables and indexes of the first version.", firstStatements()}});
+    setSchemaSteps({{"The tables and indexes of the first version.", firstStatements()},
+                    {"The day of a cashier is opened once.",
+                     {"CREATE UNIQUE INDEX tblPOS_CashierDay ON tblPOS (Cashier, SalesDate)"}}});
 }

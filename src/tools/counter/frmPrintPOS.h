@@ -1,0 +1,23 @@
+#pragma once
+#include "platform/ui/child_screen.h"
+
+class ComboBox;
+class PrintChoice;
+class TextBox;
+
+// Chooses a cashier, or all of them, and a day, and prints the audit of its collections.
+class frmPrintPOS : public ChildScreen {
+    Q_OBJECT
+  public:
+    frmPrintPOS();
+
+  public slots:
+    void PrintRecord();
+
+  private:
+    void fillCashiers();
+
+    ComboBox* cboCashier;
+    TextBox* txtDate;
+    PrintChoice* fraChoice;
+};
