@@ -181,7 +181,7 @@ void frmOpening::refuse() {
 void frmOpening::enter(const QString& fullName) {
     const BetweenWindows goingOn;
     session().CurrentUserName = fullName;
-    session().CurrentUserCode = txtUserName->text();
+    session().CurrentUserCode = sessionUserCode(StoreConnection(), txtUserName->text());
     close();
     if (!guarded([] { ScreenRegistry::instance().open("mdiMain"); })) showLogin();
 }

@@ -12,6 +12,14 @@
 // not. Codes compare without regard to case, passwords exactly.
 std::optional<QString> ValidateLogin(Connection& store, const QString& userName, const QString& password);
 
+// The code that a session goes by: as typed where the store finds its user by that, else as it is stored (the
+// store tells ñ from Ñ, the login does not).
+QString sessionUserCode(Connection& store, const QString& userName);
+
+// True when a login with this password would fit what is stored of it. Not every password survives being
+// scrambled, and blanks at its ends are not compared.
+bool passwordLetsIn(const QString& password);
+
 struct PasswordChange {
     QString userCode;
     QString oldPassword;

@@ -5,10 +5,13 @@
 
 #include <QFile>
 
+// A thousand characters count, of four bytes at most. A file may be of any size.
+static constexpr qint64 longestLine = 4 * 1000 + 1;
+
 std::optional<QString> SettingLine(const char* name) {
     QFile file(programFolder().filePath(name));
     if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-    QByteArray line = file.readLine();
+    QByteArray line = file.readLine(longestLine);
     if (line.isEmpty()) return std::nullopt;
     while (line.endsWith('\n') || line.endsWith('\r')) line.chop(1);
     return QString::fromUtf8(line);

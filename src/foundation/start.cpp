@@ -26,11 +26,20 @@ std::function<QSize()>& sizeDoor() {
 QSize screenSize() {
     if (sizeDoor()) return sizeDoor()();
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen ? screen->size() : QSize();
+    return screen ? screen->size() * screen->devicePixelRatio() : QSize();
 }
 
 bool openLogin() {
     return guarded([] { ScreenRegistry::instance().open("frmOpening"); });
+}
+
+// A store that cannot even tell is left to the login's own box.
+bool hasUsers() {
+    try {
+        return !StoreConnection().execute("SELECT 1 FROM tblUserMaster LIMIT 1").eof();
+    } catch (const StoreError&) {
+        return true;
+    }
 }
 
 }  // namespace
@@ -51,6 +60,12 @@ bool Main() {
         showBox(exclamation(
             "Database Not Found!",
             "Database not found!, Please Place the Database with the Same Path as the .EXE File"));
+        return false;
+    }
+    if (!hasUsers()) {
+        showBox(exclamation("No Users!",
+                            "This store holds no users, so nobody can log in. Please put a copy of the "
+                            "database in its place that does."));
         return false;
     }
     ReadPrinterIni();

@@ -1,6 +1,7 @@
 #include "shell/frmShortcuts.h"
 
 #include "foundation/shared_routines.h"
+#include "platform/ui/boxes.h"
 #include "platform/ui/enter_key.h"
 #include "platform/ui/form.h"
 #include "platform/ui/icons.h"
@@ -85,21 +86,22 @@ constexpr const char* panelStyle =
 
 }  // namespace
 
-frmShortcuts::frmShortcuts(Connection& store) : lvMenu(new QListWidget) {
+frmShortcuts::frmShortcuts(Connection& store)
+    : store_(store), lblCompany(heading({}, 1.8, true)), lvMenu(new QListWidget) {
     setObjectName("frmShortcuts");
     setWindowTitle("System Shortcuts");
     setAccessibleName(windowTitle());
     setStyleSheet(panelStyle);
-    build(GetCompanyName(store));
+    build();
     fill(store);
 }
 
-void frmShortcuts::build(const QString& companyName) {
+void frmShortcuts::build() {
     auto* banner = new QFrame;
     banner->setObjectName("banner");
     auto* words = new QVBoxLayout(banner);
     words->setContentsMargins(24, 16, 24, 16);
-    words->addWidget(heading(companyName, 1.8, true));
+    words->addWidget(lblCompany);
     words->addWidget(heading(windowTitle(), 1.1, false));
 
     lvMenu->setObjectName("lvMenu");
@@ -123,6 +125,12 @@ void frmShortcuts::build(const QString& companyName) {
     room->setContentsMargins(24, 20, 24, 20);
     room->addWidget(lvMenu);
     layout->addLayout(room, 1);
+}
+
+// Each time that it comes back: the company may have got another name meanwhile.
+void frmShortcuts::showEvent(QShowEvent* event) {
+    guarded([this] { lblCompany->setText(GetCompanyName(store_)); });
+    QFrame::showEvent(event);
 }
 
 void frmShortcuts::fill(Connection& store) {

@@ -2,6 +2,7 @@
 #include <QFrame>
 
 class Connection;
+class QLabel;
 class QListWidget;
 class QListWidgetItem;
 
@@ -21,12 +22,15 @@ class frmShortcuts : public QFrame {
 
   protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
   private:
-    void build(const QString& companyName);
+    void build();
     void fill(Connection& store);
     void add(const char* caption, const char* key, const char* icon);
     void choose(const QListWidgetItem* item);
 
+    Connection& store_;
+    QLabel* lblCompany;
     QListWidget* lvMenu;
 };

@@ -58,12 +58,29 @@ TEST_F(LoginTest, OnlyTheRightPasswordLetsIn) {
     }
 }
 
+// What the rights are looked up by must find the user that the password has let in.
+TEST_F(LoginTest, TheSessionGoesByACodeThatTheStoreFinds) {
+    addUser(store(), "PEÑA", "Secret1");
+    for (const auto& [typed, code] : {std::pair("peña", "PEÑA"), {" anna", "anna"}, {"ANNA ", "ANNA "}})
+        EXPECT_EQ(sessionUserCode(store(), typed), code);
+}
+
+TEST_F(LoginTest, AStoreWithoutUsersSaysSo) {
+    store().run("DELETE FROM tblUserMaster");
+    BoxScript boxes;
+    boxes.expect("No Users!");
+    EXPECT_FALSE(Main());
+}
+
 TEST_F(LoginTest, APasswordChangesOnlyWhenEveryTestPasses) {
     const struct {
         PasswordChange change;
         const char *title, *focus;
     } cases[] = {{{"anna", "Secret1", "abcd", "abce"}, "Password does not match!", "txtNewPassword"},
                  {{"anna", "Secret1", "ab", "ab"}, "Password Error!", "txtNewPassword"},
+                 {{"anna", "Secret1", "1234a", "1234a"}, "Password Error!", "txtNewPassword"},
+                 {{"anna", "Secret1", "abc ", "abc "}, "Password Error!", "txtNewPassword"},
+                 {{"anna", "Secret1", "niño1", "niño1"}, "Password Error!", "txtNewPassword"},
                  {{"anna", "secret1", "abcd", "abcd"}, "Invalid!", "txtOldPassword"}};
     for (const auto& row : cases) {
         const Outcome outcome = changePassword(store(), row.change);
@@ -75,11 +92,11 @@ TEST_F(LoginTest, APasswordChangesOnlyWhenEveryTestPasses) {
     const Outcome unknown = changePassword(store(), {"nobody", "x", "abcd", "abcd"});
     EXPECT_EQ(std::get<Done>(unknown).boxes.first().title, "Error!");
 
-    const Outcome changed = changePassword(store(), {"ANNA", "Secret1", " xyz", " xyz"});
+    const Outcome changed = changePassword(store(), {"ANNA", "Secret1", "x yz", "x yz"});
     EXPECT_EQ(std::get<Done>(changed).boxes.first().text, "Password Successfully Changed!");
     EXPECT_FALSE(ValidateLogin(store(), "anna", "Secret1"));
     EXPECT_EQ(store().execute("SELECT * FROM tblUserMaster WHERE UserCode = 'anna'").text("Password"),
-              EncryptText(" xyz"));
+              EncryptText("x yz"));
 }
 
 // The screen, with what follows it caught.

@@ -98,6 +98,8 @@ TEST_F(StoreTest, WhatIsNoSoundStoreIsRefusedAndLeftAsItIs) {
     otherProgram[68] = 'X';  // the mark in the header
     QByteArray newer = contentOf(path());
     newer[63] = 9;  // the version in the header
+    QByteArray negative = contentOf(path());
+    negative[60] = '\xff';
     const struct {
         const char* name;
         QByteArray bytes;
@@ -109,6 +111,7 @@ TEST_F(StoreTest, WhatIsNoSoundStoreIsRefusedAndLeftAsItIs) {
                   {"truncated", contentOf(path()).left(4096), word, "damaged"},
                   {"other program", otherProgram, word, "not a store of this program"},
                   {"newer", newer, word, "newer version"},
+                  {"before the first", negative, word, "damaged"},
                   {"wrong password", contentOf(path()), "open Sesame", "not a valid password"},
                   {"no password", contentOf(path()), "", "not a valid password"}};
     for (const auto& fault : faults) {

@@ -20,9 +20,20 @@ constexpr int keyLength = 32;
     throw StoreError(StoreError::general, QString("The store \"%1\" cannot be opened: %2").arg(path, reason));
 }
 
+constexpr const char* damaged = "the file is damaged or is not a store.";
+
+// What every store of ours answers.
+Recordset ownRow(Connection& store, const QString& query) {
+    try {
+        return store.execute(query);
+    } catch (const StoreError& error) {
+        if (error.number() == StoreError::busy) throw;
+        refuse(store.path(), damaged);
+    }
+}
+
 qint64 pragma(Connection& store, const char* name) {
-    const Recordset answer = store.execute(QString("SELECT * FROM pragma_%1").arg(name));
-    return answer.integer(name);
+    return ownRow(store, QString("SELECT * FROM pragma_%1").arg(name)).integer(name);
 }
 
 QByteArray verifier(const QString& password, const QByteArray& salt, int rounds) {
@@ -47,22 +58,17 @@ void requireWritableFile(const QString& path) {
 }
 
 void requireOwnStore(Connection& store) {
-    qint64 mark = 0;
-    try {
-        mark = pragma(store, "application_id");
-    } catch (const StoreError& error) {
-        if (error.number() == StoreError::busy) throw;
-        refuse(store.path(), "the file is damaged or is not a store.");
-    }
-    if (mark != applicationId) refuse(store.path(), "the file is not a store of this program.");
+    if (pragma(store, "application_id") != applicationId)
+        refuse(store.path(), "the file is not a store of this program.");
     if (sqlite3_db_readonly(store.handle(), "main") != 0) refuse(store.path(), "the file is read-only.");
-    if (pragma(store, "user_version") > schemaVersion())
-        refuse(store.path(), "it was written by a newer version of this program.");
+    const qint64 version = pragma(store, "user_version");
+    if (version < 0) refuse(store.path(), damaged);
+    if (version > schemaVersion()) refuse(store.path(), "it was written by a newer version of this program.");
 }
 
 void requirePassword(Connection& store, const QString& password) {
-    const Recordset row = store.execute("SELECT Salt, Rounds, Verifier FROM StorePassword");
-    if (row.eof()) refuse(store.path(), "the file is damaged or is not a store.");
+    const Recordset row = ownRow(store, "SELECT Salt, Rounds, Verifier FROM StorePassword");
+    if (row.eof()) refuse(store.path(), damaged);
     const QByteArray given =
         verifier(password, row.value("Salt").toByteArray(), static_cast<int>(row.integer("Rounds")));
     if (given != row.value("Verifier").toByteArray()) refuse(store.path(), "not a valid password.");
