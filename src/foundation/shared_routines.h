@@ -9,7 +9,7 @@ class ComboBox;
 
 // The small routines that every screen repeats. Table and column names are the program's own texts; values
 // are always bound. Lookups by a typed code or name ignore trailing blanks. Store errors go to the caller
-// unless told otherwise.
+// unless the routine says otherwise.
 
 // Fills a combo with the column's values, trimmed, null as empty. showEmpty: a box when the table is empty,
 // before the combo is cleared. Errors show their own box.

@@ -1,7 +1,7 @@
 #pragma once
 #include "masters/master_records.h"
 
-// The rules of the item master. Without a window; failures are StoreError unless told.
+// The rules of the item master. Without a window; failures are StoreError unless said otherwise.
 
 inline constexpr MasterTable itemMaster{"tblItemMaster", "ItemCode"};
 

@@ -241,11 +241,20 @@ void mdiMain::runShortcut(const QString& key, const QString& caption) {
     passOverErrors(key, [&] { openChosenScreen(key, {}, caption); });
 }
 
-// In the order they were opened; stops at the first that stays.
+// All are asked, in the order they were opened, before the first is closed: when one stays, all stay.
 bool mdiMain::closeAll() {
-    for (const QPointer<ChildScreen> screen : ScreenRegistry::instance().openScreens())
-        if (screen && !screen->unload()) return false;
-    return true;
+    const QList<ChildScreen*> open = ScreenRegistry::instance().openScreens();
+    const QList<QPointer<ChildScreen>> screens(open.begin(), open.end());
+    const auto agrees = [](const QPointer<ChildScreen>& screen) {
+        return !screen || screen->agreeToUnload();
+    };
+    const bool all = std::ranges::all_of(screens, agrees);
+    for (const QPointer<ChildScreen>& screen : screens)
+        if (screen && all)
+            screen->unload();
+        else if (screen)
+            screen->stayOpen();
+    return all;
 }
 
 void mdiMain::closeEvent(QCloseEvent* event) {

@@ -44,15 +44,25 @@ bool ChildScreen::unload() {
 }
 
 // One question for each attempt: a second attempt while it is open changes nothing.
-void ChildScreen::closeEvent(QCloseEvent* event) {
-    if (state_ == Unloaded) return event->accept();
-    if (state_ == Asking) return event->ignore();
+bool ChildScreen::agreeToUnload() {
+    if (state_ != Open) return state_ != Asking;
     state_ = Asking;
     bool leaves = false;
     guarded([&] { leaves = queryUnload(); });
-    state_ = leaves ? Unloaded : Open;
-    event->setAccepted(leaves);
-    if (leaves) leave();
+    state_ = leaves ? Agreed : Open;
+    return leaves;
+}
+
+void ChildScreen::stayOpen() {
+    if (state_ == Agreed) state_ = Open;
+}
+
+void ChildScreen::closeEvent(QCloseEvent* event) {
+    if (state_ == Unloaded) return event->accept();
+    event->setAccepted(agreeToUnload());
+    if (!event->isAccepted()) return;
+    state_ = Unloaded;
+    leave();
 }
 
 void ChildScreen::leave() {

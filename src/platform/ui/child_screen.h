@@ -47,10 +47,14 @@ class ChildScreen : public QWidget {
     virtual bool receive(const ScreenArguments& arguments);
     // Closes the screen through its closing question. False when it stays.
     bool unload();
+    // Asks the closing question now. True: an unload() that follows closes without asking again, until
+    // stayOpen() takes that back.
+    bool agreeToUnload();
+    void stayOpen();
     bool hasUnloaded() const { return state_ == Unloaded; }
-    // The told Form_QueryUnload: false keeps the screen open. Asked once for each attempt to close.
+    // False keeps the screen open. Asked once for each attempt to close.
     virtual bool queryUnload() { return true; }
-    // The told Form_Activate and Form_Deactivate. Deactivated means another part of this program came to the
+    // The screen came to the front, or left it. Deactivated means another part of this program came to the
     // front, not a box, a popup that this screen opened, or another program; activated means coming back from
     // there. They come at the next turn of the event loop, when the focus has settled.
     virtual void activated() {}
@@ -66,7 +70,7 @@ class ChildScreen : public QWidget {
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
-    // The told Form_Unload: once, when it really closes.
+    // Once, when it really closes.
     virtual void unloading() {}
 
   private:
@@ -75,7 +79,7 @@ class ChildScreen : public QWidget {
 
     Placement placement_;
     Kind kind_;
-    enum { Open, Asking, Unloaded } state_ = Open;
+    enum { Open, Asking, Agreed, Unloaded } state_ = Open;
     QPointer<ChildScreen> opener_;
 };
 
@@ -90,5 +94,5 @@ class RecordScreen : public ChildScreen {
     bool mblnUpdated = false;
 };
 
-// The next field, as Enter gives it (the told "{TAB}").
+// The next field, as Enter gives it.
 void focusNextField(QWidget* screen);

@@ -33,7 +33,7 @@ class ComboBox : public QComboBox, public FocusField {
     void focusLost();
     void keyTyped();
     void entered();
-    void picked();  // a person chose an entry (the told Click)
+    void picked();  // a person chose an entry
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;

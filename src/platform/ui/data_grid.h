@@ -14,7 +14,7 @@ struct GridColumn {
 
 class GridModel;
 
-// The told data grid with its data control: a snapshot of a query that fetches as it scrolls. The first
+// A data grid with its data control: a snapshot of a query that fetches as it scrolls. The first
 // screenful is one query with a limit; scrolling leaves out and repeats no row. Rows are one-lined, read
 // only, selected whole.
 class DataGrid : public QTableView {
@@ -37,7 +37,7 @@ class DataGrid : public QTableView {
 
     bool isEmpty() const;
     qint64 recordCount() const;  // of the whole query, counted when asked
-    // The told "current row" of the data control: the selected one, the first one until a person moves.
+    // The current row of the data control: the selected one, the first one until a person moves.
     bool hasCurrent() const;
     // Of any column of the query, trimmed; a column that the grid shows, as it shows it. Empty with no row,
     // and for a row that has gone from the store since.

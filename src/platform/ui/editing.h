@@ -4,5 +4,5 @@ namespace editing {
 void cut();
 void copy();
 void paste();
-void selectAll();  // the told SelectActiveText
+void selectAll();  // of the field that has the focus
 }  // namespace editing

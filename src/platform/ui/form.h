@@ -16,7 +16,7 @@ QLabel* label(const QString& text, QWidget* buddy = nullptr);
 // A label and its control in a row of a grid; the control takes the columns that follow.
 void row(QGridLayout* grid, int row, int column, const QString& text, QWidget* control, int span = 1);
 QPushButton* button(const QString& name, const QString& caption, const QString& icon = {});
-// A button with a picture only: the text is its tool tip and accessible name (the told img... controls).
+// A button with a picture only: the text is its tool tip and accessible name (the controls named img...).
 QToolButton* imageButton(const QString& name, const QString& icon, const QString& text);
 QGroupBox* frame(const QString& name, const QString& caption);
 // The buttons at the foot of a screen: side by side at the right end.

@@ -11,7 +11,7 @@ class QProgressBar;
 
 // The shared progress box: lblStatus and pbrStatus. Not modal, centred; the window keeps painting while the
 // work goes on, and takes no input. Work within the work may begin and end on the same box: it then shows the
-// inner work, and the outer one again after it. However often it is told, it paints some twenty times a
+// inner work, and the outer one again after it. However often it is set, it paints some twenty times a
 // second.
 class frmStatus : public QWidget, public Progress {
     Q_OBJECT

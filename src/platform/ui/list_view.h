@@ -1,7 +1,7 @@
 #pragma once
 #include <QTreeView>
 
-// A list of rows of texts: the told list control. The texts are the data; a row is its texts in column order.
+// A list of rows of texts. The texts are the data; a row is its texts in column order.
 // Amount columns stand right. Sorting by a header compares amounts as numbers and dates as dates, and keeps
 // the order of equal rows. Enter, Insert, Delete and F2 go on to the screen when nobody is connected to their
 // signals.

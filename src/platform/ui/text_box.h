@@ -29,9 +29,8 @@ class TextBox : public QLineEdit, public FocusField {
 
   signals:
     void focusGained();
-    void
-    focusLost();      // the told LostFocus: the focus went to another control of the program (see FocusField)
-    void keyTyped();  // the told KeyPress: a key went into the box, or a person cut or pasted
+    void focusLost();  // the focus went to another control of the program (see FocusField)
+    void keyTyped();   // a key went into the box, or a person cut or pasted
     void keyReleased();
     void entered();  // Enter
 

@@ -19,9 +19,9 @@ class ReportPreview;
 
 // What a report does at its end and at its close.
 struct PreviewHooks {
-    // The told ReportEnd: once, when the window is open and all pages are laid. May unload the preview.
+    // Once, when the window is open and all pages are laid. May unload the preview.
     std::function<void(ReportPreview& preview)> finished = {};
-    // The told QueryClose: when the preview of a complete report closes. What it throws keeps it open.
+    // When the preview of a complete report closes. What it throws keeps it open.
     // One that is closed before its last page has nothing to ask about.
     std::function<void()> queryClose = {};
 };

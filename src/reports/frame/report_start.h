@@ -5,7 +5,7 @@
 
 class ReportPreview;
 
-// Starts reports, and does what they are told to do at their end and when they close. A run keeps the values
+// Starts reports, and does what belongs to their end and to their close. A run keeps the values
 // that it was started with (target, ReportFromEntry, ExportFileName): whatever is started
 // while its preview stands open, it ends and asks as its own start was.
 
