@@ -41,7 +41,7 @@ const JournalBook& disbursementJournal() {
                     {"Printed", "Printed", GridColumn::Flag, 8, " ORDER BY Printed ASC"},
                     {"Updated By", "UpdatedBy", GridColumn::Text, 12,
                      " ORDER BY tblDisbursementMaster.UpdatedBy ASC"},
-                    {"Last Update", "DateUpdate", GridColumn::DateTime, 19,
+                    {"Last Update", "DateUpdate", GridColumn::Date, 12,
                      " ORDER BY tblDisbursementMaster.DateUpdate ASC"}}};
     return book;
 }

@@ -21,12 +21,14 @@ QLabel* large(const QString& name, const QString& text, double factor) {
 
 frmReceiptAnnouce::frmReceiptAnnouce(const QString& customer, Currency balance)
     : ChildScreen("frmReceiptAnnouce", "Customer Balance", Centred, Popup) {
+    const QString owed = formatNumber(balance, mask::amount);
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(customer + ": " + owed);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(32, 24, 32, 24);
     layout->setSpacing(16);
     layout->addWidget(large("lblCustomerName", customer, 1.3));
-    layout->addWidget(large("lblCustomerBalance", formatNumber(balance, mask::amount), 1.8));
+    layout->addWidget(large("lblCustomerBalance", owed, 1.8));
 }
 
 void frmReceiptAnnouce::keyPressEvent(QKeyEvent* event) {
