@@ -354,6 +354,16 @@ TEST_F(StoreTest, ValuesAreKeptInTheFormOfTheirColumn) {
     EXPECT_EQ(row.text("PriceType") + row.text("PiecesType"), "integerinteger");
     EXPECT_EQ(row.integer("Pieces"), 7);
     EXPECT_EQ(row.integer("Sold"), -1);
+    const Recordset sums =
+        store.execute("SELECT COUNT(*) AS Goods, count(*), SUM(Price) AS Worth FROM tblGood");
+    EXPECT_EQ(sums.integer("Goods") + sums.integer("count(*)"), 2);
+    EXPECT_EQ(sums.currency("Worth"), Currency::fromInteger(30));
+    for (const char* number : {"Goods", "count(*)"})
+        EXPECT_EQ(numberThrown([&] { sums.currency(number); }), StoreError::typeMismatch);
+    for (const char* number : {"Pieces", "Sold", "Name"})
+        EXPECT_EQ(numberThrown([&] { row.currency(number); }), StoreError::typeMismatch) << number;
+    EXPECT_EQ(numberThrown([&] { row.integer("Price"); }), StoreError::typeMismatch);
+    EXPECT_EQ(numberThrown([&] { sums.integer("Worth"); }), StoreError::typeMismatch);
     EXPECT_EQ(row.date("Since"), QDate(2024, 2, 29));
     EXPECT_EQ(row.dateTime("Since"), QDateTime(QDate(2024, 2, 29), QTime(0, 0)));
     EXPECT_FALSE(row.isNull("Name"));

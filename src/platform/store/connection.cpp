@@ -101,13 +101,17 @@ void Connection::requireUnit() const {
 qint64 Connection::lastRow() const { return sqlite3_last_insert_rowid(handle()); }
 
 // The columns of a row of an updatable set: the row's number, then those of the table.
-std::shared_ptr<const QHash<QString, int>> Connection::tableColumns(const QString& table) {
-    auto& known = d_->positions[table];
+std::shared_ptr<const RecordsetColumns> Connection::tableColumns(const QString& table) {
+    auto& known = d_->columns[table];
     if (known) return known;
     QStringList names{"#row"};
-    auto rows = execute({"SELECT name FROM pragma_table_info(?) ORDER BY cid", {table}});
-    for (; !rows.eof(); rows.moveNext()) names += rows.text("name");
-    return known = columnPositions(names);
+    QList<ColumnKind> kinds{ColumnKind::Integer};
+    auto rows = execute({"SELECT name, type FROM pragma_table_info(?) ORDER BY cid", {table}});
+    for (; !rows.eof(); rows.moveNext()) {
+        names += rows.text("name");
+        kinds += declaredKind(rows.text("type"));
+    }
+    return known = columnsOf(names, kinds);
 }
 
 const QHash<QString, QString>& Connection::columnTypes(const QString& table) {

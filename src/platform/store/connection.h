@@ -63,7 +63,7 @@ class Connection {
     friend class Recordset;
     struct Private;
     qint64 lastRow() const;  // the number of the row last added
-    std::shared_ptr<const QHash<QString, int>> tableColumns(const QString& table);
+    std::shared_ptr<const RecordsetColumns> tableColumns(const QString& table);
     std::unique_ptr<Private> d_;
     int depth_ = 0;
 };

@@ -8,7 +8,7 @@
 // A statement that the engine has read once, and the columns it gives.
 struct PreparedStatement {
     QSqlQuery query;
-    std::shared_ptr<const QHash<QString, int>> columns;
+    std::shared_ptr<const RecordsetColumns> columns;
     int columnCount = 0;
     int valueCount = 0;
     bool writes = false;
@@ -19,8 +19,8 @@ struct Connection::Private {
     QString path;
     QSqlDatabase database;
     QHash<QString, std::shared_ptr<PreparedStatement>> prepared;
-    QHash<QString, QHash<QString, QString>> types;  // of columns, by table
-    QHash<QString, std::shared_ptr<const QHash<QString, int>>> positions;
+    QHash<QString, QHash<QString, QString>> types;                    // of columns, by table
+    QHash<QString, std::shared_ptr<const RecordsetColumns>> columns;  // by table
 
     ~Private() { shut(); }
     // Opens the engine on a file. mode: "rw" an existing one, "rwc" a new one.
@@ -47,5 +47,7 @@ void waitOrThrow(sqlite3* engine, BusyWait& wait);
 void requireValues(int asked, const QVariantList& given);
 // The test door of Connection::setStatementHook.
 void tellStatement(const QString& text);
-// The names of columns, exact and lower-cased, with their positions; the first of equal names counts.
-std::shared_ptr<const QHash<QString, int>> columnPositions(const QStringList& names);
+// Of equal names the first counts.
+std::shared_ptr<const RecordsetColumns> columnsOf(const QStringList& names, const QList<ColumnKind>& kinds);
+// The kind that a table declares: "CURRENCY_INTEGER DEFAULT 0". An empty text is Unknown.
+ColumnKind declaredKind(const QString& type);

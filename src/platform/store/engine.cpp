@@ -4,6 +4,7 @@
 #include "platform/store/dialect.h"
 
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlDriver>
 #include <QSqlError>
@@ -47,6 +48,30 @@ QStringList columnNames(const QSqlRecord& record) {
     QStringList names;
     for (int i = 0; i < record.count(); ++i) names += record.fieldName(i);
     return names;
+}
+
+// The statement computes the column of this name with this function: "COUNT(*) AS Lines", or "COUNT(*)"
+// itself.
+bool computes(const QString& function, const QString& name, const QString& statement) {
+    static const QString named = "\\b%1 *\\([^()]*\\) +AS +\"?%2\\b";
+    return name.startsWith(function + u'(', Qt::CaseInsensitive) ||
+           statement.contains(QRegularExpression(named.arg(function, QRegularExpression::escape(name)),
+                                                 QRegularExpression::CaseInsensitiveOption));
+}
+
+// What is summed up are amounts.
+ColumnKind computedKind(const QString& name, const QString& statement) {
+    if (computes("COUNT", name, statement)) return ColumnKind::Integer;
+    return computes("SUM", name, statement) ? ColumnKind::Currency : ColumnKind::Unknown;
+}
+
+QList<ColumnKind> columnKinds(sqlite3_stmt* handle, const QStringList& names, const QString& statement) {
+    QList<ColumnKind> kinds;
+    for (int i = 0; i < names.size(); ++i) {
+        const ColumnKind declared = declaredKind(QString::fromUtf8(sqlite3_column_decltype(handle, i)));
+        kinds += declared == ColumnKind::Unknown ? computedKind(names[i], statement) : declared;
+    }
+    return kinds;
 }
 
 sqlite3_stmt* engineStatementOf(const QSqlQuery& query) {
@@ -135,13 +160,24 @@ void requireValues(int asked, const QVariantList& given) {
         throw StoreError(StoreError::general, "The statement has other values than it asks for.");
 }
 
-std::shared_ptr<const QHash<QString, int>> columnPositions(const QStringList& names) {
-    auto positions = std::make_shared<QHash<QString, int>>();
+std::shared_ptr<const RecordsetColumns> columnsOf(const QStringList& names, const QList<ColumnKind>& kinds) {
+    auto columns = std::make_shared<RecordsetColumns>();
+    columns->kinds = kinds;
     for (int i = static_cast<int>(names.size()) - 1; i >= 0; --i) {
-        positions->insert(names[i], i);
-        positions->insert(names[i].toLower(), i);
+        columns->positions.insert(names[i], i);
+        columns->positions.insert(names[i].toLower(), i);
     }
-    return positions;
+    return columns;
+}
+
+ColumnKind declaredKind(const QString& type) {
+    static const std::pair<QString, ColumnKind> kinds[] = {{"CURRENCY", ColumnKind::Currency},
+                                                           {"BOOL", ColumnKind::Flag},
+                                                           {"DATE", ColumnKind::Date},
+                                                           {"INT", ColumnKind::Integer}};
+    for (const auto& [word, kind] : kinds)
+        if (type.contains(word, Qt::CaseInsensitive)) return kind;
+    return type.isEmpty() ? ColumnKind::Unknown : ColumnKind::Text;
 }
 
 void Connection::Private::openFile(const QString& file, const char* mode) {
@@ -160,7 +196,7 @@ void Connection::Private::shut() {
     if (name.isEmpty()) return;
     prepared.clear();
     types.clear();
-    positions.clear();
+    columns.clear();
     database.close();
     database = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
@@ -192,7 +228,7 @@ bool Connection::Private::tryStart(PreparedStatement& statement, const Sql& sql)
     if (!executed(statement, sql.values)) return false;
     if (statement.columns) return true;
     const QStringList names = columnNames(statement.query.record());
-    statement.columns = columnPositions(names);
+    statement.columns = columnsOf(names, columnKinds(engineStatementOf(statement.query), names, sql.text));
     statement.columnCount = static_cast<int>(names.size());
     return true;
 }

@@ -65,9 +65,10 @@ QDate dateOf(const QString& stored) { return QDate::fromString(stored.left(10), 
 
 int Recordset::columnIndex(const QString& column) const {
     if (!columns_) noRow();
-    auto found = columns_->constFind(column);
-    if (found == columns_->constEnd()) found = columns_->constFind(column.toLower());
-    if (found == columns_->constEnd())
+    const QHash<QString, int>& positions = columns_->positions;
+    auto found = positions.constFind(column);
+    if (found == positions.constEnd()) found = positions.constFind(column.toLower());
+    if (found == positions.constEnd())
         throw StoreError(StoreError::general, "There is no column " + column + u'.');
     return *found;
 }
@@ -77,11 +78,17 @@ const QVariantList& Recordset::current() const {
     return rows_[static_cast<size_t>(position_)];
 }
 
-QVariant Recordset::value(const QString& column) const {
-    const int index = columnIndex(column);
+QVariant Recordset::value(const QString& column) const { return valueAt(columnIndex(column)); }
+
+QVariant Recordset::valueAt(int index) const {
     for (const auto& [name, pending] : changes_)
         if (columnIndex(name) == index) return pending;
     return adding_ ? QVariant() : current()[index];
+}
+
+ColumnKind Recordset::kind(const QString& column) const {
+    const int index = columnIndex(column);
+    return columns_->kinds[index];
 }
 
 bool Recordset::isNull(const QString& column) const { return value(column).isNull(); }
@@ -93,10 +100,17 @@ QString Recordset::textAt(int column) const { return current().at(column).toStri
 QString Recordset::trimmed(const QString& column) const { return trim(text(column)); }
 
 Currency Recordset::currency(const QString& column) const {
-    return Currency::fromTenThousandths(integer(column));
+    const int index = columnIndex(column);
+    const ColumnKind kind = columns_->kinds[index];
+    if (kind != ColumnKind::Currency && kind != ColumnKind::Unknown) mismatch(column);
+    return Currency::fromTenThousandths(valueAt(index).toLongLong());
 }
 
-qint64 Recordset::integer(const QString& column) const { return value(column).toLongLong(); }
+qint64 Recordset::integer(const QString& column) const {
+    const int index = columnIndex(column);
+    if (columns_->kinds[index] == ColumnKind::Currency) mismatch(column);
+    return valueAt(index).toLongLong();
+}
 
 bool Recordset::flag(const QString& column) const { return integer(column) != 0; }
 
