@@ -29,6 +29,7 @@ class Goods : public ReportSource {
   public:
     explicit Goods(qint64 count) : count_(count) {}
     bool next() override { return ++at_ < count_; }
+    qsizetype rowCount() const override { return count_; }
     void lookBack(bool looksBack) override { at_ += looksBack ? -1 : 1; }
     QString text(const QString& column) const override {
         if (column == "ItemCode") return QString::number(1000000001 + at_);
@@ -58,7 +59,7 @@ const ReportLayout goodsList{
               field("txtQuantity", "Quantity", 6500, 0, 1200, 225, rightAligned(), mask::amount),
               field("txtPrice", "Price", 7800, 0, 1500, 225, rightAligned(), mask::amount)}),
      section(SectionKind::PageFooter, 300,
-             {summing(field("fldPageCount", "", 0, 0, 600, 225), Summary::PageCount)})}};
+             {showing(Shows::PageCount, field("fldPageCount", "", 0, 0, 600, 225))})}};
 
 ReportPages wholeReport(qint64 rows) {
     Goods goods(rows);
@@ -157,7 +158,7 @@ class OpenPreview {
   public:
     explicit OpenPreview(qint64 rows)
         : preview_(new ReportPreview(
-              std::make_unique<ReportJob>(goodsList, std::make_unique<Goods>(rows), ReportEvents()))) {
+              std::make_unique<ReportJob>(ReportJobParts{goodsList, std::make_unique<Goods>(rows), {}}))) {
         preview_->resize(1000, 640);
         ScreenRegistry::instance().show(preview_);
     }

@@ -80,7 +80,7 @@ TEST(DemoPapers, LabelsStandAtTheirPlaces) {
         const auto [number, lines] = documentOf(store.connection(), paper.details);
         std::optional<ReportJobParts> parts = paper.report(store.connection(), number);
         ASSERT_TRUE(parts);
-        const auto words = pdfWords(reportOutput::pdf(runReport(parts->layout, *parts->rows, parts->events)));
+        const auto words = pdfWords(reportOutput::pdf(runReport(*parts)));
         const auto check = [&](const std::vector<Place>& places, int sectionTop) {
             for (const Place& place : places) {
                 const std::optional<QPointF> corner = cornerOf(place.text, words);

@@ -18,7 +18,7 @@ using Report = std::function<std::optional<ReportJobParts>(Connection&, const QS
 
 ReportPages pagesOf(std::optional<ReportJobParts> report) {
     if (!report) return {};
-    return runReport(report->layout, *report->rows, report->events);
+    return runReport(*report);
 }
 
 // The heading, signatures and masters that the papers are made from.

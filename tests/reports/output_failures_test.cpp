@@ -102,9 +102,9 @@ class OutputFailures : public ::testing::Test {
     }
 
     std::unique_ptr<ReportJob> job() {
-        return std::make_unique<ReportJob>(
+        return std::make_unique<ReportJob>(ReportJobParts{
             salesByTown, std::make_unique<Rows>(QStringList{"Town", "Name", "Amount"}, manySales(1)),
-            salesByTownEvents());
+            salesByTownEvents()});
     }
 
     QTemporaryDir folder_;

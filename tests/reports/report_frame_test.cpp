@@ -1,5 +1,6 @@
 #include "reports/frame/report_output.h"
 #include "reports/sales_by_town.h"
+#include "support/test_store.h"
 
 #include <gtest/gtest.h>
 
@@ -106,6 +107,79 @@ TEST(ReportFrame, SubReportsGrowSideBySide) {
         reportOutput::plainText(runReport(layout, rows, {{on(SectionKind::Detail), lists}})).split('\n');
     EXPECT_TRUE(lines[0].contains("a1") && lines[0].contains("b1")) << qPrintable(lines.join("\n"));
     EXPECT_TRUE(lines.indexOf(QRegularExpression(".*End.*")) > lines.indexOf(QRegularExpression(".*a3.*")));
+}
+
+// Lines of two heights side by side: no page divides one, or a heading from its first line.
+TEST(ReportFrame, StripsBreakTogetherAndKeepTheirHeadings) {
+    const auto strip = [](int height) {
+        return ReportLayout{
+            "",
+            "",
+            {},
+            {groupHeader(SectionKind::GroupHeader1, "Town", height, {field("t", "Town", 0, 0, 900, 225)}),
+             section(SectionKind::Detail, height, {field("n", "Name", 0, 0, 1500, 225)})}};
+    };
+    const ReportLayout strips[] = {strip(250), strip(310)};
+    const ReportLayout layout{"prtTwo",
+                              "Two...",
+                              letterPortrait(720, 720, 10800),
+                              {section(SectionKind::Detail, 300,
+                                       {subReport("sub0", 0, 0, 3000), subReport("sub1", 5000, 0, 3000)})}};
+    const auto fill = [&strips](const ReportSource&, SectionFields& fields) {
+        for (int i = 0; i < 2; ++i) {
+            QList<QStringList> rows;
+            for (int row = 0; row < 400; ++row)
+                rows += {QString("%1Town%2.").arg(i).arg(row / 3), QString("%1Name%2.").arg(i).arg(row)};
+            fields.setSubReport(
+                QString("sub%1").arg(i),
+                std::make_shared<ReportJobParts>(ReportJobParts{
+                    strips[i], std::make_unique<Rows>(QStringList{"Town", "Name"}, rows), {}}));
+        }
+    };
+    Rows rows({"x"}, {{"1"}});
+    const QStringList pages = pagesOf(runReport(layout, rows, {{on(SectionKind::Detail), fill}}));
+    EXPECT_GT(pages.size(), 8);
+    for (int row = 0; row < 400; row += 3)
+        for (const char side : {'0', '1'}) {
+            const auto town =
+                pages.indexOf(QRegularExpression(QString(".*%1Town%2\\..*").arg(side).arg(row / 3),
+                                                 QRegularExpression::DotMatchesEverythingOption));
+            EXPECT_TRUE(town >= 0 && pages[town].contains(QString("%1Name%2.").arg(side).arg(row))) << row;
+        }
+}
+
+// A row whose event ends the report is not printed, nor is anything of a report that ends at its first.
+TEST(ReportFrame, AReportEndsBeforeTheRowThatEndsIt) {
+    for (int last = 0; last < 4; ++last) {
+        Rows rows({"Town", "Name", "Amount"}, manySales(6, "Bogo"));
+        const ReportPages pages =
+            runReport(salesByTown, rows,
+                      {{on(SectionKind::Detail), [=](const ReportSource& row, SectionFields& fields) {
+                            if (row.text("Amount").toInt() > last) fields.endReport();
+                        }}});
+        const QString text = reportOutput::plainText(pages);
+        EXPECT_EQ(text.count("Customer"), last);
+        EXPECT_EQ(text.count("Total of the town"), last > 0);
+        EXPECT_EQ(pages.pages.size(), last > 0);
+    }
+}
+
+// A count is no amount, whatever its mask; a number without a mask is in plain digits.
+TEST(ReportFrame, FieldsKnowTheKindOfTheirColumn) {
+    TestStore store;
+    addItem(store.connection(), {.code = "A", .description = {}, .cost = amount(1234.5)});
+    addItem(store.connection(), {.code = "B", .description = {}});
+    const ReportLayout layout{"",
+                              "",
+                              letterPortrait(0, 0, 10800),
+                              {section(SectionKind::Detail, 250,
+                                       {field("n", "Items", 0, 0, 900, 225, {}, mask::count),
+                                        field("c", "Cost", 1000, 0, 900, 225)}),
+                               section(SectionKind::ReportFooter, 250,
+                                       {summing(field("s", "Items", 0, 0, 900, 225, {}, mask::count))})}};
+    RecordsetSource rows(
+        store.connection().execute("SELECT SUM(CostPrice) AS Cost, COUNT(*) AS Items FROM tblItemMaster"));
+    EXPECT_EQ(reportOutput::plainText(runReport(layout, rows, {})), "2          1234.5\n2\n");
 }
 
 TEST(ReportFrame, APdfHasThePagesOfTheReport) {

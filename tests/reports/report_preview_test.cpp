@@ -25,6 +25,7 @@ class NumberedRows : public ReportSource {
         if (++at_ == failAt_) throw StoreError(StoreError::refused, "The store is gone.");
         return at_ <= count_;
     }
+    qsizetype rowCount() const override { return count_; }
     void lookBack(bool looksBack) override { at_ += looksBack ? -1 : 1; }
     QString text(const QString&) const override { return QString("Customer %1").arg(at_); }
     Currency currency(const QString&) const override { return Currency::fromInteger(at_); }
@@ -45,10 +46,11 @@ const ReportLayout list{
               field("txtAmount", "Amount", 3000, 0, 1500, 225, rightAligned(), "#,##0.00")}),
      section(SectionKind::PageFooter, 300,
              {label("lblEnd", "Page footer", 0, 0, 1500, 225),
-              summing(field("fldPageCount", "", 2000, 0, 600, 225), Summary::PageCount)})}};
+              showing(Shows::PageCount, field("fldPageCount", "", 2000, 0, 600, 225))})}};
 
 std::unique_ptr<ReportJob> jobOf(int rows, int failAt = -1) {
-    return std::make_unique<ReportJob>(list, std::make_unique<NumberedRows>(rows, failAt), ReportEvents());
+    return std::make_unique<ReportJob>(
+        ReportJobParts{list, std::make_unique<NumberedRows>(rows, failAt), {}});
 }
 
 class ReportPreviewTest : public ::testing::Test {

@@ -1,15 +1,18 @@
 #include "reports/frame/report_start.h"
 
 #include "foundation/shared_routines.h"
+#include "platform/ui/file_dialogs.h"
 #include "platform/ui/screen_registry.h"
 #include "reports/documents/prtDelivery.h"
 #include "reports/frame/report_preview.h"
+#include "reports/sales_by_town.h"
 #include "support/box_script.h"
 #include "support/files.h"
 #include "support/screen_driver.h"
 #include "support/screen_tour.h"
 #include "support/test_store.h"
 
+#include <QPrinter>
 #include <QTest>
 
 namespace {
@@ -46,6 +49,26 @@ class ReportStart : public SessionTest {
     BoxScript boxes;
 };
 }  // namespace
+
+// A layout without a paper takes the one that the printer holds, and prints in dots if it says so.
+TEST_F(ReportStart, ALayoutHasItsOwnPaperAndRendering) {
+    const ReportLayout layout{.name = "",
+                              .caption = "",
+                              .page = printersPaper(0, 9000),
+                              .sections = {},
+                              .rendering = reportOutput::Rendering::DotMatrix};
+    for (const bool hasPrinter : {true, false}) {
+        desk::setDoors({.printer = [hasPrinter] {
+            auto printer = hasPrinter ? std::make_unique<QPrinter>() : nullptr;
+            if (printer) printer->setPageSize(QPageSize(QPageSize::Legal));
+            return printer;
+        }});
+        const ReportJob job({layout, std::make_unique<Rows>(QStringList(), QList<QStringList>()), {}});
+        EXPECT_EQ(job.rendering(), reportOutput::Rendering::DotMatrix);
+        EXPECT_EQ(job.pages().setup.paper(), QSize(12240, hasPrinter ? 20160 : 15840));
+    }
+    desk::setDoors({});
+}
 
 TEST_F(ReportStart, FromAnEntryAPaperIsTaggedWhenItsPagesAreMadeAndNobodyIsAsked) {
     addSaleOf(1);

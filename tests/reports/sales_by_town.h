@@ -8,6 +8,7 @@ class Rows : public ReportSource {
   public:
     Rows(const QStringList& columns, QList<QStringList> rows) : columns_(columns), rows_(std::move(rows)) {}
     bool next() override { return ++at_ < rows_.size(); }
+    qsizetype rowCount() const override { return rows_.size(); }
     void lookBack(bool looksBack) override { at_ += looksBack ? -1 : 1; }
     QString text(const QString& column) const override { return rows_[at_][columns_.indexOf(column)]; }
     Currency currency(const QString& column) const override {
@@ -35,28 +36,20 @@ inline const ReportLayout salesByTown{
      section(SectionKind::Detail, 270,
              {field("txtName", "Name", 300, 0, 2500, 225),
               field("txtAmount", "Amount", 3000, 0, 1200, 225, rightAligned(), mask::amount),
-              field("txtShare", "", 4400, 0, 1200, 225, rightAligned())}),
+              field("txtShare", "", 4400, 0, 1200, 225, rightAligned(), mask::amount)}),
      section(SectionKind::GroupFooter1, 300,
              {label("lblSum", "Total of the town", 300, 0, 2500, 225),
               summing(field("txtSum", "Amount", 3000, 0, 1200, 225, rightAligned(), mask::amount))}),
      section(SectionKind::PageFooter, 300,
-             {field("fldPageNo", "", 0, 0, 3000, 225),
-              summing(field("fldPageCount", "", 3000, 0, 600, 225), Summary::PageCount)}),
+             {label("lblPage", "Page:", 0, 0, 450, 225),
+              showing(Shows::PageText, field("fldPageNo", "", 480, 0, 3000, 225))}),
      section(SectionKind::ReportFooter, 300,
-             {summing(field("txtCount", "Name", 0, 0, 600, 225), Summary::Count),
+             {showing(Shows::Count, field("txtCount", "Name", 0, 0, 600, 225)),
               summing(field("txtAll", "Amount", 3000, 0, 1200, 225, rightAligned(), mask::amount))})}};
 
 inline ReportEvents salesByTownEvents() {
-    return {{on(SectionKind::Detail),
-             [](const ReportSource& row, SectionFields& fields) {
-                 fields.setText(
-                     "txtShare",
-                     formatNumber(divide(row.currency("Amount"), Currency::fromInteger(4)), mask::amount));
-             }},
-            {on(SectionKind::PageFooter), [page = 0](const ReportSource&, SectionFields& fields) mutable {
-                 fields.setText("fldPageNo",
-                                QString("Page: %1 of  %2").arg(++page).arg(fields.text("fldPageCount")));
-                 fields.setVisible("fldPageCount", false);
+    return {{on(SectionKind::Detail), [](const ReportSource& row, SectionFields& fields) {
+                 fields.setFigure("txtShare", divide(row.currency("Amount"), Currency::fromInteger(4)));
              }}};
 }
 

@@ -18,7 +18,7 @@ ReportPreview* openPreview() {
     QList<QStringList> lines;
     for (int line = 1; line <= 200; ++line) lines += QStringList(QString("Line %1").arg(line));
     auto* preview = new ReportPreview(std::make_unique<ReportJob>(
-        layout, std::make_unique<Rows>(QStringList("Line"), lines), ReportEvents()));
+        ReportJobParts{layout, std::make_unique<Rows>(QStringList("Line"), lines), {}}));
     ScreenRegistry::instance().show(preview);
     EXPECT_TRUE(QTest::qWaitFor([&] { return preview->job().isComplete(); }));
     person::settle();

@@ -3,6 +3,7 @@
 #include "foundation/shared_routines.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "reports/frame/list_report.h"
 
 namespace {
 constexpr int lineOfText = 225;
@@ -34,7 +35,7 @@ QList<ReportControl> numberBlock(const DocumentPaper& paper) {
             label("lblDate", paper.date, 7650, 1620, 1080, lineOfText),
             field("txtDate", paper.dateColumn, 8820, 1620, 1890, lineOfText, {}, mask::date),
             label("lblTerms", "Terms :", 7650, 1890, 1080, lineOfText),
-            field("txtTerms", "Terms", 8820, 1890, 1890, lineOfText, {}, plainDigits)};
+            field("txtTerms", "Terms", 8820, 1890, 1890, lineOfText)};
 }
 
 ReportControl columnHead(const char* name, const QString& text, const ColumnPlace& place,
@@ -64,31 +65,20 @@ ReportControl lineNumber(const char* name, const char* column, const ColumnPlace
     return field(name, column, place.left, 30, place.width, lineOfText, tightNumber, numberMask);
 }
 
-void fillHeading(Connection& store, const ReportSource& row, SectionFields& fields) {
-    fields.setText("lblCompany", GetCompanyName(store));
-    fields.setText("lblAddress", GetCompanyAddress(store));
-    fields.setText("lblTelNo", GetCompanyTelNo(store));
-    if (const QString logo = GetCompanyLogo(store); !logo.isEmpty()) fields.setPicture("imgCheck", logo);
+void fillHeading(const ReportSource& row, SectionFields& fields) {
     fields.setText("txtAddress", row.text("Address") + '\n' + row.text("TelNo"));
     fields.setText("txtTerms", trim(fields.text("txtTerms")) + " Days");
 }
 
-// The discount is a percent of the gross price; the amount of the line is printed as stored.
+// The discount is a percent of the gross price; the amount of the line is printed as stored, and counts in
+// the total as it is printed.
 void fillLine(Connection& store, const ReportSource& row, SectionFields& fields) {
     fields.setText("txtProductDes", LookupField(store, "ItemCode", "tblItemMaster", "Description",
                                                 row.text("ItemID"), LookupMode::DisplayText));
     const Currency discount = numberOrZero(fields.text("txtDiscount"));
     if (discount.isZero()) fields.setText("txtDiscount", formatNumber(discount, mask::percent));
-    fields.setText("txtNet", formatNumber(NetPrice(row.currency("UnitPrice"), discount), mask::price));
-}
-
-void fillFooter(Connection& store, const DocumentPaper& paper, Currency total, SectionFields& fields) {
-    using Person = QString (*)(Connection&);
-    static const QHash<QString, Person> people{
-        {"lblPrepared", GetPreparedBy}, {"lblChecked", GetCheckedBy}, {"lblApproved", GetApprovedBy}};
-    fields.setText(paper.totalName, formatNumber(total, mask::amount));
-    for (const Signature& signature : paper.signatures)
-        fields.setText(signature.name, people[signature.name](store));
+    fields.setFigure("txtNet", NetPrice(row.currency("UnitPrice"), discount));
+    fields.setFigure("txtTotal", numberOrZero(fields.text("txtTotal")));
 }
 }  // namespace
 
@@ -103,14 +93,14 @@ ReportSection documentHeader(const DocumentPaper& paper) {
 ReportSection documentLine(const DocumentPaper& paper) {
     const DocumentColumns& at = paper.columns;
     return section(SectionKind::Detail, 285,
-                   {lineNumber("txtOrdered", "Ordered", at.ordered, plainDigits),
-                    lineNumber("txtMoved", paper.moved, at.moved, plainDigits),
+                   {lineNumber("txtOrdered", "Ordered", at.ordered, nullptr),
+                    lineNumber("txtMoved", paper.moved, at.moved, nullptr),
                     field("txtUnit", "Unit", at.unit.left, 30, at.unit.width, lineOfText, tightCentred),
                     lineText("txtItemCode", "ItemID", at.item), lineText("txtProductDes", "", at.description),
                     lineNumber("txtGross", "UnitPrice", at.gross, mask::price),
-                    lineNumber("txtDiscount", "Discount", at.discount, plainDigits),
+                    lineNumber("txtDiscount", "Discount", at.discount, nullptr),
                     label("txtSymbol", "%", rightEdge(at.discount), 30, 180, lineOfText, tight),
-                    lineNumber("txtNet", "", at.net, nullptr),
+                    lineNumber("txtNet", "", at.net, mask::price),
                     lineNumber("txtTotal", "Total", at.amount, mask::amount)});
 }
 
@@ -120,7 +110,8 @@ ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportContr
         label("lblRemarks", "Remarks : ", 90, 90, 900, lineOfText),
         growing(field("txtParticulars", "Remarks", 990, 90, 6210, 540)),
         label("lblTotal", "Total = ", at.net.left, 90, 720, lineOfText, numberHead),
-        field(paper.totalName, "", at.amount.left - 360, 90, at.amount.width + 360, lineOfText, numberHead)};
+        summing(field(paper.totalName, "txtTotal", at.amount.left - 360, 90, at.amount.width + 360,
+                      lineOfText, numberHead, mask::amount))};
     for (const Signature& signature : paper.signatures)
         controls += {
             label(signature.name + QString("Head"), signature.caption, signature.left, 810, 2700, lineOfText),
@@ -128,17 +119,16 @@ ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportContr
     return section(SectionKind::ReportFooter, 2325, controls + more);
 }
 
-ReportEvents documentEvents(Connection& store, const DocumentPaper& paper) {
-    const auto total = std::make_shared<Currency>();
-    return {
-        {on(SectionKind::PageHeader),
-         [&store](const ReportSource& row, SectionFields& fields) { fillHeading(store, row, fields); }},
-        {on(SectionKind::Detail),
-         [&store, total](const ReportSource& row, SectionFields& fields) {
-             fillLine(store, row, fields);
-             *total += numberOrZero(fields.text("txtTotal"));
-         }},
-        {on(SectionKind::ReportFooter), [&store, &paper, total](const ReportSource&, SectionFields& fields) {
-             fillFooter(store, paper, *total, fields);
-         }}};
+ReportEvents documentEvents(Connection& store) {
+    return {{on(SectionKind::PageHeader), fillHeading},
+            {on(SectionKind::Detail),
+             [&store](const ReportSource& row, SectionFields& fields) { fillLine(store, row, fields); }}};
+}
+
+RunTexts documentTexts(Connection& store) {
+    RunTexts texts = companyTexts(store);
+    texts.labels.insert({{"lblPrepared", GetPreparedBy(store)},
+                         {"lblChecked", GetCheckedBy(store)},
+                         {"lblApproved", GetApprovedBy(store)}});
+    return texts;
 }

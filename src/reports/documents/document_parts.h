@@ -39,5 +39,7 @@ ReportSection documentLine(const DocumentPaper& paper);
 // With room for more controls of the paper's own.
 ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportControl>& more = {});
 
-// The figures of a paper, for one run. The store is read while the run lays out its pages.
-ReportEvents documentEvents(Connection& store, const DocumentPaper& paper);
+// The figures of a paper. The store is read while the run lays out its pages.
+ReportEvents documentEvents(Connection& store);
+// The company and the persons of the signatures.
+RunTexts documentTexts(Connection& store);

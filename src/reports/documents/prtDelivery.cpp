@@ -56,7 +56,7 @@ const ReportLayout& prtDelivery() {
 }
 
 std::optional<ReportJobParts> deliveryReport(Connection& store, const QString& refNo) {
-    return reportOfQuery(store, prtDelivery(), linesOf(refNo), documentEvents(store, paper()));
+    return reportOfQuery(store, prtDelivery(), linesOf(refNo), documentEvents(store), documentTexts(store));
 }
 
 const DocumentTagging& deliveryTagging() {

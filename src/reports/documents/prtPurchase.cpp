@@ -49,7 +49,8 @@ const ReportLayout& prtPurchase() {
 }
 
 std::optional<ReportJobParts> purchaseReport(Connection& store, const QString& purchaseNo) {
-    return reportOfQuery(store, prtPurchase(), linesOf(purchaseNo), documentEvents(store, paper()));
+    return reportOfQuery(store, prtPurchase(), linesOf(purchaseNo), documentEvents(store),
+                         documentTexts(store));
 }
 
 const DocumentTagging& purchaseTagging() {

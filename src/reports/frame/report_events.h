@@ -5,6 +5,7 @@
 #include <QHash>
 #include <functional>
 #include <memory>
+#include <optional>
 
 struct ReportJobParts;
 
@@ -19,6 +20,13 @@ class SectionFields {
     void setText(const QString& name, const QString& text) { states_[indexOf(name)].text = text; }
     void setVisible(const QString& name, bool visible) { states_[indexOf(name)].isVisible = visible; }
     void setPicture(const QString& name, const QString& path) { states_[indexOf(name)].text = path; }
+    // A computed figure, shown in the field's mask. Sums of the field's name add it up.
+    void setFigure(const QString& name, Currency figure);
+    // What the field sums up, or the figure that it was given; 0 where it has none.
+    Currency figure(const QString& name) const { return states_[indexOf(name)].figure.value_or(Currency()); }
+    // The report ends: what has not been printed of its rows does not print. The row of the heading or of the
+    // line that is being formatted has not.
+    void endReport() { isLast_ = true; }
     void setSubReport(const QString& name, std::shared_ptr<ReportJobParts> run) {
         states_[indexOf(name)].subReport = std::move(run);
     }
@@ -26,16 +34,21 @@ class SectionFields {
     struct State {
         QString text;
         bool isVisible = true;
+        std::optional<Currency> figure = {};
         std::shared_ptr<ReportJobParts> subReport;
     };
     // By the place of the control in its section.
     State& state(qsizetype control) { return states_[control]; }
+    const State& state(qsizetype control) const { return states_[control]; }
+    const ReportSection& section() const { return *section_; }
+    bool endsReport() const { return isLast_; }
 
   private:
     qsizetype indexOf(const QString& name) const;
 
     const ReportSection* section_;
     QList<State> states_;
+    bool isLast_ = false;
 };
 
 // The figures of a report: plain functions on the row and the fields. Each runs once for each time its
@@ -45,10 +58,16 @@ using FormatEvent = std::function<void(const ReportSource& row, SectionFields& f
 using ReportEvents = QHash<int, FormatEvent>;  // by SectionKind
 inline int on(SectionKind kind) { return static_cast<int>(kind); }
 
-// What a run of a report is made of. Within a control of another report its detail lines are walked where the
-// control stands.
+// What a run is started with and no row holds.
+struct RunTexts {
+    QHash<QString, QString> labels = {};  // by name, instead of the text of the layout: "lblCompany"
+    QString range = {};                   // "01/01/2026 To 12/31/2026"; empty: all rows
+};
+
+// What a run of a report is made of.
 struct ReportJobParts {
     const ReportLayout& layout;
     std::unique_ptr<ReportSource> rows;
     ReportEvents events;
+    RunTexts texts = {};
 };

@@ -2,15 +2,12 @@
 #include "reports/frame/report_output.h"
 #include "reports/frame/report_run.h"
 
-// A report in progress and all that it stands on: its layout, its rows and its events.
+// A report in progress and all that it stands on: its layout, its rows and its events. A layout without a
+// paper of its own gets the one that the printer holds now.
 class ReportJob {
   public:
-    ReportJob(ReportLayout layout, std::unique_ptr<ReportSource> rows, ReportEvents events,
-              reportOutput::Rendering rendering = reportOutput::Rendering::Full)
-        : layout_(std::move(layout)),
-          rows_(std::move(rows)),
-          run_(layout_, *rows_, std::move(events)),
-          rendering_(rendering) {}
+    // Rendered in this way, unless the layout has one of its own.
+    ReportJob(ReportJobParts parts, reportOutput::Rendering rendering = reportOutput::Rendering::Full);
     ReportJob(const ReportJob&) = delete;
     ReportJob& operator=(const ReportJob&) = delete;
 

@@ -39,8 +39,8 @@ ReportControl growing(ReportControl control) {
     return control;
 }
 
-ReportControl summing(ReportControl control, Summary summary) {
-    control.summary = summary;
+ReportControl showing(Shows what, ReportControl control) {
+    control.shows = what;
     return control;
 }
 
@@ -52,6 +52,6 @@ ReportControl image(const QString& name, int left, int top, int width, int heigh
     return placed(ControlKind::Image, name, left, top, width, height);
 }
 
-ReportControl subReport(const QString& name, int left, int top, int width) {
-    return placed(ControlKind::SubReport, name, left, top, width, 0);
+ReportControl subReport(const QString& name, int left, int top, int width, int height) {
+    return placed(ControlKind::SubReport, name, left, top, width, height);
 }

@@ -1,8 +1,10 @@
 #pragma once
+#include <QHash>
 #include <QList>
 #include <QSize>
 #include <QString>
 #include <Qt>
+#include <optional>
 
 // The layout of a report: its page and its sections with their controls, as data. Geometry is in twips, 1,440
 // to the inch, from the left margin and from the top of the section. A report declares its layout in one
@@ -39,16 +41,29 @@ struct TextStyle {
     bool operator==(const TextStyle&) const = default;
 };
 
-// The mask of a number in plain digits, without grouping and trailing zeros.
-inline constexpr const char* plainDigits = "General Number";
-
 inline TextStyle bold(int points = 8) { return {Typeface::Verdana, points, true, Qt::AlignLeft}; }
 inline TextStyle rightAligned(int points = 8) { return {Typeface::Verdana, points, false, Qt::AlignRight}; }
 inline TextStyle centred(int points = 8) { return {Typeface::Verdana, points, false, Qt::AlignHCenter}; }
 
-// What a bound field sums up. Sums and counts run over the group whose footer holds the field, or over the
-// whole report in the report footer; PageCount is the number of pages, known when the last one is.
-enum class Summary { None, Sum, Count, PageCount };
+// What a field shows: its column, or what the frame knows by itself. Sums and counts run over the group whose
+// footer holds the field, or over the whole report in the report footer; a sum is that of a column, or of the
+// figures of a field of the detail line. What needs the number of pages is there when the last one is.
+enum class Shows {
+    Column,
+    Sum,
+    Count,
+    PageNumber,
+    PageCount,
+    PageText,     // "2 of  3"
+    RecordCount,  // of all rows of the report
+    RunDate,      // "Run Date :  " and the present moment
+    Range         // of the rows, as the run was started with; the run date when they are all
+};
+
+namespace reportOutput {
+// Dots for a matrix printer: fixed pitch, no pictures, no fine lines.
+enum class Rendering { Full, DotMatrix };
+}  // namespace reportOutput
 
 struct ReportControl {
     ControlKind kind = ControlKind::Label;
@@ -57,9 +72,10 @@ struct ReportControl {
     QString column;  // of a bound field; empty: set by the report's events
     int left = 0, top = 0, width = 0, height = 0;
     TextStyle style;
-    const char* mask = nullptr;  // of a number or a date; null: the text as it stands
-    bool grows = false;          // takes as many lines as its text needs, and moves what stands below it
-    Summary summary = Summary::None;
+    const char* mask =
+        nullptr;         // of a number or a date; null: the text as it stands, a number in plain digits
+    bool grows = false;  // takes as many lines as its text needs, and moves what stands below it
+    Shows shows = Shows::Column;
 };
 
 struct ReportSection {
@@ -74,6 +90,7 @@ struct PageSetup {
     int paperWidth = 12240, paperHeight = 15840;  // as it lies
     int left = 0, right = 0, top = 750, bottom = 750;
     int printWidth = 0;
+    bool isPrinters = false;  // the paper is what the printer holds; letter stands where there is no printer
     QSize paper() const { return {paperWidth, paperHeight}; }
 };
 
@@ -87,11 +104,16 @@ inline PageSetup legalLandscape(int left, int right, int printWidth) {
     return {20160, 12240, left, right, 750, 750, printWidth};
 }
 
+inline PageSetup printersPaper(int margin, int printWidth) {
+    return {12240, 15840, margin, margin, margin, margin, printWidth, true};
+}
+
 struct ReportLayout {
     QString name;     // "prtDelivery"
     QString caption;  // of the preview
     PageSetup page;
     QList<ReportSection> sections;
+    std::optional<reportOutput::Rendering> rendering = {};  // whatever the session prints in
 
     const ReportSection* section(SectionKind kind) const;  // null when it has none
 };
@@ -109,7 +131,8 @@ ReportControl label(const QString& name, const QString& text, int left, int top,
 ReportControl field(const QString& name, const QString& column, int left, int top, int width, int height,
                     const TextStyle& style = {}, const char* mask = nullptr);
 ReportControl growing(ReportControl control);
-ReportControl summing(ReportControl control, Summary summary = Summary::Sum);
+ReportControl showing(Shows what, ReportControl control);
+inline ReportControl summing(ReportControl control) { return showing(Shows::Sum, std::move(control)); }
 ReportControl line(const QString& name, int left, int top, int width, int height = 0);
 ReportControl image(const QString& name, int left, int top, int width, int height);
-ReportControl subReport(const QString& name, int left, int top, int width);
+ReportControl subReport(const QString& name, int left, int top, int width, int height = 0);

@@ -9,9 +9,6 @@ class QPainter;
 // What is made of finished pages. Figures are the same in all outputs, because all come from the same pages.
 namespace reportOutput {
 
-// Dots for a matrix printer: fixed pitch, no pictures, no fine lines.
-enum class Rendering { Full, DotMatrix };
-
 // Paints one page. The painter's unit is a twip, its origin the corner of the paper. A text that is wider
 // than its control is clipped at the control; a figure is drawn narrower, or as number signs.
 void paintPage(QPainter& painter, const ReportPages& pages, std::size_t page,

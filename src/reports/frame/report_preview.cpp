@@ -73,7 +73,7 @@ ReportPreview::ReportPreview(std::unique_ptr<ReportJob> job, PreviewHooks hooks)
     : ChildScreen(job->layout().name, job->layout().caption, FillsFrame),
       job_(std::move(job)),
       hooks_(std::move(hooks)) {
-    job_->layOutPage();
+    if (job_->pages().pages.empty()) job_->layOutPage();
     view_ = new PageView(*job_, search_);
     buildBars();
     buildThumbnails();

@@ -29,7 +29,7 @@ struct PreviewHooks {
 // The window that shows a report while it is made and when it is done. Page 1 is there when it opens; the
 // others follow while it answers keys. Several may stand open at once: ScreenRegistry::show.
 //
-//     auto job = std::make_unique<ReportJob>(layout, std::move(rows), events);
+//     auto job = std::make_unique<ReportJob>(ReportJobParts{layout, std::move(rows), events});
 //     ScreenRegistry::instance().show(new ReportPreview(std::move(job), hooks));
 class ReportPreview : public ChildScreen {
     Q_OBJECT

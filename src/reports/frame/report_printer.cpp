@@ -65,17 +65,27 @@ void paint(QPainter& painter, const QPrinter& printer, const ReportPages& pages,
     reportOutput::paintPage(painter, pages, static_cast<std::size_t>(page), rendering);
     painter.restore();
 }
+
+QPageLayout pageLayoutOf(const QSize& paper) {
+    const bool isLandscape = paper.width() > paper.height();
+    const QSizeF upright = QSizeF(isLandscape ? paper.transposed() : paper) / 20.0;
+    return {QPageSize(upright, QPageSize::Point),
+            isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait, QMarginsF(), QPageLayout::Point};
+}
 }  // namespace
 
 namespace reportPrinter {
 
+void takePaper(PageSetup& page) {
+    const auto printer = desk::printer();
+    if (!printer) return;
+    const QSizeF paper = printer->pageLayout().fullRect(QPageLayout::Point).size() * 20;
+    page.paperWidth = qRound(paper.width());
+    page.paperHeight = qRound(paper.height());
+}
+
 void setUpPaper(QPrinter& printer, const ReportPages& pages) {
-    const QSize paper = pages.setup.paper();
-    const bool isLandscape = paper.width() > paper.height();
-    const QSizeF upright = QSizeF(isLandscape ? paper.transposed() : paper) / 20.0;
-    printer.setPageLayout(QPageLayout(QPageSize(upright, QPageSize::Point),
-                                      isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-                                      QMarginsF(), QPageLayout::Point));
+    if (!pages.setup.isPrinters) printer.setPageLayout(pageLayoutOf(pages.setup.paper()));
     printer.setFullPage(true);
     printer.setDocName(pages.caption);
 }

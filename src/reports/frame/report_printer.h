@@ -16,7 +16,9 @@ bool printWithDialog(const ReportPages& pages, reportOutput::Rendering rendering
 bool printAtOnce(const ReportPages& pages, reportOutput::Rendering rendering,
                  Progress& progress = Progress::none());
 
-// Gives the printer the paper of the pages, to its edges.
+// Gives the page the paper that the printer holds; without a printer it stays as it is.
+void takePaper(PageSetup& page);
+// Gives the printer the paper of the pages, unless they are on its own, to its edges.
 void setUpPaper(QPrinter& printer, const ReportPages& pages);
 // Sends the pages of the printer's range. The text of the failure; empty: sent.
 QString sendPages(QPrinter& printer, const ReportPages& pages, reportOutput::Rendering rendering,

@@ -6,4 +6,4 @@
 
 // A run of the report over the rows of this query; none when it finds no row.
 std::optional<ReportJobParts> reportOfQuery(Connection& store, const ReportLayout& layout, const Sql& query,
-                                            ReportEvents events);
+                                            ReportEvents events = {}, RunTexts texts = {});

@@ -1,88 +1,59 @@
 #include "reports/frame/report_run.h"
 
 #include "platform/masks.h"
-#include "reports/frame/section_formatter.h"
+#include "reports/frame/report_walk.h"
 
-#include <climits>
+#include <utility>
 
 namespace {
-// The summed fields of one group, or of the whole report: for each of its summary fields what has come
-// together.
-class Sums {
-  public:
-    explicit Sums(const ReportSection* footer) : footer_(footer) {}
+int bottomOf(const PageItem& item) { return item.place.top() + item.place.height(); }
 
-    void clear() { values_.clear(); }
-    void add(const ReportSource& row) {
-        if (!footer_) return;
-        for (const ReportControl& field : footer_->controls) {
-            if (field.summary == Summary::Sum) values_[field.name] += row.currency(field.column);
-            if (field.summary == Summary::Count) values_[field.name] += Currency::fromInteger(1);
-        }
-    }
-    QString text(const ReportControl& field) const {
-        const Currency value = values_.value(field.name);
-        return field.mask ? formatNumber(value, field.mask) : value.toPlainText();
-    }
-
-  private:
-    const ReportSection* footer_;
-    QHash<QString, Currency> values_;
-};
-
-struct Group {
-    const ReportSection* header;
-    const ReportSection* footer;
-    Sums sums;
-    bool isOpen = false;
-    QString value;
-    FormattedSection heading;  // as printed, for the pages that the group runs on to
-};
-
-// The least top of the items that do not fit above the limit; what stands from there on goes to the next
-// page.
+// The least top of what does not fit above the limit; what stands from there on goes to the next page, so
+// that what stands side by side breaks together.
 int cutAbove(const FormattedSection& section, int limit) {
     int cut = limit;
     for (const PageItem& item : section.items)
-        if (item.place.top() + item.place.height() > limit) cut = std::min(cut, item.place.top());
+        if (bottomOf(item) > limit) cut = std::min(cut, item.place.top());
+    for (int above = 0; above != cut;) {
+        above = cut;
+        for (const Span& whole : section.wholes)
+            if (whole.top > 0 && whole.top < cut && whole.bottom > cut) cut = whole.top;
+    }
     return std::max(cut, 1);
 }
 
 FormattedSection takeFrom(FormattedSection& section, int cut, int limit) {
     FormattedSection rest;
     rest.height = section.height - cut;
+    const bool isTooHigh = cut == 1;  // for any page: what fits beside it stays
     std::vector<PageItem> kept;
     for (PageItem& item : section.items) {
-        const bool fits = item.place.top() + item.place.height() <= limit || item.place.top() < cut;
-        if (!fits) item.place.translate(0, -cut);
-        (fits ? kept : rest.items).push_back(std::move(item));
+        const bool stays = item.place.top() < cut || (isTooHigh && bottomOf(item) <= limit);
+        if (!stays) item.place.translate(0, -cut);
+        (stays ? kept : rest.items).push_back(std::move(item));
     }
+    for (const Span& whole : section.wholes) rest.wholes.push_back({whole.top - cut, whole.bottom - cut});
     section.items = std::move(kept);
     section.height = cut;
     return rest;
 }
 }  // namespace
 
-class ReportRun::Engine {
+class ReportRun::Engine : private BandPaper {
   public:
-    Engine(const ReportLayout& layout, ReportSource& rows, ReportEvents events)
-        : layout_(layout),
-          rows_(rows),
-          events_(std::move(events)),
-          reportSums_(layout.section(SectionKind::ReportFooter)) {
+    Engine(const ReportLayout& layout, ReportSource& rows, ReportEvents events, RunTexts texts)
+        : layout_(layout), walk_(layout, rows, std::move(events), std::move(texts), pages_) {
         pages_.caption = layout.caption;
         pages_.setup = layout.page;
-        addGroup(SectionKind::GroupHeader1, SectionKind::GroupFooter1);
-        addGroup(SectionKind::GroupHeader2, SectionKind::GroupFooter2);
     }
 
     // Works until one more page is full, or all is done.
     bool layOutPage() {
         if (isComplete_) return false;
-        if (!hasBegun_) begin();
+        if (!std::exchange(hasBegun_, true) && walk_.begin()) startPage(SectionKind::ReportHeader);
         const std::size_t before = pages_.pages.size();
-        while (hasRow_ && pages_.pages.size() == before) takeRow();
-        if (!hasRow_) finish();
+        while (walk_.hasRow() && pages_.pages.size() == before) walk_.takeRow(*this);
+        if (!walk_.hasRow()) finish();
         return true;
     }
 
@@ -90,94 +61,28 @@ class ReportRun::Engine {
     ReportPages& pages() { return pages_; }
 
   private:
-    void addGroup(SectionKind header, SectionKind footer) {
-        const ReportSection* section = layout_.section(header);
-        if (!section) return;
-        groups_.push_back({section, layout_.section(footer), Sums(layout_.section(footer)), false, {}, {}});
-    }
-
-    void begin() {
-        hasBegun_ = true;
-        hasRow_ = rows_.next();
-        if (!hasRow_) return;
-        startPage(SectionKind::ReportHeader);
-    }
-
-    void takeRow() {
-        const std::size_t changed = firstChangedGroup();
-        if (changed < groups_.size() && groups_.back().isOpen) {
-            rows_.lookBack(true);
-            closeGroups(changed);
-            rows_.lookBack(false);
-        }
-        printRow(openGroups(changed));
-        for (Group& group : groups_) group.sums.add(rows_);
-        reportSums_.add(rows_);
-        hasRow_ = rows_.next();
-    }
-
-    std::size_t firstChangedGroup() const {
-        std::size_t changed = 0;
-        while (changed < groups_.size() && groups_[changed].isOpen &&
-               groups_[changed].value == rows_.text(groups_[changed].header->groupColumn))
-            ++changed;
-        return changed;
-    }
-
-    // From the inner to the outer.
-    void closeGroups(std::size_t outermost) {
-        for (std::size_t i = groups_.size(); i-- > outermost;) {
-            Group& group = groups_[i];
-            if (!group.isOpen) continue;
-            group.isOpen = false;
-            if (group.footer)
-                put(format(*group.footer,
-                           [&](const ReportControl& field) { return group.sums.text(field); }));
-            group.sums.clear();
-        }
-    }
-
-    // The headings of the groups that begin with this row, not printed yet.
-    std::vector<FormattedSection> openGroups(std::size_t outermost) {
-        std::vector<FormattedSection> headings;
-        for (std::size_t i = outermost; i < groups_.size(); ++i) {
-            groups_[i].value = rows_.text(groups_[i].header->groupColumn);
-            groups_[i].heading = format(*groups_[i].header);
-            headings.push_back(groups_[i].heading);
-        }
-        return headings;
-    }
-
     // A heading never stands alone at the foot of a page: it goes with the first line of its group.
-    void printRow(std::vector<FormattedSection> headings) {
-        const ReportSection* detail = layout_.section(SectionKind::Detail);
-        FormattedSection line = detail ? format(*detail) : FormattedSection();
+    void putLine(std::vector<FormattedSection> headings, FormattedSection line) override {
         int needed = line.height;
         for (const FormattedSection& heading : headings) needed += heading.height;
         if (!headings.empty() && needed > room() && needed <= pageRoom()) newPage();
         for (FormattedSection& heading : headings) put(std::move(heading));
-        for (Group& group : groups_) group.isOpen = true;
         put(std::move(line));
     }
 
+    void putFooter(FormattedSection footer) override { put(std::move(footer)); }
+
     void finish() {
-        if (!pages_.pages.empty()) {
-            rows_.lookBack(true);
-            closeGroups(0);
-            if (const ReportSection* footer = layout_.section(SectionKind::ReportFooter))
-                put(format(*footer, [this](const ReportControl& field) { return reportSums_.text(field); }));
-            layPageFooters();
-        }
+        walk_.finish(*this);
+        if (!walk_.hasPrinted()) pages_.pages.clear();
+        for (std::size_t i = 0; i < pages_.pages.size(); ++i)
+            place(walk_.format(SectionKind::PageFooter, pageOf(i)), pages_.pages[i], bodyBottom());
+        fillHeadings();
         isComplete_ = true;
     }
 
-    void layPageFooters() {
-        const ReportSection* footer = layout_.section(SectionKind::PageFooter);
-        if (!footer) return;
-        const qint64 count = static_cast<qint64>(pages_.pages.size());
-        for (ReportPage& page : pages_.pages)
-            place(format(*footer, [count](const ReportControl&) { return QString::number(count); }), page,
-                  bodyBottom());
+    ReportWalk::PageOf pageOf(std::size_t page) const {
+        return {static_cast<qsizetype>(page + 1), static_cast<qsizetype>(pages_.pages.size())};
     }
 
     // Pages
@@ -191,8 +96,7 @@ class ReportRun::Engine {
 
     void newPage() {
         startPage(SectionKind::PageHeader);
-        for (const Group& group : groups_)
-            if (group.isOpen && group.header->repeats) append(group.heading);
+        for (const FormattedSection& heading : walk_.repeatedHeadings()) append(heading);
         bodyTop_ = top_;
     }
 
@@ -200,13 +104,16 @@ class ReportRun::Engine {
     void startPage(SectionKind first) {
         pages_.pages.emplace_back();
         top_ = layout_.page.top;
-        if (first == SectionKind::ReportHeader) appendSection(SectionKind::ReportHeader);
-        appendSection(SectionKind::PageHeader);
+        if (first == SectionKind::ReportHeader) appendHeading(first);
+        appendHeading(SectionKind::PageHeader);
         bodyTop_ = top_;
     }
 
-    void appendSection(SectionKind kind) {
-        if (const ReportSection* section = layout_.section(kind)) append(format(*section));
+    void appendHeading(SectionKind kind) {
+        const FormattedSection heading = walk_.format(kind, {static_cast<qsizetype>(pages_.pages.size()), 0});
+        for (const std::size_t item : heading.withoutCount)
+            withoutCount_.emplace_back(pages_.pages.size() - 1, pages_.pages.back().items.size() + item);
+        append(heading);
     }
 
     // On this page where it fits, on the next where it fits there, over several where it fits on none.
@@ -234,25 +141,22 @@ class ReportRun::Engine {
         }
     }
 
-    FormattedSection format(const ReportSection& section, const SummaryText& summary = noSummary) {
-        return section.height == 0 ? FormattedSection()
-                                   : formatSection(section, rows_, events_, summary, pages_);
+    void fillHeadings() {
+        const QString count = formatCount(static_cast<qint64>(pages_.pages.size()));
+        for (const auto& [page, item] : withoutCount_)
+            if (page < pages_.pages.size()) pages_.pages[page].items[item].text.replace(laterText, count);
     }
 
-    static QString noSummary(const ReportControl&) { return {}; }
-
     const ReportLayout& layout_;
-    ReportSource& rows_;
-    ReportEvents events_;
     ReportPages pages_;
-    std::vector<Group> groups_;
-    Sums reportSums_;
-    bool hasBegun_ = false, hasRow_ = false, isComplete_ = false;
+    ReportWalk walk_;
+    std::vector<std::pair<std::size_t, std::size_t>> withoutCount_;  // page and item
+    bool hasBegun_ = false, isComplete_ = false;
     int top_ = 0, bodyTop_ = 0;
 };
 
-ReportRun::ReportRun(const ReportLayout& layout, ReportSource& rows, ReportEvents events)
-    : engine_(std::make_unique<Engine>(layout, rows, std::move(events))) {}
+ReportRun::ReportRun(const ReportLayout& layout, ReportSource& rows, ReportEvents events, RunTexts texts)
+    : engine_(std::make_unique<Engine>(layout, rows, std::move(events), std::move(texts))) {}
 
 ReportRun::~ReportRun() = default;
 
@@ -264,8 +168,13 @@ const ReportPages& ReportRun::pages() const { return engine_->pages(); }
 
 ReportPages ReportRun::takePages() { return std::move(engine_->pages()); }
 
-ReportPages runReport(const ReportLayout& layout, ReportSource& rows, const ReportEvents& events) {
-    ReportRun run(layout, rows, events);
+ReportPages runReport(ReportJobParts& parts) {
+    return runReport(parts.layout, *parts.rows, parts.events, parts.texts);
+}
+
+ReportPages runReport(const ReportLayout& layout, ReportSource& rows, const ReportEvents& events,
+                      const RunTexts& texts) {
+    ReportRun run(layout, rows, events, texts);
     while (run.layOutPage()) {
     }
     return run.takePages();

@@ -10,7 +10,7 @@
 //     const ReportPages& pages = run.pages();
 class ReportRun {
   public:
-    ReportRun(const ReportLayout& layout, ReportSource& rows, ReportEvents events);
+    ReportRun(const ReportLayout& layout, ReportSource& rows, ReportEvents events, RunTexts texts = {});
     ~ReportRun();
     ReportRun(const ReportRun&) = delete;
     ReportRun& operator=(const ReportRun&) = delete;
@@ -28,4 +28,6 @@ class ReportRun {
 };
 
 // A whole run at once.
-ReportPages runReport(const ReportLayout& layout, ReportSource& rows, const ReportEvents& events);
+ReportPages runReport(ReportJobParts& parts);
+ReportPages runReport(const ReportLayout& layout, ReportSource& rows, const ReportEvents& events,
+                      const RunTexts& texts = {});

@@ -78,14 +78,19 @@ using Rules = std::shared_ptr<RunRules>;
 
 std::unique_ptr<ReportJob> jobOf(ReportJobParts parts, RunRules& rules) {
     rules.readNumber(parts.events);
-    return std::make_unique<ReportJob>(parts.layout, std::move(parts.rows), std::move(parts.events),
-                                       rendering());
+    return std::make_unique<ReportJob>(std::move(parts), rendering());
 }
 
 void layOut(ReportJob& job) {
     frmStatus status;
     const ProgressScope scope(status, "Please Wait While System is Making the Pages...", 0);
     while (job.layOutPage()) status.setValue(0);
+}
+
+// The report has ended before its first line: nothing of it prints.
+bool printsNothing(ReportJob& job) {
+    if (job.pages().pages.empty()) job.layOutPage();
+    return job.pages().pages.empty();
 }
 
 ReportPreview* showPreview(std::unique_ptr<ReportJob> job, const PreviewHooks& hooks) {
@@ -95,12 +100,15 @@ ReportPreview* showPreview(std::unique_ptr<ReportJob> job, const PreviewHooks& h
 }
 
 ReportPreview* preview(ReportJobParts parts, const Rules& rules) {
-    return showPreview(jobOf(std::move(parts), *rules),
+    auto job = jobOf(std::move(parts), *rules);
+    if (printsNothing(*job)) return nullptr;
+    return showPreview(std::move(job),
                        {[rules](ReportPreview&) { rules->end(); }, [rules] { rules->queryClose(); }});
 }
 
 bool print(ReportJobParts parts, RunRules& rules) {
     const auto job = jobOf(std::move(parts), rules);
+    if (printsNothing(*job)) return true;
     layOut(*job);
     frmStatus status;
     if (!reportPrinter::printAtOnce(job->pages(), job->rendering(), status)) return false;
@@ -119,6 +127,7 @@ bool writeExport(const ReportJob& job, const RunRules& rules) {
 
 bool exportToFile(ReportJobParts parts, const Rules& rules) {
     auto job = jobOf(std::move(parts), *rules);
+    if (printsNothing(*job)) return true;
     layOut(*job);
     if (!writeExport(*job, *rules)) {
         showPreview(std::move(job), {{}, [rules] { rules->queryClose(); }});

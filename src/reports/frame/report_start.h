@@ -23,7 +23,8 @@ struct DocumentTagging {
 };
 
 // Shows a report as a preview for an entry screen, a journal or a list. A document is tagged as soon as its
-// pages are made, without a question. Null when there is nothing to print: a box has said so.
+// pages are made, without a question. Null when there is nothing to print: a box has said so, unless the
+// report ended itself before its first line.
 ReportPreview* previewFromEntry(std::optional<ReportJobParts> report,
                                 const DocumentTagging* tagging = nullptr);
 

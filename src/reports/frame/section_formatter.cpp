@@ -2,6 +2,7 @@
 
 #include "platform/masks.h"
 #include "reports/frame/report_fonts.h"
+#include "reports/frame/report_strip.h"
 
 #include <QStringView>
 
@@ -15,22 +16,25 @@ qsizetype SectionFields::indexOf(const QString& name) const {
     throw std::logic_error(("the section has no control " + name).toStdString());
 }
 
+void SectionFields::setFigure(const QString& name, Currency figure) {
+    const qsizetype control = indexOf(name);
+    states_[control].figure = figure;
+    states_[control].text = figureText(figure, section_->controls[control].mask);
+}
+
+QString figureText(Currency figure, const char* mask) {
+    return mask ? formatNumber(figure, mask) : figure.toPlainText();
+}
+
 QString fieldText(const ReportSource& row, const QString& column, const char* mask) {
     if (row.isNull(column)) return {};
     if (!mask) return row.text(column);
-    if (std::strcmp(mask, plainDigits) == 0) return row.currency(column).toPlainText();
     if (std::strpbrk(mask, "ymdhs")) return formatDateTime(row.dateTime(column), mask);
     return formatNumber(row.currency(column), mask);
 }
 
 namespace {
 using State = SectionFields::State;
-
-QString boundText(const ReportControl& control, const ReportSource& row, const SummaryText& summary) {
-    if (control.kind != ControlKind::Field) return control.text;
-    if (control.summary != Summary::None) return summary(control);
-    return control.column.isEmpty() ? QString() : fieldText(row, control.column, control.mask);
-}
 
 bool hasRoomForLines(const ReportControl& control) { return control.height > control.style.points * 20 * 2; }
 
@@ -43,7 +47,7 @@ bool readsAsFigure(const QString& text) {
 // A number or a date: what has a mask, sums up or stands at the right, and reads as one.
 bool isFigure(const ReportControl& control, const QString& text) {
     const bool mayBe =
-        control.mask || control.summary != Summary::None || (control.style.alignment & Qt::AlignRight);
+        control.mask || control.shows != Shows::Column || (control.style.alignment & Qt::AlignRight);
     return mayBe && readsAsFigure(text);
 }
 
@@ -99,6 +103,8 @@ class Layer {
 
     int layItem(const ReportControl& control, const QString& text, int top) {
         if (text.isEmpty() && control.kind != ControlKind::Line) return control.height;
+        if (control.shows != Shows::Column && text.contains(laterText))
+            formatted_.withoutCount.push_back(formatted_.items.size());
         const quint16 style = styles_.styleNumber(control.style);
         const bool isText = control.kind == ControlKind::Label || control.kind == ControlKind::Field;
         const bool mayBreak = isText && (control.grows || hasRoomForLines(control));
@@ -121,18 +127,14 @@ class Layer {
     }
 
     int laySubReport(const ReportControl& control, ReportJobParts& run, int top) {
-        const ReportSection* detail = run.layout.section(SectionKind::Detail);
-        int bottom = top;
-        while (detail && run.rows->next()) {
-            const auto noSummary = [](const ReportControl&) { return QString(); };
-            FormattedSection strip = formatSection(*detail, *run.rows, run.events, noSummary, styles_);
-            for (PageItem& item : strip.items) {
-                item.place.translate(control.left, bottom);
-                formatted_.items.push_back(std::move(item));
-            }
-            bottom += strip.height;
+        FormattedSection strip = stripOf(run, styles_);
+        for (PageItem& item : strip.items) {
+            item.place.translate(control.left, top);
+            formatted_.items.push_back(std::move(item));
         }
-        return bottom - top;
+        for (const Span& whole : strip.wholes)
+            formatted_.wholes.push_back({whole.top + top, whole.bottom + top});
+        return strip.height;
     }
 
     const ReportSection& section_;
@@ -143,12 +145,6 @@ class Layer {
 };
 }  // namespace
 
-FormattedSection formatSection(const ReportSection& section, const ReportSource& row,
-                               const ReportEvents& events, const SummaryText& summary, ReportPages& styles) {
-    SectionFields fields(section);
-    for (qsizetype i = 0; i < section.controls.size(); ++i)
-        fields.state(i).text = boundText(section.controls[i], row, summary);
-    if (const auto event = events.constFind(on(section.kind)); event != events.constEnd())
-        (*event)(row, fields);
+FormattedSection layOut(const ReportSection& section, SectionFields& fields, ReportPages& styles) {
     return Layer(section, fields, styles).lay();
 }

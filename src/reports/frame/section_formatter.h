@@ -2,19 +2,27 @@
 #include "reports/frame/report_events.h"
 #include "reports/frame/report_pages.h"
 
+// A part of a section from one height to another.
+struct Span {
+    int top, bottom;
+};
+
 // A section made ready for a page: its items, from its own corner, and the height that they take.
 struct FormattedSection {
     int height = 0;
     std::vector<PageItem> items;
-    bool isEmpty() const { return height == 0 && items.empty(); }
+    std::vector<Span> wholes;               // what no page break divides, as far as a page has room for it
+    std::vector<std::size_t> withoutCount;  // items whose text waits for the number of pages
 };
 
-// The text of a summary field of the section that is being formatted.
-using SummaryText = std::function<QString(const ReportControl& field)>;
+// Stands in a text for the number of pages while it is not known: the text of a heading. It is drawn as
+// nothing.
+inline constexpr QChar laterText(0x200B);
 
-// Fills the bound fields, runs the section's event, and lays out what grows.
-FormattedSection formatSection(const ReportSection& section, const ReportSource& row,
-                               const ReportEvents& events, const SummaryText& summary, ReportPages& styles);
+// Lays out the fields as their section's event has left them, and what grows.
+FormattedSection layOut(const ReportSection& section, SectionFields& fields, ReportPages& styles);
 
+// A number or a date through a mask; without one a number in plain digits.
+QString figureText(Currency figure, const char* mask);
 // A bound value through its mask; a null is an empty text.
 QString fieldText(const ReportSource& row, const QString& column, const char* mask);

@@ -7,6 +7,7 @@ class TapeSource : public ReportSource {
   public:
     explicit TapeSource(const QStringList& lines) : lines_(lines) {}
     bool next() override { return ++line_ < lines_.size(); }
+    qsizetype rowCount() const override { return lines_.size(); }
     void lookBack(bool looksBack) override { line_ += looksBack ? -1 : 1; }
     QString text(const QString& /*column*/) const override { return lines_.at(line_).trimmed(); }
     Currency currency(const QString& /*column*/) const override { return {}; }
