@@ -9,6 +9,8 @@
 #include "tools/search/frmSearch.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QTemporaryDir>
 
 namespace {

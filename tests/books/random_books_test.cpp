@@ -20,7 +20,8 @@ class RandomBooksTest : public BooksTest, public testing::WithParamInterface<uns
         int rows = 0;
         for (auto row = store.execute(QString("SELECT %1 AS k, %2 AS v FROM %3").arg(key, column, table));
              !row.eof(); row.moveNext(), ++rows)
-            EXPECT_EQ(row.integer("v"), figure(row.text("k"))) << qPrintable(column + " of " + row.text("k"));
+            EXPECT_EQ(row.currency("v").tenThousandths(), figure(row.text("k")))
+                << qPrintable(column + " of " + row.text("k"));
         EXPECT_GT(rows, 0);
     }
     void expectStoredBalances(const BooksModel& model) {
@@ -37,11 +38,13 @@ class RandomBooksTest : public BooksTest, public testing::WithParamInterface<uns
         for (const BooksModel::Row& expected : model.ledger()) {
             const QString name = expected.bookId + ' ' + expected.reference + ' ' + expected.item;
             EXPECT_EQ(row.text("Reference") + row.text("ItemCode"), expected.reference + expected.item);
-            EXPECT_EQ(row.integer(expected.bookId == "P" ? "StockIn" : "StockOut"), expected.quantity);
-            EXPECT_EQ(row.integer(expected.bookId == "P" ? "InPrice" : "OutPrice"), expected.price);
+            EXPECT_EQ(row.currency(expected.bookId == "P" ? "StockIn" : "StockOut").tenThousandths(),
+                      expected.quantity);
+            EXPECT_EQ(row.currency(expected.bookId == "P" ? "InPrice" : "OutPrice").tenThousandths(),
+                      expected.price);
             if (all || expected.item != "unknown") {
-                EXPECT_EQ(row.integer("Balance"), expected.balance) << qPrintable(name);
-                EXPECT_EQ(row.integer("SalesCost"), expected.salesCost) << qPrintable(name);
+                EXPECT_EQ(row.currency("Balance").tenThousandths(), expected.balance) << qPrintable(name);
+                EXPECT_EQ(row.currency("SalesCost").tenThousandths(), expected.salesCost) << qPrintable(name);
             }
             row.moveNext();
         }

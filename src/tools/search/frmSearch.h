@@ -8,6 +8,7 @@ class ComboBox;
 class ListView;
 class QGroupBox;
 class QLabel;
+class QPushButton;
 class TextBox;
 
 // Asks the books a question: items, balances of contacts, or documents. The list follows what is typed; its
