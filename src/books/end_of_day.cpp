@@ -91,16 +91,27 @@ static void postDocument(Connection& store, const QueuedDocument& document) {
     unit.commit();
 }
 
-// Its boxes count only when the unit stands.
 static void costItem(Connection& store, const QueuedItem& item, Progress& progress, Boxes& boxes) {
-    Boxes told;
     Transaction unit(store);
     ComputeItemCosts(
-        store, item.itemCode, [&](const char* text) { progress.setText(text + item.description); }, told);
-    StoreCostPrice(store, item.itemCode, told);
-    store.run({"DELETE FROM tblForPostingItem WHERE ItemID = ?", {item.itemCode}});
+        store, item.itemCode, [&](const char* text) { progress.setText(text + item.description); }, boxes);
+    StoreCostPrice(store, item.itemCode, boxes);
+    RemoveItemForPosting(store, item.itemCode);
     unit.commit();
+}
+
+// An item whose stock is beyond the range stays queued as it was; false then.
+static bool costItemOrPass(Connection& store, const QueuedItem& item, Progress& progress, Boxes& boxes) {
+    Boxes told;
+    try {
+        costItem(store, item, progress, told);
+    } catch (const OverflowError& error) {
+        boxes += exclamation("Error...",
+                             QString("%1 %2: %3").arg(item.itemCode, item.description, error.what()));
+        return false;
+    }
     boxes += told;
+    return true;
 }
 
 // Runs a step of the end of day; its failure is told and ends the run.
@@ -119,46 +130,63 @@ static bool succeeds(Boxes& boxes, Step step) {
 
 // The walk of both passes. Its entries are dealt with in units of a quarter of a second at most, for a commit
 // costs more than most entries do; each is told to the view when its unit is safely in the store. A failing
-// entry is undone alone: those before it stay done.
+// entry is undone alone and ends the walk: those before it stay done.
 template <class Entry>
 class Walk {
   public:
-    using Step = std::function<void(const Entry&)>;
+    // False for an entry that is passed over.
+    using Step = std::function<bool(const Entry&, Boxes&)>;
     using Tell = std::function<void(qsizetype)>;
 
     Walk(Connection& store, const QList<Entry>& list, EndOfDayView& view, Boxes& boxes)
         : store_(store), list_(list), view_(view), boxes_(boxes) {}
 
+    // True when every entry is done.
     bool run(const char* stepText, const Step& step, const Tell& tell) {
         if (list_.isEmpty()) return false;
         view_.status(postingText);
         view_.start(list_.size());
-        for (bool more = true; more && next_ < list_.size();) {
-            const qsizetype first = next_;
-            if (!succeeds(boxes_, [&] { more = runUnit(stepText, step); })) return false;
-            for (qsizetype index = first; index < next_; ++index) tell(index);
-            if (!more) return false;
+        while (next_ < list_.size()) {
+            Unit unit;
+            const bool sound = succeeds(boxes_, [&] { runUnit(unit, stepText, step); });
+            for (const qsizetype index : unit.done) tell(index);
+            if (!sound || unit.failed) return false;
         }
         view_.status({});
         view_.start(0);
-        return true;
+        return !passedOver_;
     }
 
   private:
-    // False when an entry failed.
-    bool runUnit(const char* stepText, const Step& step) {
+    struct Unit {
+        QList<qsizetype> done;
+        bool failed = false;
+    };
+
+    void runUnit(Unit& unit, const char* stepText, const Step& step) {
         const UnitClock clock;
-        Transaction unit(store_);
-        bool sound = true;
+        Transaction transaction(store_);
+        Boxes told, failure;
+        QList<qsizetype> done;
         qsizetype index = next_;
-        while (sound && index < list_.size() && !clock.isOver()) {
+        for (; index < list_.size() && !clock.isOver(); ++index) {
             view_.status(QString("%1 %2 of %3").arg(stepText).arg(index + 1).arg(list_.size()));
-            sound = succeeds(boxes_, [&] { step(list_[index]); });
-            if (sound) ++index;
+            bool whole = false;
+            unit.failed = !succeeds(failure, [&] { whole = step(list_[index], told); });
+            if (unit.failed) break;
+            if (whole)
+                done += index;
+            else
+                passedOver_ = true;
         }
-        unit.commit();
+        // What a full disk has undone as a whole is told once.
+        if (!unit.failed)
+            transaction.commit();
+        else if (Boxes unseen; !succeeds(unseen, [&] { transaction.commit(); }))
+            return boxes_.append(failure);
+        boxes_ += told + failure;
+        unit.done = done;
         next_ = index;
-        return sound;
     }
 
     Connection& store_;
@@ -166,13 +194,18 @@ class Walk {
     EndOfDayView& view_;
     Boxes& boxes_;
     qsizetype next_ = 0;
+    bool passedOver_ = false;
 };
 
 bool PostStockValuation(Connection& store, const QList<QueuedDocument>& documents, EndOfDayView& view,
                         Boxes& boxes) {
     return Walk(store, documents, view, boxes)
         .run(
-            "Posting Stock Valuation", [&](const QueuedDocument& document) { postDocument(store, document); },
+            "Posting Stock Valuation",
+            [&](const QueuedDocument& document, Boxes&) {
+                postDocument(store, document);
+                return true;
+            },
             [&](qsizetype index) { view.documentPosted(index); });
 }
 
@@ -183,7 +216,7 @@ bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items,
     return Walk(store, items, view, boxes)
         .run(
             "Initializing Stock Valuation",
-            [&](const QueuedItem& item) { costItem(store, item, progress, boxes); },
+            [&](const QueuedItem& item, Boxes& told) { return costItemOrPass(store, item, progress, told); },
             [&](qsizetype index) {
                 view.itemCosted(index);
                 progress.setValue(index + 1);

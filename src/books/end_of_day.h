@@ -34,7 +34,9 @@ class EndOfDayView {
 
 // Each document and each item is done whole or not at all, in units of a quarter of a second at most. False
 // for an empty list, and after a failure, whose box is added; the work done stays done, and a second run
-// completes it.
+// completes it. An item whose stock is beyond the range is passed over: its box names it, the others are
+// costed, and it makes the answer false. An item leaves the queue only while no waiting document has a line
+// of it.
 bool PostStockValuation(Connection& store, const QList<QueuedDocument>& documents, EndOfDayView& view,
                         Boxes& boxes);
 bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items, EndOfDayView& view,

@@ -18,6 +18,15 @@ void RemoveForPosting(Connection& store, const QString& bookId, const QString& r
     store.run({"DELETE FROM tblForPosting WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
 }
 
+void RemoveItemForPosting(Connection& store, const QString& itemCode) {
+    store.run(
+        {"DELETE FROM tblForPostingItem WHERE ItemID = ? AND NOT EXISTS (SELECT 1 FROM tblForPosting q WHERE"
+         " CASE WHEN q.BookID = 'P' THEN EXISTS (SELECT 1 FROM tblPurchaseDetails d WHERE d.ItemID = ?"
+         " AND d.Reference = q.Reference) ELSE EXISTS (SELECT 1 FROM tblSalesDetails d WHERE d.ItemID = ?"
+         " AND d.Reference = q.Reference) END)",
+         {itemCode, itemCode, itemCode}});
+}
+
 static bool hasRows(Connection& store, const char* statement) {
     bool found = false;
     passOverRead([&] { found = !store.execute(statement).eof(); });

@@ -9,4 +9,6 @@ void QueueBookForPosting(Connection& store, const QString& bookId, const QString
                          const QString& contact, const QDate& date);
 void QueueItemForPosting(Connection& store, const QString& itemCode);
 void RemoveForPosting(Connection& store, const QString& bookId, const QString& reference);
+// The item stays while a waiting document has a line of it: that one's costing is still to come.
+void RemoveItemForPosting(Connection& store, const QString& itemCode);
 bool HasPendingPosting(Connection& store);  // errors are passed over: false

@@ -103,6 +103,43 @@ TEST_F(EndOfDayTest, AListedDocumentThatIsEditedGetsItsCurrentLines) {
     EXPECT_EQ(ledger() + queue(), "") << "a deleted one adds nothing and leaves the queue";
 }
 
+TEST_F(EndOfDayTest, AnItemStaysQueuedWhileADocumentWithALineOfItWaits) {
+    buy("D1", 1, {{"A", amount(10), amount(5)}, {"B", amount(1), amount(5)}});
+    const auto documents = LoadPostingQueue(store, Progress::none());
+    const auto items = LoadPostingItems(store, Progress::none());
+    sell("D1", 2, {{"a", amount(4), amount(9)}});
+    EXPECT_TRUE(post(documents));
+    EXPECT_TRUE(cost(items));
+    EXPECT_EQ(column("SELECT ItemID AS v FROM tblForPostingItem"), "A");
+    EXPECT_EQ(runEndOfDay(store), Boxes());
+    EXPECT_EQ(column("SELECT Balance / 10000 || '/' || SalesCost / 10000 FROM tblStockValuation WHERE BookID "
+                     "= 'S'"),
+              "6/20");
+    EXPECT_FALSE(HasPendingPosting(store));
+}
+
+TEST_F(EndOfDayTest, AnItemBeyondTheRangeIsNamedAndStopsNoOther) {
+    const Currency much = Currency::fromInteger(900000000000000);
+    buy("P1", 1, {{"A", much, amount(0)}, {"B", amount(2), amount(5)}});
+    buy("P2", 1, {{"A", much, amount(0)}});
+    EXPECT_TRUE(post(LoadPostingQueue(store, Progress::none())));
+    EXPECT_FALSE(cost(LoadPostingItems(store, Progress::none())));
+    EXPECT_EQ(boxes, Boxes{exclamation("Error...", "A Item A: Overflow")});
+    EXPECT_EQ(view.costed, QList<qsizetype>{1});
+    EXPECT_EQ(column("SELECT ItemID AS v FROM tblForPostingItem"), "A");
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation ORDER BY ZevRef"), "0 20000 0");
+}
+
+TEST_F(EndOfDayTest, AFullDiskIsToldOnceAndLeavesAllThatFailedQueued) {
+    buy("P1", 1, {{"A", amount(1), amount(5)}});
+    buy("P2", 2, std::vector<LineRow>(500, {"B", amount(1), amount(5)}));
+    const auto documents = LoadPostingQueue(store, Progress::none());
+    write("PRAGMA max_page_count = 1");
+    EXPECT_FALSE(post(documents));
+    EXPECT_EQ(boxes.size(), 1);
+    EXPECT_EQ(queue() + ledger(), "P1 P2");
+}
+
 TEST_F(EndOfDayTest, AFailedItemStaysQueuedAsItWas) {
     buy("P1", 1, {{"A", amount(2), amount(5)}, {"B", amount(2), amount(5)}}, "a contact that has gone");
     EXPECT_TRUE(post(LoadPostingQueue(store, Progress::none())));
