@@ -207,5 +207,6 @@ void makeDemoStore(const QString& path) {
     store.open(unfinished, storePassword);
     fillDemoFirm(store, Clock::today());
     store.close();
+    QFile::remove(unfinished + "-journal");  // an empty one
     if (!QFile::rename(unfinished, path)) throw std::runtime_error(("cannot write " + path).toStdString());
 }

@@ -127,6 +127,7 @@ void makeDeliveredStore(const QString& path) {
     QFile::remove(draft);
     try {
         fill(draft);
+        QFile::remove(draft + "-journal");  // an empty one
         if (!QFile::rename(draft, path)) refuse(path, "the file cannot be given its name.");
     } catch (...) {
         QFile::remove(draft);

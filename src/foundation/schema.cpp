@@ -1,8 +1,11 @@
 #include "foundation/schema.h"
 
+#include "platform/store/connection.h"
 #include "platform/store/schema_steps.h"
 
 #include <QHash>
+#include <QSet>
+#include <QTemporaryDir>
 
 namespace {
 // A table and its columns, each with a kind: key (a text key), number key, text, integer, currency, flag,
@@ -195,10 +198,52 @@ QStringList firstStatements() {
     for (const Table& index : indexes) statements += createIndex(index);
     return statements;
 }
+// Who costs all items must know which of them other workstations touch meanwhile (books/touched_items).
+QStringList touchedItemsStatements() {
+    const QString trigger =
+        "CREATE TRIGGER StockTouched_%1 AFTER %2 ON tblStockValuation BEGIN"
+        " INSERT OR IGNORE INTO StockTouched SELECT Nr, %3.ItemCode FROM StockPass; END";
+    const QString update = "UPDATE OF ZevRef, ItemCode, BookID, TransDate, StockIn, InPrice, StockOut";
+    return {"CREATE TABLE StockPass (Nr INTEGER NOT NULL PRIMARY KEY, Began DATE)",
+            "CREATE TABLE StockTouched (Pass INTEGER NOT NULL, ItemCode TEXT COLLATE NOCASE NOT NULL,"
+            " PRIMARY KEY (Pass, ItemCode)) WITHOUT ROWID",
+            trigger.arg("INSERT", "INSERT", "NEW"),
+            trigger.arg("DELETE", "DELETE", "OLD"),
+            trigger.arg("FROM", update, "OLD"),
+            trigger.arg("TO", update, "NEW")};
+}
 }  // namespace
+
+static QSet<QString> definitionsOf(Connection& store) {
+    QSet<QString> definitions;
+    for (auto row = store.execute("SELECT type || ' ' || name || ': ' || sql AS Definition FROM sqlite_master"
+                                  " WHERE sql IS NOT NULL");
+         !row.eof(); row.moveNext())
+        definitions += row.text("Definition");
+    return definitions;
+}
+
+static QSet<QString> ownDefinitions() {
+    const QTemporaryDir folder;
+    Connection store;
+    store.create(folder.filePath("own"), {});
+    applySchemaSteps(store);
+    return definitionsOf(store);
+}
+
+QStringList schemaFaults(Connection& store) {
+    const QSet<QString> own = ownDefinitions();
+    const QSet<QString> found = definitionsOf(store);
+    QStringList faults;
+    for (const QString& definition : own - found) faults += "missing " + definition;
+    for (const QString& definition : found - own) faults += "unknown " + definition;
+    faults.sort();
+    return faults;
+}
 
 void registerSchema() {
     setSchemaSteps({{"The tables and indexes of the first version.", firstStatements()},
                     {"The day of a cashier is opened once.",
-                     {"CREATE UNIQUE INDEX tblPOS_CashierDay ON tblPOS (Cashier, SalesDate)"}}});
+                     {"CREATE UNIQUE INDEX tblPOS_CashierDay ON tblPOS (Cashier, SalesDate)"}},
+                    {"The items that a costing of all finds touched by others.", touchedItemsStatements()}});
 }

@@ -1,5 +1,5 @@
 #pragma once
-#include <QString>
+#include <QStringList>
 #include <vector>
 
 class Connection;
@@ -11,6 +11,9 @@ void registerSchema();
 // of rights, a few units, the user ADMIN and the row for the master login. Throws StoreError; the file must
 // not exist.
 void makeDeliveredStore(const QString& path);
+
+// What of the store's tables, indexes and triggers is missing or other than this program makes them.
+QStringList schemaFaults(Connection& store);
 
 // One entry of the catalogue of menu rights: its code and its name, from the menu captions.
 struct MenuRight {

@@ -3,7 +3,9 @@
 #include "foundation/schema.h"
 #include "foundation/session.h"
 #include "foundation/setting_files.h"
+#include "platform/store/store_care.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/frmStatus.h"
 #include "platform/ui/screen_registry.h"
 
 #include <QCoreApplication>
@@ -44,11 +46,20 @@ bool hasUsers() {
 
 }  // namespace
 
+// Damage after a sudden end is found here, and not by a save in the middle of the day.
+static void openSound(Connection& store) {
+    store.open(programFolder().filePath(storeFileName), storePassword);
+    if (!store.wasLeftOpen()) return;
+    frmStatus progress;
+    checkStore(store, progress);
+}
+
 bool OpenDatabase() {
     try {
-        StoreConnection().open(programFolder().filePath(storeFileName), storePassword);
+        openSound(StoreConnection());
         return session().StoreOpen = true;
     } catch (const StoreError& error) {
+        StoreConnection().close();
         showBox(exclamation("Connection Error", error.text()));
         return session().StoreOpen = false;
     }

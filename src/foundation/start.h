@@ -4,7 +4,8 @@
 
 // The way into the program.
 
-// Opens the store in the program's folder. A failure is shown ("Connection Error") and gives false.
+// Opens the store in the program's folder; one that was not closed in peace is looked through first, with the
+// progress box. A failure is shown ("Connection Error") and gives false.
 bool OpenDatabase();
 
 // The program's entry: opens the store, reads the report printer and shows the login. False when the store

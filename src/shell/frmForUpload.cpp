@@ -3,6 +3,7 @@
 #include "books/numbering.h"
 #include "foundation/session.h"
 #include "platform/masks.h"
+#include "platform/store/store_care.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
@@ -117,9 +118,17 @@ void frmForUpload::upload() {
     closeWhenFinished();
 }
 
+// The books of the day, kept aside. The progress box has gone before any other box comes.
+static void backUp() {
+    frmStatus progress;
+    backUpStore(StoreConnection(), progress);
+}
+
 // The last message comes whatever the two passes gave.
 void frmForUpload::postAndCost() {
     Boxes boxes;
+    passedOver_ = false;
+    const bool nothingToPost = documents_.isEmpty();
     const bool posted = PostStockValuation(StoreConnection(), documents_, *this, boxes);
     showBoxes(std::exchange(boxes, {}));
     if (!posted) {
@@ -128,10 +137,12 @@ void frmForUpload::postAndCost() {
     }
     const bool costed = costItems(boxes);
     showBoxes(boxes);
+    const bool completed = (posted || nothingToPost) && (costed || items_.isEmpty() || passedOver_);
     if (!costed) {
         showBox(initializingProblem());
         reload();
     }
+    if (completed) guarded([] { backUp(); });
     showBox(information("Zevrin!", "End of Day Transactions Successfully Uploaded!"));
     finished_ = true;
 }

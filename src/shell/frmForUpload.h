@@ -40,12 +40,14 @@ class frmForUpload : public ChildScreen, private EndOfDayView {
     void start(qint64 maximum) override;
     void documentPosted(qsizetype index) override;
     void itemCosted(qsizetype index) override;
+    void itemPassedOver(qsizetype) override { passedOver_ = true; }
 
     QList<QueuedDocument> documents_;
     QList<QueuedItem> items_;
     bool loaded_ = false;
     bool running_ = false;
     bool finished_ = false;
+    bool passedOver_ = false;
     QElapsedTimer painted_;
 
     ListView* lvwTransaction;

@@ -1,6 +1,7 @@
 #include "foundation/encryption.h"
 #include "foundation/schema.h"
 #include "platform/parsing.h"
+#include "support/files.h"
 #include "support/test_store.h"
 
 #include <QProcess>
@@ -108,11 +109,12 @@ TEST_F(DeliveredStore, TheHotQuestionsAreAnsweredByAnIndex) {
 }
 
 namespace {
-int runMkstore(const QStringList& arguments, QString* message = nullptr) {
+int runMkstore(const QStringList& arguments, QString* message = nullptr, QString* printed = nullptr) {
     QProcess program;
     program.start(QCoreApplication::applicationDirPath() + "/mkstore", arguments);
     EXPECT_TRUE(program.waitForFinished(30000));
     if (message) *message = program.readAllStandardError();
+    if (printed) *printed = program.readAllStandardOutput();
     return program.exitCode();
 }
 }  // namespace
@@ -131,5 +133,32 @@ TEST(Mkstore, MakesAStoreAndRefusesToReplaceOne) {
     EXPECT_EQ(runMkstore({folder.filePath("none/Quorvel.mdb")}, &message), 1);
     EXPECT_FALSE(message.isEmpty());
     EXPECT_EQ(runMkstore({}), 2);
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("Quorvel.mdb")) << "no draft left";
+    EXPECT_EQ(QDir(folder.path()).entryList({"*.new*", "*.unfinished*"}), QStringList()) << "no draft left";
+}
+
+TEST(Mkstore, ChecksTheFileTheSchemaAndEveryBalance) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("Quorvel.mdb");
+    ASSERT_EQ(runMkstore({path}), 0);
+    const struct {
+        const char* change;
+        const char* printed;
+    } cases[] = {{"SELECT 1", "The store is sound."},
+                 {"INSERT INTO tblItemMaster (ItemCode, Balance) VALUES ('A', 20000)",
+                  "tblItemMaster A has the balance 2, recomputed 0"},
+                 {"DROP INDEX tblSalesDetails_Reference", "missing index tblSalesDetails_Reference"}};
+    for (const auto& [change, expected] : cases) {
+        Connection store;
+        store.open(path, storePassword);
+        store.execute(change);
+        store.close();
+        QString printed;
+        const int answer = runMkstore({"--check", path}, nullptr, &printed);
+        EXPECT_EQ(answer, printed.startsWith("The store") ? 0 : 1);
+        EXPECT_TRUE(printed.startsWith(expected)) << qPrintable(printed);
+    }
+    QByteArray torn = contentOf(path);
+    torn.replace(3 * 4096, 64, QByteArray(64, 'z'));
+    writeFile(path, torn);
+    EXPECT_EQ(runMkstore({"--check", path}), 1);
 }

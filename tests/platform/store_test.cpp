@@ -172,7 +172,7 @@ TEST_F(StoreTest, AnOlderStoreTakesTheNewStepsWholeOrNotAtAll) {
 
 TEST_F(StoreTest, AUnitIsKeptWholeOrUndone) {
     EXPECT_EQ(store.execute("PRAGMA synchronous").integer("synchronous"), 2) << "a power cut";
-    EXPECT_EQ(store.execute("PRAGMA journal_mode").text("journal_mode"), "delete");
+    EXPECT_EQ(store.execute("PRAGMA journal_mode").text("journal_mode"), "truncate");
     {
         Transaction unit(store);
         add(store, "undone");

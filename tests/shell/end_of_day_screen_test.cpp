@@ -1,6 +1,7 @@
 #include "books/posting_queue.h"
 #include "documents/order_document.h"
 #include "foundation/shared_routines.h"
+#include "platform/store/store_care.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/screen_registry.h"
 #include "purchases/purchase_document.h"
@@ -9,6 +10,7 @@
 #include "support/box_script.h"
 #include "support/test_store.h"
 
+#include <QDir>
 #include <QLabel>
 #include <QPointer>
 #include <QToolButton>
@@ -136,6 +138,7 @@ TEST_F(EndOfDayScreen, ADocumentSavedAfterTheListsWaitsAndARefreshClosesWhenNoth
     save(purchaseOrders, "P9", "03/09/2026", "I2", 3, 7);
     boxes.expect(success);
     press(screen, "imgUpload");
+    EXPECT_EQ(QDir(folder_.filePath(backupFolder)).entryList(QDir::Files).size(), 1);
     EXPECT_EQ(count("tblForPosting"), 1);
     EXPECT_EQ(count("tblForPostingItem"), 1);
     screen = open();

@@ -1,21 +1,10 @@
 #include "platform/store/bulk.h"
 
 #include "platform/store/connection_private.h"
-#include "platform/store/dialect.h"
 
 #include <sqlite3.h>
 
 namespace {
-sqlite3_stmt* prepareBulk(Connection& store, const QString& text) {
-    const QByteArray utf8 = engineStatement(text).toUtf8();
-    sqlite3_stmt* statement = nullptr;
-    BusyWait wait;
-    while (sqlite3_prepare_v2(store.handle(), utf8.constData(), static_cast<int>(utf8.size()), &statement,
-                              nullptr) != SQLITE_OK)
-        waitOrThrow(store.handle(), wait);
-    return statement;
-}
-
 void bindText(sqlite3_stmt* statement, int position, const QString& text) {
     const QByteArray utf8 = text.toUtf8();
     sqlite3_bind_text(statement, position, utf8.constData(), static_cast<int>(utf8.size()), SQLITE_TRANSIENT);
@@ -36,34 +25,19 @@ void bindAll(sqlite3_stmt* statement, const QVariantList& values) {
     requireValues(sqlite3_bind_parameter_count(statement), values);
     for (int i = 0; i < values.size(); ++i) bindValue(statement, i + 1, storedValue(values[i]));
 }
-
-// One step; true when it gave a row. A first step that met another workstation's lock is tried again; later
-// ones hold a lock of their own.
-bool stepped(sqlite3_stmt* statement) {
-    sqlite3* const engine = sqlite3_db_handle(statement);
-    const bool underWay = sqlite3_stmt_busy(statement) != 0;
-    BusyWait wait;
-    for (;;) {
-        const int code = sqlite3_step(statement);
-        if (code == SQLITE_ROW || code == SQLITE_DONE) return code == SQLITE_ROW;
-        if (underWay) throw engineError(engine);
-        sqlite3_reset(statement);
-        waitOrThrow(engine, wait);
-    }
-}
 }  // namespace
 
 BulkReader::BulkReader(Connection& store, const Sql& statement)
-    : statement_(prepareBulk(store, statement.text)) {
+    : store_(store), text_(statement.text), statement_(store.d_->take(text_)) {
     try {
         bindAll(statement_, statement.values);
     } catch (...) {
-        sqlite3_finalize(statement_);
+        store_.d_->giveBack(text_, statement_);
         throw;
     }
 }
 
-BulkReader::~BulkReader() { sqlite3_finalize(statement_); }
+BulkReader::~BulkReader() { store_.d_->giveBack(text_, statement_); }
 
 bool BulkReader::next() { return stepped(statement_); }
 
@@ -77,9 +51,9 @@ QByteArrayView BulkReader::bytes(int column) const {
 }
 
 BulkWriter::BulkWriter(Connection& store, const QString& statement)
-    : store_(store), text_(statement), statement_(prepareBulk(store, statement)) {}
+    : store_(store), text_(statement), statement_(store.d_->take(text_)) {}
 
-BulkWriter::~BulkWriter() { sqlite3_finalize(statement_); }
+BulkWriter::~BulkWriter() { store_.d_->giveBack(text_, statement_); }
 
 void BulkWriter::bind(int position, qint64 value) { sqlite3_bind_int64(statement_, position, value); }
 

@@ -7,7 +7,8 @@
 class Connection;
 struct sqlite3_stmt;
 
-// One ordered scan over many rows at the speed of the engine: columns by position, no row kept.
+// One ordered scan over many rows at the speed of the engine: columns by position, no row kept. The engine
+// reads a statement once and keeps it, as it does those of the connection.
 class BulkReader {
   public:
     BulkReader(Connection& store, const Sql& statement);
@@ -24,6 +25,8 @@ class BulkReader {
     QString text(int column) const { return QString::fromUtf8(bytes(column)); }
 
   private:
+    Connection& store_;
+    QString text_;
     sqlite3_stmt* statement_ = nullptr;
 };
 

@@ -22,13 +22,35 @@ void Connection::open(const QString& path, const QString& password) {
         d_->openFile(path, "rw");
         overrideLike(d_->engine());
         requireOwnStore(*this);
+        requireWritable(*this);
         requirePassword(*this, password);
         setWorkingMode(*this);
         applySchemaSteps(*this);
+        d_->leftMarks = OpenMark::leftBehind(path);
+        d_->mark.emplace(path);
     } catch (...) {
         close();
         throw;
     }
+}
+
+void Connection::openToRead(const QString& path) {
+    close();
+    requireFile(path);
+    try {
+        d_->openFile(path, "ro");
+        overrideLike(d_->engine());
+        requireOwnStore(*this);
+    } catch (...) {
+        close();
+        throw;
+    }
+}
+
+bool Connection::wasLeftOpen() const { return !d_->leftMarks.isEmpty(); }
+
+void Connection::settleLeftOpen() {
+    for (const QString& mark : std::exchange(d_->leftMarks, {})) QFile::remove(mark);
 }
 
 void Connection::create(const QString& path, const QString& password) {

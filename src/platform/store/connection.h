@@ -28,8 +28,15 @@ class Connection {
     void open(const QString& path, const QString& password);
     // Makes a new store file with this password and no tables. Throws when the file exists.
     void create(const QString& path, const QString& password);
+    // Opens a store to look at it: no schema step is applied and nothing can be written. Throws as above, and
+    // for a store whose last unit was broken off, which only opening it to write can undo.
+    void openToRead(const QString& path);
     void close();
     bool isOpen() const;
+    // Whether a program that had the store open ended without closing it. Stays so until it is settled, when
+    // the file has been found sound.
+    bool wasLeftOpen() const;
+    void settleLeftOpen();
     QString path() const;
 
     // Rows of a SELECT, read to the end.
@@ -61,6 +68,8 @@ class Connection {
   private:
     friend class Transaction;
     friend class Recordset;
+    friend class BulkReader;
+    friend class BulkWriter;
     struct Private;
     qint64 lastRow() const;  // the number of the row last added
     std::shared_ptr<const RecordsetColumns> tableColumns(const QString& table);

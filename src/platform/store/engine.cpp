@@ -3,6 +3,7 @@
 #include "platform/store/connection_private.h"
 #include "platform/store/dialect.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QSqlDatabase>
@@ -138,16 +139,47 @@ void tellStatement(const QString& text) {
     if (statementHook()) statementHook()(text);
 }
 
+// The hook is the window's: work beside it waits without.
+static bool hasIdleHook() { return idleHook() && (!qApp || QThread::currentThread() == qApp->thread()); }
+
 bool BusyWait::again() {
     if (deadline_.hasExpired()) return false;
-    if (idleHook()) idleHook()();
-    QThread::msleep(20);
+    if (nextIdle_.hasExpired()) {
+        if (hasIdleHook()) idleHook()();
+        nextIdle_.setRemainingTime(20);
+    }
+    QThread::msleep(2);
     return true;
+}
+
+// What a person can do about a failure of the file or its disk; null: the engine's own text serves better.
+static const char* adviceOn(int engineCode) {
+    if (engineCode == SQLITE_READONLY_DBMOVED)
+        return "The store has been moved or renamed while the program had it open. Please bring it back and "
+               "start the program again.";
+    switch (engineCode & 0xFF) {
+        case SQLITE_FULL:
+            return "The disk of the store is full. Please make room on it and try again.";
+        case SQLITE_READONLY:
+            return "The store is read-only. Please allow this user to write to it and to its folder.";
+        case SQLITE_CANTOPEN:
+            return "The folder of the store has gone, or is read-only.";
+        case SQLITE_IOERR:
+            return "The disk of the store fails. Please try again, and have the disk looked at.";
+        case SQLITE_CORRUPT:
+        case SQLITE_NOTADB:
+            return "The store is damaged. Please go back to the newest copy in the folder \"Backup\".";
+        default:
+            return nullptr;
+    }
 }
 
 StoreError engineError(sqlite3* engine) {
     const int number = numberOf(sqlite3_errcode(engine));
-    return {number, number == StoreError::busy ? busyText : QString::fromUtf8(sqlite3_errmsg(engine))};
+    if (number == StoreError::busy) return {number, busyText};
+    const QString reason = QString::fromUtf8(sqlite3_errmsg(engine));
+    const char* advice = adviceOn(sqlite3_extended_errcode(engine));
+    return {number, advice ? QString("%1 (%2)").arg(advice, reason) : reason};
 }
 
 void waitOrThrow(sqlite3* engine, BusyWait& wait) {
@@ -197,11 +229,14 @@ void Connection::Private::shut() {
     prepared.clear();
     types.clear();
     columns.clear();
+    for (sqlite3_stmt* statement : std::exchange(idle, {})) sqlite3_finalize(statement);
     database.close();
     database = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);
     name.clear();
     path.clear();
+    leftMarks.clear();
+    mark.reset();
 }
 
 sqlite3* Connection::Private::engine() const {
@@ -264,8 +299,46 @@ void Connection::Private::fail(PreparedStatement& statement) const {
     throw error;
 }
 
-void Connection::Private::control(const QByteArray& statement) {
+bool stepped(sqlite3_stmt* statement) {
+    sqlite3* const engine = sqlite3_db_handle(statement);
+    const bool underWay = sqlite3_stmt_busy(statement) != 0;
     BusyWait wait;
-    while (sqlite3_exec(engine(), statement.constData(), nullptr, nullptr, nullptr) != SQLITE_OK)
+    for (;;) {
+        const int code = sqlite3_step(statement);
+        if (code == SQLITE_ROW || code == SQLITE_DONE) return code == SQLITE_ROW;
+        if (underWay) throw engineError(engine);
+        sqlite3_reset(statement);
+        waitOrThrow(engine, wait);
+    }
+}
+
+sqlite3_stmt* Connection::Private::take(const QString& text) {
+    if (sqlite3_stmt* known = idle.take(text)) return known;
+    const QByteArray utf8 = engineStatement(text).toUtf8();
+    sqlite3_stmt* statement = nullptr;
+    BusyWait wait;
+    while (sqlite3_prepare_v3(engine(), utf8.constData(), static_cast<int>(utf8.size()),
+                              SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK)
         waitOrThrow(engine(), wait);
+    return statement;
+}
+
+void Connection::Private::giveBack(const QString& text, sqlite3_stmt* statement) {
+    sqlite3_reset(statement);
+    sqlite3_clear_bindings(statement);
+    if (name.isEmpty() || idle.contains(text) || idle.size() >= keptStatements)
+        sqlite3_finalize(statement);
+    else
+        idle.insert(text, statement);
+}
+
+void Connection::Private::control(const QString& statement) {
+    sqlite3_stmt* const taken = take(statement);
+    try {
+        stepped(taken);
+    } catch (...) {
+        giveBack(statement, taken);
+        throw;
+    }
+    giveBack(statement, taken);
 }

@@ -60,7 +60,10 @@ QVariant normalised(const QString& column, const QString& type, const QVariant& 
 
 QDate dateOf(const QString& stored) { return QDate::fromString(stored.left(10), Qt::ISODate); }
 
-[[noreturn]] void noRow() { throw StoreError(StoreError::noCurrentRow, "There is no current row."); }
+[[noreturn]] void noRow() {
+    throw StoreError(StoreError::noCurrentRow,
+                     "This record is no longer there. Another user may have deleted or renamed it.");
+}
 }  // namespace
 
 int Recordset::columnIndex(const QString& column) const {
@@ -188,8 +191,7 @@ void Recordset::insertRow() {
 }
 
 void Recordset::updateRow() {
-    if (connection_->run(updateStatement()) == 0)
-        throw StoreError(StoreError::noCurrentRow, "The row has been deleted by another user.");
+    if (connection_->run(updateStatement()) == 0) noRow();
     keepChanges(rows_[static_cast<size_t>(position_)]);
 }
 

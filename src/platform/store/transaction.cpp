@@ -5,7 +5,7 @@
 #include <sqlite3.h>
 
 namespace {
-QByteArray savepoint(int level) { return "unit" + QByteArray::number(level); }
+QString savepoint(int level) { return QString("unit%1").arg(level); }
 }  // namespace
 
 Transaction::Transaction(Connection& connection) : connection_(connection), level_(connection.depth_) {
@@ -20,9 +20,9 @@ Transaction::~Transaction() {
     if (!connection_.isOpen()) return;
     sqlite3* const engine = connection_.handle();
     if (sqlite3_get_autocommit(engine) != 0) return;  // the engine has undone all of it already
-    const QByteArray undo =
+    const QString undo =
         level_ == 0 ? "ROLLBACK" : "ROLLBACK TO " + savepoint(level_) + "; RELEASE " + savepoint(level_);
-    sqlite3_exec(engine, undo.constData(), nullptr, nullptr, nullptr);
+    sqlite3_exec(engine, undo.toUtf8().constData(), nullptr, nullptr, nullptr);
 }
 
 // A commit that fails leaves the unit open, so that going out of scope undoes it.
