@@ -5,8 +5,10 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -97,6 +99,8 @@ struct Row {
     Count key;
     bool purchase;
     Count in, price, out, balance, cost, newBalance, newCost;
+    int item = 0;
+    int date = 0;
 };
 
 constexpr const char* rowColumns = "ZevRef, BookID, StockIn, InPrice, StockOut, Balance, SalesCost";
@@ -113,7 +117,7 @@ Row readRow(const Statement& rows) {
             0};
 }
 
-void costRows(std::vector<Row>& rows) {
+void costRows(std::span<Row> rows) {
     Count balance = 0;
     std::vector<std::pair<Count, Count>> layers;
     for (Row& row : rows) {
@@ -146,62 +150,91 @@ void addUp(sqlite3* engine, const char* query, Count sign, Sums& sums) {
     for (Statement rows(engine, query); rows.next();) sums[key.assign(rows.text(0))] += sign * rows.number(1);
 }
 
-// Base less paid for each row of a master: its key, balance and own amount.
+// Base less paid for each row of a master: its key, balance, own amount and row.
 void storeBalances(sqlite3* engine, const char* query, const char* update, const Sums& sums, bool absolute) {
-    Units units(engine);
     Statement rows(engine, query);
     Statement write(engine, update);
     std::string key;
+    std::vector<std::pair<Count, Count>> stale;
     while (rows.next()) {
         const auto found = sums.find(key.assign(rows.text(0)));
         const Count sum = found == sums.end() ? 0 : found->second;
         const Count balance = rows.number(2) - (absolute ? std::abs(sum) : sum);
-        if (balance != rows.number(1)) write.bind(1, balance).bind(2, key).run();
-        units.breathe();
+        if (balance != rows.number(1)) stale.emplace_back(rows.number(3), balance);
     }
+    for (const auto& [row, balance] : stale) write.bind(1, balance).bind(2, row).run();
+}
+
+// "2026-01-31" as 20260131.
+int dayOf(std::string_view date) {
+    int day = 0;
+    for (const char letter : date)
+        if (letter != '-') day = day * 10 + (letter - '0');
+    return day;
+}
+
+std::vector<Row> readLedger(sqlite3* engine) {
+    const std::string query =
+        std::string("SELECT ") + rowColumns + ", ItemCode, TransDate FROM tblStockValuation ORDER BY ZevRef";
+    std::vector<Row> rows;
+    std::unordered_map<std::string, int> items;
+    std::string code;
+    for (Statement ledger(engine, query.c_str()); ledger.next();) {
+        rows.push_back(readRow(ledger));
+        rows.back().item =
+            items.emplace(code.assign(ledger.text(7)), static_cast<int>(items.size())).first->second;
+        rows.back().date = dayOf(ledger.text(8));
+    }
+    return rows;
+}
+
+void costLedger(std::vector<Row>& rows) {
+    std::ranges::sort(rows, {},
+                      [](const Row& row) { return std::tuple(row.item, row.date, !row.purchase, row.key); });
+    for (auto first = rows.begin(); first != rows.end();) {
+        const auto last =
+            std::find_if(first, rows.end(), [&](const Row& row) { return row.item != first->item; });
+        costRows({first, last});
+        first = last;
+    }
+    std::ranges::sort(rows, {}, &Row::key);
 }
 }  // namespace
 
-void bareRevaluation(sqlite3* engine) {
-    Units units(engine);
-    const std::string query =
-        std::string("SELECT ") + rowColumns +
-        ", ItemCode FROM tblStockValuation ORDER BY ItemCode, TransDate, BookID, ZevRef";
-    Statement ledger(engine, query.c_str());
-    Statement write(engine, writeRowText);
-    std::vector<Row> rows;
-    std::string item;
-    const auto finish = [&] {
-        costRows(rows);
-        for (const Row& row : rows) writeRow(write, row);
-        rows.clear();
-        units.breathe();
-    };
-    while (ledger.next()) {
-        if (ledger.text(7) != item) {
-            finish();
-            item = ledger.text(7);
-        }
-        rows.push_back(readRow(ledger));
-    }
-    finish();
+void bareRead(sqlite3* engine) {
+    if (readLedger(engine).empty()) std::abort();
 }
 
+// Each page is read once and written once: rows in their order, the costing in memory between.
+void bareRevaluation(sqlite3* engine) {
+    std::vector<Row> rows = readLedger(engine);
+    costLedger(rows);
+    Units units(engine);
+    Statement write(engine, writeRowText);
+    for (const Row& row : rows) {
+        if (row.newBalance == row.balance && row.newCost == row.cost) continue;
+        writeRow(write, row);
+        units.breathe();
+    }
+}
+
+// One pass over each table, summed up by hash, all in one unit.
 void bareBalances(sqlite3* engine) {
+    run(engine, "BEGIN IMMEDIATE");
     Sums stock;
     addUp(engine, "SELECT ItemID, Delivered FROM tblPurchaseDetails", -1, stock);
     addUp(engine, "SELECT ItemID, Served FROM tblSalesDetails", 1, stock);
-    storeBalances(engine, "SELECT ItemCode, Balance, 0 FROM tblItemMaster",
-                  "UPDATE tblItemMaster SET Balance = ? WHERE ItemCode = ?", stock, false);
+    storeBalances(engine, "SELECT ItemCode, Balance, 0, rowid FROM tblItemMaster",
+                  "UPDATE tblItemMaster SET Balance = ? WHERE rowid = ?", stock, false);
     Sums paid;
     addUp(engine, "SELECT PuchaseID, PayAmount FROM tblDisbursementDetails WHERE DirectPayment = 0", 1, paid);
-    storeBalances(engine, "SELECT PurchaseNo, Balance, PurchaseAmount FROM tblPurchaseMaster",
-                  "UPDATE tblPurchaseMaster SET Balance = ? WHERE PurchaseNo = ?", paid, false);
+    storeBalances(engine, "SELECT PurchaseNo, Balance, PurchaseAmount, rowid FROM tblPurchaseMaster",
+                  "UPDATE tblPurchaseMaster SET Balance = ? WHERE rowid = ?", paid, false);
     Sums received;
-    addUp(engine, "SELECT Reference, Amount FROM tblReceiptDetails", 1, received);
-    addUp(engine, "SELECT Reference, DiscountAmount FROM tblReceiptDetails", 1, received);
-    storeBalances(engine, "SELECT RefNo, Balance, TotalAmount FROM tblSalesMaster",
-                  "UPDATE tblSalesMaster SET Balance = ? WHERE RefNo = ?", received, true);
+    addUp(engine, "SELECT Reference, Amount + DiscountAmount FROM tblReceiptDetails", 1, received);
+    storeBalances(engine, "SELECT RefNo, Balance, TotalAmount, rowid FROM tblSalesMaster",
+                  "UPDATE tblSalesMaster SET Balance = ? WHERE rowid = ?", received, true);
+    run(engine, "COMMIT");
 }
 
 namespace {

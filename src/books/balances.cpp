@@ -5,13 +5,14 @@
 #include "books/passed_over.h"
 #include "foundation/shared_routines.h"
 
+static Term termOf(const Recordset& row, const char* alias) {
+    return row.isNull(alias) ? Term() : Term(row.currency(alias));
+}
+
 // The one value of a summing query.
 static Term sumOf(Connection& store, const Sql& query, const char* alias) {
     Term sum;
-    passOverRead([&] {
-        const Recordset row = store.execute(query);
-        if (!row.isNull(alias)) sum = row.currency(alias);
-    });
+    passOverRead([&] { sum = termOf(store.execute(query), alias); });
     return sum;
 }
 
@@ -27,8 +28,7 @@ static Payment paymentOf(Connection& store, const Sql& query) {
     Payment payment;
     passOverRead([&] {
         const Recordset row = store.execute(query);
-        if (!row.isNull("Bayad")) payment.paid = row.currency("Bayad");
-        if (!row.isNull("Palugit")) payment.granted = row.currency("Palugit");
+        payment = {termOf(row, "Bayad"), termOf(row, "Palugit")};
     });
     return payment;
 }
@@ -85,14 +85,25 @@ Currency SupplierBalance(Connection& store, const QString& contactId) {
     return differenceFigure(purchased, paid);
 }
 
+static constexpr const char* deliveredOfItem =
+    "SELECT SUM(Delivered) As TotalDelivery FROM tblPurchaseDetails WHERE ItemID = ?";
+static constexpr const char* servedOfItem =
+    "SELECT SUM(Served) As TotalSales FROM tblSalesDetails WHERE ItemID = ?";
+
+// Both sums in one statement, for every line of a save asks for them; where that fails, each by itself.
 Currency ItemBalance(Connection& store, const QString& itemCode) {
-    const Term delivered =
-        sumOf(store,
-              {"SELECT SUM(Delivered) As TotalDelivery FROM tblPurchaseDetails WHERE ItemID = ?", {itemCode}},
-              "TotalDelivery");
-    const Term served =
-        sumOf(store, {"SELECT SUM(Served) As TotalSales FROM tblSalesDetails WHERE ItemID = ?", {itemCode}},
-              "TotalSales");
+    Term delivered, served;
+    const bool together = passOverRead([&] {
+        const Recordset row = store.execute(
+            {QString("SELECT (%1) AS TotalDelivery, (%2) AS TotalSales").arg(deliveredOfItem, servedOfItem),
+             {itemCode, itemCode}});
+        delivered = termOf(row, "TotalDelivery");
+        served = termOf(row, "TotalSales");
+    });
+    if (!together) {
+        delivered = sumOf(store, {deliveredOfItem, {itemCode}}, "TotalDelivery");
+        served = sumOf(store, {servedOfItem, {itemCode}}, "TotalSales");
+    }
     return differenceFigure(delivered, served);
 }
 
@@ -142,16 +153,16 @@ void StoreItemBalance(Connection& store, const QString& itemCode, Boxes& boxes) 
     storeBalance(store, inventoryBalance, itemCode, boxes);
 }
 
-void UpdateSalesBalance(Connection& store, const QString& refNo, Boxes& boxes) {
-    updateBalance(store, receivableBalance, refNo, boxes);
+void UpdateSalesBalance(Connection& store, const QString& refNo, Boxes&) {
+    updateBalance(store, receivableBalance, refNo);
 }
 
-void UpdatePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes& boxes) {
-    updateBalance(store, payableBalance, purchaseNo, boxes);
+void UpdatePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes&) {
+    updateBalance(store, payableBalance, purchaseNo);
 }
 
-void UpdateItemBalance(Connection& store, const QString& itemCode, Boxes& boxes) {
-    updateBalance(store, inventoryBalance, itemCode, boxes);
+void UpdateItemBalance(Connection& store, const QString& itemCode, Boxes&) {
+    updateBalance(store, inventoryBalance, itemCode);
 }
 
 void RecomputeReceivableBalances(Connection& store, Progress& progress) {

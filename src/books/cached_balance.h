@@ -10,8 +10,8 @@
 struct SumSource {
     const char* table;
     const char* key;
-    const char* sums;  // SELECT columns, each a sum
-    int sumCount;
+    const char* columns;  // each summed up
+    int columnCount;
     const char* filter;
 };
 
@@ -33,5 +33,5 @@ extern const CachedBalance payableBalance;
 extern const CachedBalance inventoryBalance;
 
 void storeBalance(Connection& store, const CachedBalance& cached, const QString& key, Boxes& boxes);
-void updateBalance(Connection& store, const CachedBalance& cached, const QString& key, Boxes& boxes);
+void updateBalance(Connection& store, const CachedBalance& cached, const QString& key);
 void recomputeBalances(Connection& store, const CachedBalance& cached, Progress& progress);

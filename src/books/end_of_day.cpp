@@ -106,8 +106,8 @@ static bool costItemOrPass(Connection& store, const QueuedItem& item, Progress& 
     try {
         costItem(store, item, progress, told);
     } catch (const OverflowError& error) {
-        boxes += exclamation("Error...",
-                             QString("%1 %2: %3").arg(item.itemCode, item.description, error.what()));
+        boxes +=
+            exclamation("Error...", QString("%1 %2: %3").arg(item.itemCode, item.description, error.what()));
         return false;
     }
     boxes += told;
@@ -151,6 +151,7 @@ class Walk {
             const bool sound = succeeds(boxes_, [&] { runUnit(unit, stepText, step); });
             for (const qsizetype index : unit.done) tell(index);
             if (!sound || unit.failed) return false;
+            if (next_ < list_.size()) letOthersIn();
         }
         view_.status({});
         view_.start(0);
@@ -177,7 +178,7 @@ class Walk {
             if (whole)
                 done += index;
             else
-                passedOver_ = true;
+                passOver(index);
         }
         // What a full disk has undone as a whole is told once.
         if (!unit.failed)
@@ -187,6 +188,11 @@ class Walk {
         boxes_ += told + failure;
         unit.done = done;
         next_ = index;
+    }
+
+    void passOver(qsizetype index) {
+        passedOver_ = true;
+        view_.itemPassedOver(index);
     }
 
     Connection& store_;

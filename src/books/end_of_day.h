@@ -30,6 +30,7 @@ class EndOfDayView {
     virtual void start(qint64 /*maximum*/) {}
     virtual void documentPosted(qsizetype /*index*/) {}
     virtual void itemCosted(qsizetype /*index*/) {}
+    virtual void itemPassedOver(qsizetype /*index*/) {}
 };
 
 // Each document and each item is done whole or not at all, in units of a quarter of a second at most. False

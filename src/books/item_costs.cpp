@@ -61,3 +61,19 @@ void ComputeItemCosts(Connection& store, const QString& itemCode,
         }
     });
 }
+
+static void passOverOverflow(auto step) {
+    try {
+        step();
+    } catch (const OverflowError&) {
+    }
+}
+
+void costPassingOver(ItemCosting& item) {
+    passOverOverflow([&] { item.computeBalances(); });
+    passOverOverflow([&] { item.computeSalesCost(); });
+}
+
+void RecomputeItemCosts(Connection& store, const QString& itemCode) {
+    recompute(store, itemCode, costPassingOver);
+}

@@ -1,4 +1,5 @@
 #pragma once
+#include "books/costing.h"
 #include "platform/box.h"
 #include "platform/store/connection.h"
 
@@ -13,3 +14,8 @@ inline constexpr const char* salesCostText = "System is Computing Sales Cost for
 // Throws StoreError, and OverflowError for a balance beyond the range.
 void ComputeItemCosts(Connection& store, const QString& itemCode,
                       const std::function<void(const char* text)>& tell, Boxes& boxes);
+
+// Both figures, where one beyond the range ends its own pass over the item, not the other one; and the same
+// for an item in the store.
+void costPassingOver(ItemCosting& item);
+void RecomputeItemCosts(Connection& store, const QString& itemCode);

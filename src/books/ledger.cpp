@@ -24,14 +24,16 @@ StockRow readRow(const BulkReader& reader) {
 Writer::Writer(Connection& store)
     : figures_(store, "UPDATE tblStockValuation SET Balance = ?, SalesCost = ? WHERE ZevRef = ?") {}
 
+void Writer::write(qint64 zevRef, const StockFigures& figures) {
+    figures_.bind(1, figures.balance);
+    figures_.bind(2, figures.salesCost);
+    figures_.bind(3, zevRef);
+    figures_.step();
+}
+
 void Writer::write(const ItemCosting& item) {
-    for (const StockRow& row : item.rows()) {
-        if (row.figures == row.stored) continue;
-        figures_.bind(1, row.figures.balance);
-        figures_.bind(2, row.figures.salesCost);
-        figures_.bind(3, row.zevRef);
-        figures_.step();
-    }
+    for (const StockRow& row : item.rows())
+        if (row.figures != row.stored) write(row.zevRef, row.figures);
 }
 
 }  // namespace ledger

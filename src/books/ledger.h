@@ -18,6 +18,7 @@ class Writer {
   public:
     explicit Writer(Connection& store);
     void write(const ItemCosting& item);
+    void write(qint64 zevRef, const StockFigures& figures);
 
   private:
     BulkWriter figures_;

@@ -4,6 +4,7 @@
 #include "platform/store/sql.h"
 
 #include <QElapsedTimer>
+#include <QThread>
 #include <optional>
 
 // A pass over the whole books runs in units, each a transaction of its own: it reads and writes under one
@@ -13,6 +14,7 @@ class UnitClock {
   public:
     UnitClock() { timer_.start(); }
     bool isOver() const { return timer_.elapsed() >= workMs; }
+    bool isHalfOver() const { return timer_.elapsed() >= workMs / 2; }
 
   private:
     static constexpr qint64 workMs = 120;
@@ -23,10 +25,9 @@ class UnitClock {
 class KeyWalk {
   public:
     KeyWalk(const char* table, const char* key) : table_(table), key_(key) {}
-    const std::optional<QString>& last() const { return last_; }
     qint64 done() const { return done_; }
-    void pass(const QString& key) {
-        last_ = key;
+    void pass(QByteArrayView key) {
+        last_ = key.toByteArray();
         ++done_;
     }
     // The WHERE clause for the keys still to come, in this column, of the rows that the filter lets through.
@@ -35,7 +36,8 @@ class KeyWalk {
         if (!filter.isEmpty()) conditions += filter;
         if (last_) conditions += column + " > ?";
         if (conditions.isEmpty()) return {};
-        return {" WHERE " + conditions.join(" AND "), last_ ? QVariantList{*last_} : QVariantList()};
+        return {" WHERE " + conditions.join(" AND "),
+                last_ ? QVariantList{QString::fromUtf8(*last_)} : QVariantList()};
     }
     std::optional<QString> next(Connection& store) const {
         const Recordset row = store.execute(Sql(QString("SELECT %1 AS NextKey FROM %2").arg(key_, table_)) +
@@ -46,20 +48,36 @@ class KeyWalk {
   private:
     const char* table_;
     const char* key_;
-    std::optional<QString> last_;
+    std::optional<QByteArray> last_;
     qint64 done_ = 0;
 };
+
+// The breath between two units, in which other workstations take the store: they look for it every two
+// milliseconds.
+inline void letOthersIn() { QThread::msleep(8); }
+
+// Runs the step again and again, each time in a unit of its own, until it answers that no work is left.
+template <class Step>
+void inUnits(Connection& store, Step step) {
+    for (bool more = true; more;) {
+        const UnitClock clock;
+        Transaction unit(store);
+        more = step(clock);
+        unit.commit();
+        if (more) letOthersIn();
+    }
+}
 
 // Runs a pass to its end. It offers
 //   bool readOn(const UnitClock&)  works until the clock is over; false when no key is left
 //   bool passNext()                deals with the key at which readOn failed; false when there is none
-//   void tell(Progress&)           shows how far it came; called between units
+//   void tell(Progress&)           shows how far it came; called in each unit
 template <class Pass>
 void runInUnits(Connection& store, Pass& pass, Progress& progress) {
-    for (bool more = true; more; pass.tell(progress)) {
-        const UnitClock clock;
-        Transaction unit(store);
+    inUnits(store, [&](const UnitClock& clock) {
+        bool more = true;
         if (!passOverRead([&] { more = pass.readOn(clock); })) more = pass.passNext();
-        unit.commit();
-    }
+        pass.tell(progress);
+        return more;
+    });
 }

@@ -21,8 +21,8 @@ static CounterState readCounter(Connection& store, const char* table) {
     return {false, parseNumber(row.text("Server"))};
 }
 
-static void writeCounter(Connection& store, const char* table, qint64 number) {
-    const QVariantList value{QString::number(number)};
+static void writeCounter(Connection& store, const char* table, const QString& number) {
+    const QVariantList value{number};
     if (store.run({QString("UPDATE %1 SET Server = ?").arg(table), value}) == 0)
         store.run({QString("INSERT INTO %1 (Server) VALUES (?)").arg(table), value});
 }
@@ -46,10 +46,7 @@ QString nextSerial(Connection& store, const SerialCounter& counter) {
 }
 
 void storeSerial(Connection& store, const SerialCounter& counter, const QString& serial) {
-    passOverWrite(store, [&] {
-        store.run(QString("DELETE FROM %1").arg(counter.counterTable));
-        store.run({QString("INSERT INTO %1 (Server) VALUES (?)").arg(counter.counterTable), {serial}});
-    });
+    passOverRead([&] { writeCounter(store, counter.counterTable, serial); });
 }
 
 QString documentNumber(const QString& month, const QString& serial, const QString& year) {
@@ -79,13 +76,14 @@ qint64 takeKeys(Connection& store, const RowKey& key, qint64 count) {
     qint64 first = 0;
     const bool taken = passOverWrite(store, [&] {
         first = firstFree(store, key);
-        if (first > 0 && count > 0) writeCounter(store, key.counterTable, first + count - 1);
+        if (first > 0 && count > 0) writeCounter(store, key.counterTable, QString::number(first + count - 1));
     });
     return taken ? first : 0;
 }
 
 void resetKey(Connection& store, const RowKey& key) {
-    passOverWrite(store, [&] { writeCounter(store, key.counterTable, lastKey(store, key)); });
+    passOverWrite(store,
+                  [&] { writeCounter(store, key.counterTable, QString::number(lastKey(store, key))); });
 }
 
 }  // namespace numbering

@@ -2,6 +2,8 @@
 #include "platform/store/connection.h"
 #include "platform/store/transaction.h"
 
+#include <optional>
+
 // Steps whose errors are passed over. Each answers false after a failure, which then has changed nothing; a
 // busy store is thrown all the same, because there the answer is to wait and try again.
 
@@ -24,4 +26,12 @@ bool passOverWrite(Connection& store, Step step) {
         step();
         unit.commit();
     });
+}
+
+// The engine undoes a single statement that it refuses by itself: it needs no unit of its own. The rows that
+// it changed, or nothing after a failure.
+inline std::optional<qint64> passOverStatement(Connection& store, const Sql& statement) {
+    std::optional<qint64> changed;
+    passOverRead([&] { changed = store.run(statement); });
+    return changed;
 }

@@ -9,9 +9,10 @@ void QueueBookForPosting(Connection& store, const QString& bookId, const QString
 }
 
 void QueueItemForPosting(Connection& store, const QString& itemCode) {
-    const qint64 waiting =
-        store.run({"UPDATE tblForPostingItem SET ItemID = ? WHERE ItemID = ?", {itemCode, itemCode}});
-    if (waiting == 0) store.run({"INSERT INTO tblForPostingItem (ItemID) VALUES (?)", {itemCode}});
+    store.run(
+        {"INSERT INTO tblForPostingItem (ItemID) SELECT ? WHERE NOT EXISTS"
+         " (SELECT 1 FROM tblForPostingItem WHERE ItemID = ?)",
+         {itemCode, itemCode}});
 }
 
 void RemoveForPosting(Connection& store, const QString& bookId, const QString& reference) {

@@ -1,88 +1,103 @@
-// The costing of every item, in one ordered scan of the ledger.
+// The costing of every item, over the whole ledger at once.
 #include "books/item_costs.h"
 #include "books/ledger.h"
-#include "books/long_pass.h"
 #include "books/stock_valuation.h"
+#include "books/touched_items.h"
+#include "books/whole_ledger.h"
 #include "foundation/shared_routines.h"
 
 namespace {
-// The items of the master, in their order; rows of an item that has gone keep what they have.
+// Other workstations may write between its units: an item whose rows they touched since the pass began is
+// left out, and costed at the end by itself, in one unit that reads its rows anew.
 class Revaluation {
   public:
-    explicit Revaluation(Connection& store) : store_(store) {}
-    bool readOn(const UnitClock& clock);
-    bool passNext();
-    void tell(Progress& progress) const;
+    Revaluation(Connection& store, Progress& progress)
+        : store_(store), progress_(progress), touched_(store), ledger_(store) {}
+    void run();
 
   private:
-    Sql rows() const;
-    void take(const BulkReader& row);
-    void finishItem(ledger::Writer& writer);
+    void read();
+    bool writeOn(const UnitClock& clock);
+    bool costTouchedOn(const UnitClock& clock);
+    std::vector<bool> touchedItems();
+    void writeRow(ledger::Writer& writer, const WholeLedger::Change& change);
+    void tellWritten();
 
     Connection& store_;
-    KeyWalk items_{"tblItemMaster", "ItemCode"};
-    ItemCosting item_;
+    Progress& progress_;
+    TouchedItems touched_;
+    WholeLedger ledger_;
+    size_t written_ = 0;
+    QStringList costAnew_;
 };
 }  // namespace
 
-// The item's code comes first, then the columns of the ledger; an item without rows has one of nulls.
-Sql Revaluation::rows() const {
-    return Sql(QString("SELECT %1, m.ItemCode FROM tblItemMaster m LEFT JOIN tblStockValuation v"
-                       " ON v.ItemCode = m.ItemCode")
-                   .arg(ledger::columns)) +
-           items_.clause("m.ItemCode") + Sql(QString(" ORDER BY m.ItemCode, ") + ledger::order);
+void Revaluation::run() {
+    read();
+    ledger_.cost();
+    inUnits(store_, [this](const UnitClock& clock) {
+        tellWritten();
+        return writeOn(clock);
+    });
+    inUnits(store_, [this](const UnitClock& clock) { return costTouchedOn(clock); });
 }
 
-void Revaluation::take(const BulkReader& row) {
-    if (!row.isNull(0)) item_.add(ledger::readRow(row));
-}
-
-// A figure beyond the range ends its own pass over the item, not the other one.
-static void passOverOverflow(auto step) {
-    try {
-        step();
-    } catch (const OverflowError&) {
+// Half of the bar is for the reading, half for the writing.
+void Revaluation::read() {
+    const Recordset last = store_.execute("SELECT MAX(ZevRef) AS Highest FROM tblStockValuation");
+    const qint64 highest = std::max<qint64>(1, last.integer("Highest"));
+    while (ledger_.readOn(UnitClock())) {
+        progress_.setValue(static_cast<qint64>(static_cast<double>(ledger_.lastKey()) /
+                                               static_cast<double>(highest) * ledger_.itemCount() / 2));
+        letOthersIn();
     }
 }
 
-void Revaluation::finishItem(ledger::Writer& writer) {
-    passOverOverflow([this] { item_.computeBalances(); });
-    passOverOverflow([this] { item_.computeSalesCost(); });
-    writer.write(item_);
+std::vector<bool> Revaluation::touchedItems() {
+    std::vector<bool> touched(static_cast<size_t>(ledger_.itemCount()));
+    costAnew_ = touched_.codes();
+    for (const QString& code : std::as_const(costAnew_))
+        if (const int item = ledger_.itemOf(code.toUtf8()); item >= 0)
+            touched[static_cast<size_t>(item)] = true;
+    return touched;
 }
 
-bool Revaluation::readOn(const UnitClock& clock) {
-    constexpr int codeColumn = 7;
-    BulkReader row(store_, rows());
+// A row that the store refuses keeps what it has; what has undone the whole unit ends the pass.
+void Revaluation::writeRow(ledger::Writer& writer, const WholeLedger::Change& change) {
+    if (!passOverRead([&] { writer.write(change.zevRef, change.figures); })) store_.requireUnit();
+}
+
+bool Revaluation::writeOn(const UnitClock& clock) {
+    constexpr size_t rowsBetweenLooks = 64;
+    const std::vector<bool> touched = touchedItems();
+    const auto& changes = ledger_.changes();
     ledger::Writer writer(store_);
-    bool more = row.next();
-    while (more && !clock.isOver()) {
-        const QByteArray code = row.bytes(codeColumn).toByteArray();
-        for (item_.clear(); more && row.bytes(codeColumn) == code; more = row.next()) take(row);
-        finishItem(writer);
-        items_.pass(QString::fromUtf8(code));
+    for (; written_ < changes.size(); ++written_) {
+        if (written_ % rowsBetweenLooks == 0 && clock.isOver()) return true;
+        const WholeLedger::Change& change = changes[written_];
+        if (!touched[static_cast<size_t>(change.item)]) writeRow(writer, change);
     }
-    return more;
+    return false;
 }
 
-// An item that the store fails on is left as it is.
-bool Revaluation::passNext() {
-    const std::optional<QString> code = items_.next(store_);
-    if (code) items_.pass(*code);
-    return code.has_value();
+bool Revaluation::costTouchedOn(const UnitClock& clock) {
+    while (!costAnew_.isEmpty() && !clock.isOver()) {
+        const QString code = costAnew_.takeFirst();
+        if (ledger_.itemOf(code.toUtf8()) >= 0) RecomputeItemCosts(store_, code);
+    }
+    return !costAnew_.isEmpty();
 }
 
-void Revaluation::tell(Progress& progress) const {
-    if (items_.last())
-        progress.setText(balanceText + LookupField(store_, "ItemCode", "tblItemMaster", "Description",
-                                                   *items_.last(), LookupMode::DisplayText));
-    progress.setValue(items_.done());
+void Revaluation::tellWritten() {
+    const auto& changes = ledger_.changes();
+    const double part =
+        changes.empty() ? 1 : static_cast<double>(written_) / static_cast<double>(changes.size());
+    progress_.setValue(static_cast<qint64>((1 + part) / 2 * ledger_.itemCount()));
 }
 
 void RecomputeStockValuation(Connection& store, Progress& progress) {
     passOverRead([&] {
         const ProgressScope scope(progress, balanceText, CountRecords(store, "tblItemMaster"));
-        Revaluation pass(store);
-        runInUnits(store, pass, progress);
+        Revaluation(store, progress).run();
     });
 }

@@ -102,12 +102,8 @@ static Currency averageCost(Currency value, Currency quantity) {
 void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes) {
     const Currency value = wholeValue(store, itemCode, boxes);
     const Currency cost = averageCost(value, ItemBalance(store, itemCode));
-    qint64 written = -1;
-    passOverWrite(store, [&] {
-        written =
-            store.run({"UPDATE tblItemMaster SET CostPrice = ? WHERE ItemCode = ?", {bound(cost), itemCode}});
-    });
-    if (written == 0)
+    if (passOverStatement(store, {"UPDATE tblItemMaster SET CostPrice = ? WHERE ItemCode = ?",
+                                  {bound(cost), itemCode}}) == 0)
         boxes += exclamation("Error!", "Inventory Balance could not be Updated! Item Not Found!");
 }
 
@@ -124,9 +120,8 @@ const char* priceColumn(PriceKind kind) {
 }
 
 void UpdateItemPrice(Connection& store, const QString& itemCode, PriceKind kind, Currency price) {
-    passOverWrite(store, [&] {
-        store.run(
-            {QString("UPDATE tblItemMaster SET %1 = ? WHERE ItemCode = ? AND %1 <> ?").arg(priceColumn(kind)),
-             {bound(price), itemCode, bound(price)}});
-    });
+    passOverStatement(
+        store,
+        {QString("UPDATE tblItemMaster SET %1 = ? WHERE ItemCode = ? AND %1 <> ?").arg(priceColumn(kind)),
+         {bound(price), itemCode, bound(price)}});
 }

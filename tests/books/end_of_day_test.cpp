@@ -112,9 +112,8 @@ TEST_F(EndOfDayTest, AnItemStaysQueuedWhileADocumentWithALineOfItWaits) {
     EXPECT_TRUE(cost(items));
     EXPECT_EQ(column("SELECT ItemID AS v FROM tblForPostingItem"), "A");
     EXPECT_EQ(runEndOfDay(store), Boxes());
-    EXPECT_EQ(column("SELECT Balance / 10000 || '/' || SalesCost / 10000 FROM tblStockValuation WHERE BookID "
-                     "= 'S'"),
-              "6/20");
+    EXPECT_EQ(column("SELECT Balance || '/' || SalesCost FROM tblStockValuation WHERE BookID = 'S'"),
+              "60000/200000");
     EXPECT_FALSE(HasPendingPosting(store));
 }
 
@@ -130,14 +129,15 @@ TEST_F(EndOfDayTest, AnItemBeyondTheRangeIsNamedAndStopsNoOther) {
     EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation ORDER BY ZevRef"), "0 20000 0");
 }
 
-TEST_F(EndOfDayTest, AFullDiskIsToldOnceAndLeavesAllThatFailedQueued) {
+TEST_F(EndOfDayTest, AFullDiskIsToldOnceAndLeavesWhatFailedQueued) {
     buy("P1", 1, {{"A", amount(1), amount(5)}});
     buy("P2", 2, std::vector<LineRow>(500, {"B", amount(1), amount(5)}));
     const auto documents = LoadPostingQueue(store, Progress::none());
     write("PRAGMA max_page_count = 1");
     EXPECT_FALSE(post(documents));
     EXPECT_EQ(boxes.size(), 1);
-    EXPECT_EQ(queue() + ledger(), "P1 P2");
+    EXPECT_EQ(queue(), "P2");
+    EXPECT_EQ(ledger(), "P:P1:A:C1:2026-01-01:10000:50000");
 }
 
 TEST_F(EndOfDayTest, AFailedItemStaysQueuedAsItWas) {

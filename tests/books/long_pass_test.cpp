@@ -5,6 +5,9 @@
 
 #include <QThread>
 
+#include <atomic>
+#include <thread>
+
 // A pass that takes long lets other workstations in: it ends in many units, whose work is all there at the
 // end.
 class LongPassTest : public BooksTest {
@@ -65,4 +68,34 @@ TEST_F(LongPassTest, ASecondRunCompletesWhatAnInterruptedOneLeft) {
     EXPECT_LT(left, count - 1) << "the units before stay done";
     RecomputeStockValuation(store, Progress::none());
     EXPECT_EQ(wrongRows("tblStockValuation"), 0);
+}
+
+TEST_F(LongPassTest, AnItemThatAnotherWorkstationTouchesMeanwhileIsCostedAnew) {
+    std::atomic<int> updates = 0;
+    Connection::setStatementHook([&](const QString& text) {
+        if (!text.startsWith("UPDATE tblStockValuation")) return;
+        QThread::msleep(1);
+        ++updates;
+    });
+    std::thread other([&] {
+        Connection theirs;
+        theirs.open(store.path(), storePassword);
+        while (updates == 0) QThread::msleep(1);
+        Transaction unit(theirs);
+        AddStockValuation(theirs, "S", "new", "C1", "k5", day(2), amount(2), amount(1));
+        AddStockValuation(theirs, "P", "earlier", "C1", "K399", day(0), amount(1), amount(1));
+        RemoveStockValuation(theirs, "P", "K300");
+        unit.commit();
+        EXPECT_LT(updates, count / 2);
+    });
+    RecomputeStockValuation(store, Progress::none());
+    other.join();
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'K5'"), "50000 30000");
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'K399'"), "10000 4000000");
+    updates = 0;
+    RecomputeStockValuation(store, Progress::none());
+    EXPECT_EQ(updates, 0);
+    EXPECT_EQ(
+        column("SELECT COUNT(*) AS v FROM StockPass") + column("SELECT COUNT(*) AS v FROM StockTouched"),
+        "00");
 }

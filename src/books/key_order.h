@@ -1,0 +1,29 @@
+#pragma once
+#include <QByteArrayView>
+#include <algorithm>
+
+// The order of the store's text keys, whose plain letters count without regard to case.
+
+inline char foldedLetter(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+}
+
+// Negative, 0 or positive, as a stands before b, beside it or behind it.
+inline int compareKeys(QByteArrayView a, QByteArrayView b) {
+    const qsizetype common = std::min(a.size(), b.size());
+    for (qsizetype at = 0; at < common; ++at) {
+        if (a[at] == b[at]) continue;
+        const auto x = static_cast<unsigned char>(foldedLetter(a[at]));
+        const auto y = static_cast<unsigned char>(foldedLetter(b[at]));
+        if (x != y) return x < y ? -1 : 1;
+    }
+    return a.size() < b.size() ? -1 : a.size() > b.size() ? 1 : 0;
+}
+
+inline bool comesBefore(QByteArrayView a, QByteArrayView b) { return compareKeys(a, b) < 0; }
+
+inline QByteArray foldedKey(QByteArrayView key) {
+    QByteArray folded = key.toByteArray();
+    std::transform(folded.begin(), folded.end(), folded.begin(), foldedLetter);
+    return folded;
+}
