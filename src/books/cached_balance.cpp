@@ -164,7 +164,7 @@ BalancePass::Sums BalancePass::sums() const {
     return sums;
 }
 
-// Takes half of the unit's time.
+// Leaves half of the unit's time for writing, where there is something to write.
 bool BalancePass::collect(const UnitClock& clock, std::vector<Stale>& stale) {
     constexpr qint64 keysBetweenLooks = 32;
     BulkReader row(store_, masters());
@@ -176,7 +176,8 @@ bool BalancePass::collect(const UnitClock& clock, std::vector<Stale>& stale) {
         const Currency figure = cached_.figure(terms);
         if (row.isNull(1) || row.currency(1) != figure) stale.push_back({row.integer(3), figure});
         keys_.pass(row.bytes(0));
-        if (keys_.done() % keysBetweenLooks == 0 && clock.isHalfOver()) return true;
+        if (keys_.done() % keysBetweenLooks != 0) continue;
+        if (stale.empty() ? clock.isOver() : clock.isHalfOver()) return true;
     }
     return false;
 }

@@ -166,7 +166,7 @@ class Walk {
 
     void runUnit(Unit& unit, const char* stepText, const Step& step) {
         const UnitClock clock;
-        Transaction transaction(store_);
+        Transaction transaction(store_, Turn::Last);
         Boxes told, failure;
         QList<qsizetype> done;
         qsizetype index = next_;

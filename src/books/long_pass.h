@@ -27,7 +27,9 @@ class KeyWalk {
     KeyWalk(const char* table, const char* key) : table_(table), key_(key) {}
     qint64 done() const { return done_; }
     void pass(QByteArrayView key) {
-        last_ = key.toByteArray();
+        if (!last_) last_.emplace();
+        last_->resize(0);  // keeps its room
+        last_->append(key);
         ++done_;
     }
     // The WHERE clause for the keys still to come, in this column, of the rows that the filter lets through.
@@ -61,7 +63,7 @@ template <class Step>
 void inUnits(Connection& store, Step step) {
     for (bool more = true; more;) {
         const UnitClock clock;
-        Transaction unit(store);
+        Transaction unit(store, Turn::Last);
         more = step(clock);
         unit.commit();
         if (more) letOthersIn();

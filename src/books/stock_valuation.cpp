@@ -8,13 +8,27 @@
 #include "foundation/shared_routines.h"
 #include "platform/store/bulk.h"
 
+static QString stockInsert(const char* quantity, const char* price) {
+    return QString(
+               "INSERT INTO tblStockValuation (ZevRef, BookID, Reference, Contact, ItemCode, TransDate, %1, "
+               "%2)"
+               " VALUES (?, ?, ?, ?, ?, ?, ?, ?)")
+        .arg(quantity, price);
+}
+
 void addStockRow(Connection& store, qint64 zevRef, const StockMovement& movement) {
-    const bool purchase = movement.bookId.compare("P", Qt::CaseInsensitive) == 0;
-    const QString columns = purchase ? "StockIn, InPrice" : "StockOut, OutPrice";
-    store.run({"INSERT INTO tblStockValuation (ZevRef, BookID, Reference, Contact, ItemCode, TransDate, " +
-                   columns + ") VALUES (?, ?, ?, ?, ?, ?, ?, ?)",
-               {zevRef, movement.bookId, movement.reference, movement.contact, movement.itemCode,
-                movement.date, bound(movement.quantity), bound(movement.price)}});
+    static const QString in = stockInsert("StockIn", "InPrice");
+    static const QString out = stockInsert("StockOut", "OutPrice");
+    BulkWriter row(store, movement.bookId.compare("P", Qt::CaseInsensitive) == 0 ? in : out);
+    row.bind(1, zevRef);
+    row.bind(2, movement.bookId);
+    row.bind(3, movement.reference);
+    row.bind(4, movement.contact);
+    row.bind(5, movement.itemCode);
+    if (movement.date.isValid()) row.bind(6, movement.date.toString(Qt::ISODate));
+    row.bind(7, movement.quantity);
+    row.bind(8, movement.price);
+    row.step();
 }
 
 void AddStockValuation(Connection& store, const QString& bookId, const QString& reference,

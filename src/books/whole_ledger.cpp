@@ -47,14 +47,17 @@ std::vector<quint32> WholeLedger::rowsByItem(std::vector<size_t> starts) const {
         order[free[static_cast<size_t>(rows_[at].item)]++] = static_cast<quint32>(at);
     const std::vector<int> dates = dates_.places();
     const std::vector<int> books = books_.places();
-    const auto place = [&](quint32 at) {
-        return std::pair(dates[static_cast<size_t>(rows_[at].date)],
-                         books[static_cast<size_t>(rows_[at].book)]);
+    const auto isBefore = [&](quint32 a, quint32 b) {
+        const auto place = [&](const Row& row) {
+            return std::pair(dates[static_cast<size_t>(row.date)], books[static_cast<size_t>(row.book)]);
+        };
+        return place(rows_[a]) < place(rows_[b]);
     };
-    for (size_t item = 0; item + 1 < starts.size(); ++item)
-        std::stable_sort(order.begin() + static_cast<qint64>(starts[item]),
-                         order.begin() + static_cast<qint64>(starts[item + 1]),
-                         [&](quint32 a, quint32 b) { return place(a) < place(b); });
+    for (size_t item = 0; item + 1 < starts.size(); ++item) {
+        const auto first = order.begin() + static_cast<qint64>(starts[item]);
+        const auto last = order.begin() + static_cast<qint64>(starts[item + 1]);
+        if (!std::is_sorted(first, last, isBefore)) std::stable_sort(first, last, isBefore);
+    }
     return order;
 }
 

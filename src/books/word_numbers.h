@@ -9,11 +9,10 @@ class WordNumbers {
   public:
     int numberOf(QByteArrayView word) {
         if (last_ >= 0 && word == words_[static_cast<size_t>(last_)]) return last_;
-        const QByteArray key = word.toByteArray();
-        const auto known = numbers_.constFind(key);
+        const auto known = numbers_.constFind(QByteArray::fromRawData(word.data(), word.size()));
         if (known != numbers_.constEnd()) return last_ = *known;
-        words_.push_back(key);
-        return last_ = *numbers_.insert(key, static_cast<int>(words_.size()) - 1);
+        words_.push_back(word.toByteArray());
+        return last_ = *numbers_.insert(words_.back(), static_cast<int>(words_.size()) - 1);
     }
     // The place of each word in the order of the store, by its number.
     std::vector<int> places() const {

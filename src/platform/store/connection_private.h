@@ -44,7 +44,7 @@ struct Connection::Private {
     sqlite3_stmt* take(const QString& text);
     void giveBack(const QString& text, sqlite3_stmt* statement);
     // BEGIN, COMMIT and their kin, waiting for other workstations.
-    void control(const QString& statement);
+    void control(const QString& statement, BusyWait wait = BusyWait());
     // The rows of a statement that was started, to their end.
     std::vector<QVariantList> readRows(PreparedStatement& statement) const;
     [[noreturn]] void fail(PreparedStatement& statement) const;
@@ -57,7 +57,7 @@ StoreError engineError(sqlite3* engine);
 void waitOrThrow(sqlite3* engine, BusyWait& wait);
 // One step of a statement; true when it gave a row. A first step that met another workstation's lock is tried
 // again; later ones hold a lock of their own.
-bool stepped(sqlite3_stmt* statement);
+bool stepped(sqlite3_stmt* statement, BusyWait wait = BusyWait());
 // Throws when a statement asks for another number of values than it was given.
 void requireValues(int asked, const QVariantList& given);
 // The test door of Connection::setStatementHook.

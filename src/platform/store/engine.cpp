@@ -148,7 +148,7 @@ bool BusyWait::again() {
         if (hasIdleHook()) idleHook()();
         nextIdle_.setRemainingTime(20);
     }
-    QThread::msleep(2);
+    QThread::msleep(lookEveryMs_);
     return true;
 }
 
@@ -299,10 +299,9 @@ void Connection::Private::fail(PreparedStatement& statement) const {
     throw error;
 }
 
-bool stepped(sqlite3_stmt* statement) {
+bool stepped(sqlite3_stmt* statement, BusyWait wait) {
     sqlite3* const engine = sqlite3_db_handle(statement);
     const bool underWay = sqlite3_stmt_busy(statement) != 0;
-    BusyWait wait;
     for (;;) {
         const int code = sqlite3_step(statement);
         if (code == SQLITE_ROW || code == SQLITE_DONE) return code == SQLITE_ROW;
@@ -332,10 +331,10 @@ void Connection::Private::giveBack(const QString& text, sqlite3_stmt* statement)
         idle.insert(text, statement);
 }
 
-void Connection::Private::control(const QString& statement) {
+void Connection::Private::control(const QString& statement, BusyWait wait) {
     sqlite3_stmt* const taken = take(statement);
     try {
-        stepped(taken);
+        stepped(taken, wait);
     } catch (...) {
         giveBack(statement, taken);
         throw;

@@ -8,9 +8,11 @@ namespace {
 QString savepoint(int level) { return QString("unit%1").arg(level); }
 }  // namespace
 
-Transaction::Transaction(Connection& connection) : connection_(connection), level_(connection.depth_) {
+Transaction::Transaction(Connection& connection, Turn turn)
+    : connection_(connection), level_(connection.depth_) {
     connection_.requireUnit();
-    connection_.d_->control(level_ == 0 ? "BEGIN IMMEDIATE" : "SAVEPOINT " + savepoint(level_));
+    connection_.d_->control(level_ == 0 ? "BEGIN IMMEDIATE" : "SAVEPOINT " + savepoint(level_),
+                            BusyWait(turn));
     ++connection_.depth_;
 }
 
