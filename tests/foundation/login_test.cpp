@@ -11,6 +11,7 @@
 #include "platform/ui/screen_registry.h"
 #include "platform/ui/text_box.h"
 #include "support/box_script.h"
+#include "support/files.h"
 #include "support/test_store.h"
 #include "support/users.h"
 
@@ -207,6 +208,26 @@ TEST(Start, AMissingStoreShowsBothBoxes) {
                 "Database not found!, Please Place the Database with the Same Path as the .EXE File");
     EXPECT_FALSE(Main());
     EXPECT_FALSE(session().StoreOpen);
+    setProgramFolder({});
+}
+
+TEST(Start, AStoreThatWasLeftOpenIsLookedThroughAndADamagedOneRefused) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(storeFileName);
+    setProgramFolder(folder.path());
+    copyDeliveredStore(path);
+    writeFile(path + "-open-dead", "");
+    EXPECT_TRUE(OpenDatabase());
+    EXPECT_FALSE(StoreConnection().wasLeftOpen());
+    StoreConnection().close();
+    QByteArray bytes = contentOf(path);
+    bytes.replace(bytes.size() - 4096, 4096, QByteArray(4096, 'z'));
+    writeFile(path, bytes);
+    writeFile(path + "-open-dead", "");
+    BoxScript boxes;
+    boxes.expect("Connection Error");
+    EXPECT_FALSE(OpenDatabase());
+    EXPECT_FALSE(StoreConnection().isOpen());
     setProgramFolder({});
 }
 
