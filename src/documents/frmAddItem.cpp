@@ -10,17 +10,15 @@
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
-#include <QKeyEvent>
 #include <QLabel>
 #include <QTimer>
 
-frmAddItem::frmAddItem(LineOwner& owner)
-    : ChildScreen("frmAddItem", "Order Item", Centred, Popup), owner_(owner) {
+frmAddItem::frmAddItem(OrderOwner& owner)
+    : LinePopupOf(owner.lines(), "frmAddItem", "Order Item"), owner_(owner) {
     makeFields();
     layOut();
     connectCode();
     connectFigures();
-    connectButtons();
 }
 
 static TextBox* figureBox(const QString& name) {
@@ -58,8 +56,6 @@ void frmAddItem::makeFields() {
     txtUnit->setKeyFilter(keys::freeText());
     lblServe = namedLabel("lblServe", owner_.lineWords().lblServe, txtServe);
     lblPrice = namedLabel("lblPrice", owner_.lineWords().lblPrice, txtCost);
-    cmdSave = form::button("cmdSave", "&OK", "save");
-    cmdCancel = form::button("cmdCancel", "&Close", "close");
 }
 
 QWidget* frmAddItem::itemRow() {
@@ -93,21 +89,11 @@ QWidget* frmAddItem::figures() {
     return frame;
 }
 
-QWidget* frmAddItem::buttons() {
-    auto* frame = new QWidget;
-    auto* row = new QHBoxLayout(frame);
-    row->setContentsMargins({});
-    row->addStretch();
-    row->addWidget(cmdSave);
-    row->addWidget(cmdCancel);
-    return frame;
-}
-
 void frmAddItem::layOut() {
     auto* column = new QVBoxLayout(this);
     column->addWidget(itemRow());
     column->addWidget(figures());
-    column->addWidget(buttons());
+    column->addLayout(buttons());
     const QList<QWidget*> order{cboItemCode, cmdSearch1, cboDescription, cmdSearch2, txtCost,  txtDiscount,
                                 txtUnit,     txtOrder,   txtServe,       cmdSave,    cmdCancel};
     for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
@@ -139,15 +125,6 @@ void frmAddItem::connectFigures() {
     connect(txtServe, &TextBox::keyReleased, this, &frmAddItem::typeServed);
     connect(txtServe, &TextBox::entered, this, &frmAddItem::pressSave);
     connect(txtUnit, &TextBox::focusLost, this, &frmAddItem::leaveUnit);
-}
-
-void frmAddItem::connectButtons() {
-    connect(cmdSave, &QPushButton::clicked, this, [this] {
-        // By its mnemonic it is pressed from within a field, which is left first and may keep the focus.
-        cmdSave->setFocus();
-        if (cmdSave->hasFocus()) pressSave();
-    });
-    connect(cmdCancel, &QPushButton::clicked, this, &frmAddItem::cancel);
 }
 
 LineEntry frmAddItem::entry() const {
@@ -186,16 +163,26 @@ void frmAddItem::showEntry(const LineEntry& entry) {
     setChanged(txtInventory, entry.inventory);
 }
 
-void frmAddItem::NewOrder() {
+void frmAddItem::clearFields() {
     showEntry({});
     cboItemCode->setFocus();
 }
 
-void frmAddItem::changeOrder(const OrderLine& line) {
-    changed_ = line;
+void frmAddItem::showLine(const OrderLine& line) {
     showEntry(entryOf(line));
     txtCost->setFocus();
 }
+
+LineCheck frmAddItem::checkTyped(const Answers& answers) {
+    LineEntry typed = entry();
+    const LineCheck check = checkLine(
+        StoreConnection(), owner_.orderBook(), owner_.lineOrder(), typed,
+        [this](const QString& code) { return lines().hasLine(code); }, answers);
+    showEntry(typed);
+    return check;
+}
+
+OrderLine frmAddItem::typedLine() const { return lineOf(entry()); }
 
 bool frmAddItem::CheckCode() {
     LineEntry typed = entry();
@@ -212,7 +199,7 @@ bool frmAddItem::CheckCode() {
 }
 
 void frmAddItem::leaveCode() {
-    if (closing_ || telling_ || CheckCode() || cboItemCode->text().isEmpty()) return;
+    if (isClosing() || isTelling() || CheckCode() || cboItemCode->text().isEmpty()) return;
     // Who leaves for the button that closes does not look for an item.
     if (!cmdCancel->hasFocus()) findItem(cboItemCode->text(), "P");
 }
@@ -226,21 +213,14 @@ void frmAddItem::compute(const std::function<void(LineEntry&)>& rule) {
 
 // A figure beyond the range leaves the fields as they are: saving the line refuses it.
 void frmAddItem::computeOrTell(const std::function<std::optional<Fault>(LineEntry&)>& rule) {
-    if (telling_) return;
+    if (isTelling()) return;
     LineEntry typed = entry();
     try {
         const auto fault = rule(typed);
         showEntry(typed);
-        if (fault && !closing_) tell(*fault);
+        if (fault && !isClosing()) tell(*fault);
     } catch (const OverflowError&) {
     }
-}
-
-// The fields that the focus passes on its way back to the one at fault have nothing to say.
-void frmAddItem::tell(const Fault& fault) {
-    telling_ = true;
-    showFault(fault, this);
-    telling_ = false;
 }
 
 void frmAddItem::typeServed() {
@@ -254,22 +234,17 @@ void frmAddItem::typeServed() {
 
 void frmAddItem::leaveUnit() {
     txtUnit->setText(txtUnit->text().toUpper());
-    if (!closing_ && !telling_) completeUnit(txtUnit);
+    if (!isClosing() && !isTelling()) completeUnit(txtUnit);
 }
 
 // A wrong code opens the search even when the code is left for the button of the other search.
 void frmAddItem::findItem(const QString& typed, const QString& kind) {
-    if (picker_ && !picker_->hasUnloaded()) return;
-    WatchFocus = false;
-    const QPointer<frmAddItem> dialog(this);
-    picker_ = openItemFound(StoreConnection(), typed, kind, [dialog](const GridPicker::Row& row) {
-        if (dialog) dialog->takeItem(row("ItemCode"), row("Description"));
+    openPicker([&] {
+        const QPointer<frmAddItem> dialog(this);
+        return openItemFound(StoreConnection(), typed, kind, [dialog](const GridPicker::Row& row) {
+            if (dialog) dialog->takeItem(row("ItemCode"), row("Description"));
+        });
     });
-    if (!picker_) {
-        WatchFocus = true;
-        return;
-    }
-    connect(picker_, &ChildScreen::unloaded, this, [this] { WatchFocus = true; });
 }
 
 void frmAddItem::takeItem(const QString& code, const QString& description) {
@@ -277,88 +252,4 @@ void frmAddItem::takeItem(const QString& code, const QString& description) {
     cboDescription->setText(description);
     CheckCode();
     txtCost->setFocus();
-}
-
-void frmAddItem::pressSave() {
-    if (save() == SaveResult::Added && !closing_) NewOrder();
-}
-
-frmAddItem::SaveResult frmAddItem::save() {
-    LineEntry typed = entry();
-    bool closes = false;
-    Outcome outcome;
-    const bool ran = guarded([&] {
-        outcome = askUntilSettled([&](const Answers& answers) {
-            LineCheck check = checkLine(
-                StoreConnection(), owner_.orderBook(), owner_.lineOrder(), typed,
-                [this](const QString& code) { return owner_.hasLine(code); }, answers);
-            closes = check.closesDialog;
-            return check.outcome;
-        });
-    });
-    showEntry(typed);
-    if (!ran) return SaveResult::Failed;
-    if (const auto* fault = std::get_if<Fault>(&outcome)) {
-        tell(*fault);
-        if (closes) {
-            SkipResave = true;
-            closeDialog();
-        }
-        return SaveResult::Refused;
-    }
-    owner_.addLine(lineOf(typed));
-    SkipResave = true;
-    return SaveResult::Added;
-}
-
-void frmAddItem::cancel() {
-    SkipResave = mblnAddmode;
-    closeDialog();
-}
-
-void frmAddItem::abandon() {
-    SkipResave = true;
-    closeDialog();
-}
-
-void frmAddItem::closeDialog() {
-    closing_ = true;
-    unload();
-}
-
-bool frmAddItem::queryUnload() {
-    if (!closing_) {
-        showBox(critical("Please Don't Press X Button!",
-                         "You cannot Press X mark, please click on Cancel Button to exit without saving!"));
-        return false;
-    }
-    // A refused line is lost; where the checks themselves fail it goes back as it came.
-    if (!SkipResave && save() == SaveResult::Failed) owner_.addLine(changed_);
-    return true;
-}
-
-void frmAddItem::unloading() {
-    WatchFocus = false;
-    if (picker_) picker_->unload();
-}
-
-void frmAddItem::activated() {
-    if (!picker_) WatchFocus = true;
-}
-
-void frmAddItem::deactivated() {
-    if (!WatchFocus || closing_) return;
-    const QPointer<frmAddItem> stillOpen(this);
-    showBox(exclamation("Lost Focus!", "Please Click on Close Button to Exit!"));
-    if (stillOpen) comeForward();
-}
-
-void frmAddItem::comeForward() {
-    raise();
-    activateWindow();
-}
-
-void frmAddItem::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) return cancel();
-    ChildScreen::keyPressEvent(event);
 }

@@ -8,9 +8,9 @@
 
 #include <QLabel>
 
-frmInputInList::frmInputInList(LineOwner& owner, int row)
+frmInputInList::frmInputInList(OrderOwner& owner, int row)
     : ChildScreen("frmInputInList", "Order Update...", Centred, Popup), owner_(owner), row_(row) {
-    const OrderLine line = owner.lineAt(row);
+    const OrderLine line = owner.lines().lineAt(row);
     ItemCode = line.itemCode;
     txtOrder = readOnlyBox("txtOrder", Qt::AlignRight);
     txtPrice = readOnlyBox("txtPrice", Qt::AlignRight);
@@ -43,13 +43,13 @@ void frmInputInList::activated() { txtValue->setFocus(); }
 void frmInputInList::deactivated() { unload(); }
 
 void frmInputInList::commit() {
-    OrderLine line = owner_.lineAt(row_);
+    OrderLine line = owner_.lines().lineAt(row_);
     QString value = txtValue->text();
     const Outcome outcome = askUntilSettled([&](const Answers& answers) {
         return changeServed(StoreConnection(), owner_.orderBook(), owner_.lineOrder(), line, value, answers);
     });
     txtValue->setText(value);
     if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
-    owner_.replaceLine(row_, line);
+    owner_.lines().replaceLine(row_, line);
     unload();
 }

@@ -1,5 +1,5 @@
 #pragma once
-#include "documents/line_owner.h"
+#include "documents/order_owner.h"
 #include "platform/ui/child_screen.h"
 
 class QLabel;
@@ -10,7 +10,7 @@ class TextBox;
 class frmInputInList : public ChildScreen {
     Q_OBJECT
   public:
-    frmInputInList(LineOwner& owner, int row);
+    frmInputInList(OrderOwner& owner, int row);
     QString ItemCode;
 
   protected:
@@ -21,7 +21,7 @@ class frmInputInList : public ChildScreen {
     void layOut();
     void commit();
 
-    LineOwner& owner_;
+    OrderOwner& owner_;
     int row_;
     QLabel* lblTitle;
     QLabel* lblServed;

@@ -11,20 +11,37 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+namespace {
 // Together they hold what the number holds.
-static constexpr int monthWidth = 2;
-static constexpr int yearWidth = 4;
-static constexpr int dashes = 2;
+constexpr int monthWidth = 2;
+constexpr int yearWidth = 4;
+constexpr int dashes = 2;
 
-NumberEntry::NumberEntry(const numbering::SerialCounter& counter, const QString& incrementText)
-    : counter_(counter) {
-    setObjectName("numberEntry");
-    txtMonthCode = new TextBox("txtMonthCode");
-    txtSerialCode = new TextBox("txtSerialCode");
-    txtYearCode = new TextBox("txtYearCode");
-    lblReference = form::label("Reference :", txtMonthCode);
-    lblReference->setObjectName("lblReference");
-    cmdIncrement = form::imageButton("cmdIncrement", "next", incrementText);
+// A peeked serial in three boxes: month - serial - year.
+class SerialEntry : public NumberEntry {
+  public:
+    SerialEntry(const numbering::SerialCounter& counter, const QString& incrementText);
+
+    void propose() override;
+    QString serial() const override { return trim(txtSerialCode->text()); }
+    QList<QWidget*> tabStops() const override {
+        return {txtMonthCode, txtSerialCode, txtYearCode, cmdIncrement};
+    }
+
+  private:
+    void peek() { txtSerialCode->setText(numbering::nextSerial(StoreConnection(), counter_)); }
+    void compose();
+    void connectBoxes();
+    void layOut();
+
+    numbering::SerialCounter counter_;
+    TextBox* txtMonthCode = new TextBox("txtMonthCode");
+    TextBox* txtSerialCode = new TextBox("txtSerialCode");
+    TextBox* txtYearCode = new TextBox("txtYearCode");
+};
+
+SerialEntry::SerialEntry(const numbering::SerialCounter& counter, const QString& incrementText)
+    : NumberEntry(incrementText), counter_(counter) {
     txtMonthCode->setKeyFilter(keys::wholeNumber());
     txtSerialCode->setKeyFilter(keys::wholeNumber());
     txtYearCode->setKeyFilter(keys::freeText());
@@ -35,26 +52,33 @@ NumberEntry::NumberEntry(const numbering::SerialCounter& counter, const QString&
     layOut();
 }
 
-void NumberEntry::connectBoxes() {
+void SerialEntry::compose() {
+    emit composed(numbering::documentNumber(trim(txtMonthCode->text()), trim(txtSerialCode->text()),
+                                            trim(txtYearCode->text())));
+}
+
+void SerialEntry::connectBoxes() {
     for (TextBox* box : {txtMonthCode, txtSerialCode, txtYearCode}) {
-        connect(box, &TextBox::keyReleased, this, &NumberEntry::compose);
-        connect(box, &TextBox::focusLost, this, &NumberEntry::compose);
+        connect(box, &TextBox::keyReleased, this, &SerialEntry::compose);
+        connect(box, &TextBox::focusLost, this, &SerialEntry::compose);
     }
     connect(txtMonthCode, &TextBox::entered, this, [this] { txtSerialCode->setFocus(); });
     connect(txtSerialCode, &TextBox::entered, this, [this] { txtYearCode->setFocus(); });
     connect(txtYearCode, &TextBox::entered, this, &NumberEntry::left);
     connect(cmdIncrement, &QToolButton::clicked, this, [this] {
-        guarded([this] { txtSerialCode->setText(numbering::nextSerial(StoreConnection(), counter_)); });
+        guarded([this] { peek(); });
         compose();
     });
 }
 
-void NumberEntry::layOut() {
+void SerialEntry::layOut() {
     txtMonthCode->setAccessibleName("Month of the number");
     txtSerialCode->setAccessibleName("Serial of the number");
     txtYearCode->setAccessibleName("Year of the number");
     txtMonthCode->setMaximumWidth(form::charactersWide(txtMonthCode, 5));
     txtYearCode->setMaximumWidth(form::charactersWide(txtYearCode, 7));
+    QLabel* lblReference = form::label("Reference :", txtMonthCode);
+    lblReference->setObjectName("lblReference");
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins({});
     row->addWidget(lblReference);
@@ -66,15 +90,39 @@ void NumberEntry::layOut() {
     row->addWidget(cmdIncrement);
 }
 
-void NumberEntry::propose() {
+void SerialEntry::propose() {
     const QDate today = Clock::today();
     txtMonthCode->setText(formatDate(today, "mm"));
-    txtSerialCode->setText(numbering::nextSerial(StoreConnection(), counter_));
+    peek();
     txtYearCode->setText(formatDate(today, "yyyy"));
     compose();
 }
 
-QString NumberEntry::number() const {
-    return numbering::documentNumber(trim(txtMonthCode->text()), trim(txtSerialCode->text()),
-                                     trim(txtYearCode->text()));
+// A key that is taken: only the button, which takes a further one.
+class KeyEntry : public NumberEntry {
+  public:
+    KeyEntry(const numbering::RowKey& key, const QString& incrementText)
+        : NumberEntry(incrementText), key_(key) {
+        connect(cmdIncrement, &QToolButton::clicked, this, [this] { guarded([this] { propose(); }); });
+        auto* row = new QHBoxLayout(this);
+        row->setContentsMargins({});
+        row->addWidget(cmdIncrement);
+        row->addStretch();
+    }
+
+    void propose() override { emit composed(QString::number(numbering::nextKey(StoreConnection(), key_))); }
+
+  private:
+    numbering::RowKey key_;
+};
+}  // namespace
+
+NumberEntry::NumberEntry(const QString& incrementText)
+    : cmdIncrement(form::imageButton("cmdIncrement", "next", incrementText)) {
+    setObjectName("numberEntry");
+}
+
+NumberEntry* NumberEntry::make(const NumberRule& rule, const QString& incrementText) {
+    if (const auto* key = std::get_if<numbering::RowKey>(&rule)) return new KeyEntry(*key, incrementText);
+    return new SerialEntry(std::get<numbering::SerialCounter>(rule), incrementText);
 }

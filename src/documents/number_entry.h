@@ -4,35 +4,31 @@
 
 #include <QToolButton>
 #include <QWidget>
+#include <variant>
 
-class QLabel;
+// Where the number of a new document comes from: a serial that is peeked, and becomes the counter when the
+// document is saved; or a key that is taken when it is read, and lost with a document that is not saved.
+using NumberRule = std::variant<numbering::SerialCounter, numbering::RowKey>;
 
-// The number of a new document in three boxes, month - serial - year, and cmdIncrement, which proposes the
-// next serial again: the way out after another workstation has taken the number.
+// What a new document's number is made with, beside the box that shows it. cmdIncrement gives the next one
+// again: the way out after another workstation has taken the number.
 class NumberEntry : public QWidget {
     Q_OBJECT
   public:
-    NumberEntry(const numbering::SerialCounter& counter, const QString& incrementText);
+    static NumberEntry* make(const NumberRule& rule, const QString& incrementText);
 
-    // Today's month and year and the next serial. Throws StoreError.
-    void propose();
-    QString number() const;
-    QString serial() const { return txtSerialCode->text(); }
+    // The number that comes next. Throws StoreError.
+    virtual void propose() = 0;
+    // Of a peeked number; empty for one that was taken.
+    virtual QString serial() const { return {}; }
+    virtual QList<QWidget*> tabStops() const { return {cmdIncrement}; }
 
-    QLabel* lblReference;
-    TextBox* txtMonthCode;
-    TextBox* txtSerialCode;
-    TextBox* txtYearCode;
     QToolButton* cmdIncrement;
 
   signals:
     void composed(const QString& number);
     void left();  // Enter in the last box
 
-  private:
-    void compose() { emit composed(number()); }
-    void connectBoxes();
-    void layOut();
-
-    numbering::SerialCounter counter_;
+  protected:
+    explicit NumberEntry(const QString& incrementText);
 };

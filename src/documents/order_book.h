@@ -2,6 +2,7 @@
 #include "books/numbering.h"
 #include "books/record_lock.h"
 #include "books/stock_valuation.h"
+#include "documents/contact_figures.h"
 #include "platform/box.h"
 
 // What sales and purchase orders differ in. Each side has one (sales/sales_document.h,
@@ -19,12 +20,11 @@ struct OrderBook {
 
     Currency (*balance)(Connection&, const QString& key);
     void (*updateBalance)(Connection&, const QString& key, Boxes&);
-    Currency (*contactBalance)(Connection&, const QString& contactId);
+    ContactBalance contactBalance;
 
     const char* noCode;
     const char* duplicate;
     const char* noSuchContact;
-    const char* noContactEntered;
 
     PriceKind priceKind(bool wholesale) const {
         if (!sells) return PriceKind::Cost;

@@ -15,11 +15,6 @@ QString asAmount(Currency value) { return formatNumber(value, mask::amount); }
 QString asPrice(Currency value) { return formatNumber(value, mask::price); }
 QString yearOf(const QDate& day) { return formatDate(day, "yyyy"); }
 
-QString contactIdOf(Connection& store, const QString& name) {
-    return LookupField(store, "ContactID", "tblContactMaster", "ContactName", trim(name),
-                       LookupMode::PrimaryKey);
-}
-
 // Checks
 
 Fault error(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
@@ -189,21 +184,6 @@ LineOrder lineOrder(const OrderDocument& document) {
     return {trim(document.code), document.date, document.contactName, document.wholesale};
 }
 
-ContactFigures contactFigures(Connection& store, const OrderBook& book, const QString& contactId) {
-    ContactFigures figures;
-    figures.balance = asAmount(book.contactBalance(store, contactId));
-    const Recordset contact = store.execute(
-        {"SELECT Terms, CreditLimit FROM tblContactMaster WHERE ContactID = ?", {trimRight(contactId)}});
-    if (contact.eof()) return figures;
-    figures.term = contact.currency("Terms").toPlainText() + " Days";
-    figures.creditLimit = asAmount(contact.currency("CreditLimit"));
-    return figures;
-}
-
-bool contactExists(Connection& store, const QString& contactName) {
-    return RecordFound(store, "tblContactMaster", "ContactName", trim(contactName));
-}
-
 LoadedOrder loadOrder(Connection& store, const OrderBook& book, const QString& key) {
     const Recordset row = store.execute(
         {QString("SELECT * FROM %1 WHERE %2 = ?").arg(book.master.table, book.master.key), {trimRight(key)}});
@@ -215,7 +195,7 @@ LoadedOrder loadOrder(Connection& store, const OrderBook& book, const QString& k
     loaded.document.contactName = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
                                               contactId, LookupMode::DisplayText);
     loaded.document.remarks = row.trimmed("Remarks");
-    loaded.contact = contactFigures(store, book, contactId);
+    loaded.contact = contactFigures(store, book.contactBalance, contactId);
     loaded.total = asAmount(row.currency(book.amountColumn));
     loaded.balance = asAmount(row.currency("Balance"));
     loaded.updatedBy = row.trimmed("UpdatedBy");

@@ -1,4 +1,5 @@
 #pragma once
+#include "documents/document_head.h"
 #include "documents/order_line.h"
 #include "platform/progress.h"
 
@@ -8,15 +9,9 @@
 //     sale.contactName = "Aling Nena Store";
 //     sale.lines = {makeOrderLine("1000000001", "Rice 50 kg", "SACK", ten, ten, price, discount)};
 //     const Outcome outcome = saveOrder(store, salesOrders, sale);
-struct OrderDocument {
-    bool addMode = true;
-    QString code;    // the document's number, of an old one its key
-    QString serial;  // of a new one: becomes the counter when it is saved
-    QString date;    // as typed
-    QString contactName;
-    QString remarks;
+struct OrderDocument : DocumentHead {
     bool wholesale = false;  // of a new one: the prices are wholesale prices
-    QList<OrderLine> lines;
+    QList<OrderLine> lines = {};
 };
 
 // An empty document of today with the number that comes next. The number is peeked, not taken.
@@ -25,23 +20,11 @@ OrderDocument newOrder(Connection& store, const OrderBook& book);
 // The order as its lines see it.
 LineOrder lineOrder(const OrderDocument& document);
 
-// What of a contact stands on an order, as texts. Empty, or "0.00", for an unknown one.
-struct ContactFigures {
-    QString term;     // "30 Days"
-    QString balance;  // what it owes, or is owed, in all
-    QString creditLimit = "0.00";
-};
-ContactFigures contactFigures(Connection& store, const OrderBook& book, const QString& contactId);
-bool contactExists(Connection& store, const QString& contactName);
-
 // A stored document, as its screen shows it. Throws StoreError: noCurrentRow when it is not there.
-struct LoadedOrder {
+struct LoadedOrder : StoredHead {
     OrderDocument document;
-    ContactFigures contact;
     QString total;
     QString balance;
-    QString updatedBy;
-    QString lastUpdate;
 };
 LoadedOrder loadOrder(Connection& store, const OrderBook& book, const QString& key);
 // Its lines, in the order the store gives.

@@ -1,6 +1,6 @@
 #pragma once
+#include "documents/line_check.h"
 #include "documents/order_book.h"
-#include "platform/outcome.h"
 
 #include <QList>
 #include <QStringList>
@@ -71,11 +71,8 @@ std::optional<Fault> leaveDiscount(LineEntry& entry);
 void leaveCost(LineEntry& entry);
 
 // The checks of a line, in their order. Done: the entry may become a line of the list. The answers are those
-// to the questions asked before; a question's key is "price".
-struct LineCheck {
-    Outcome outcome;
-    bool closesDialog = false;  // the item stands in the list already
-};
+// to the questions asked before; a question's key is "price". An item that stands in the list already closes
+// the popup.
 using IsEntered = std::function<bool(const QString& itemCode)>;
 LineCheck checkLine(Connection& store, const OrderBook& book, const LineOrder& order, LineEntry& entry,
                     const IsEntered& isEntered, const Answers& answers = {});

@@ -18,5 +18,4 @@ const OrderBook purchaseOrders{
     .noCode = "Please enter Purchase No.!",
     .duplicate = "Duplicate Purchase No., Please Assign Another!",
     .noSuchContact = "Supplier does not exist, please add this to Supplier Master File...",
-    .noContactEntered = "Please Enter Supplier First...",
 };

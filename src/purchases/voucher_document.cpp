@@ -1,6 +1,7 @@
 #include "purchases/voucher_document.h"
 
 #include "books/balances.h"
+#include "books/numbering.h"
 #include "books/record_lock.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
@@ -8,7 +9,6 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
-#include "purchases/purchase_document.h"
 
 namespace {
 constexpr const char* cashWord = "Cash";
@@ -16,11 +16,6 @@ constexpr const char* cashWord = "Cash";
 QString asAmount(Currency value) { return formatNumber(value, mask::amount); }
 
 Fault error(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
-
-QString contactIdOf(Connection& store, const QString& name) {
-    return LookupField(store, "ContactID", "tblContactMaster", "ContactName", trim(name),
-                       LookupMode::PrimaryKey);
-}
 
 QString contactNameOf(Connection& store, const QString& id) {
     return LookupField(store, "ContactID", "tblContactMaster", "ContactName", id, LookupMode::DisplayText);
@@ -231,7 +226,7 @@ LoadedVoucher loadVoucher(Connection& store, const QString& key) {
     loaded.document.date = formatDate(row.date("VoucherDate"));
     loaded.document.contactName = contactNameOf(store, contactId);
     loaded.document.remarks = row.trimmed("Remarks");
-    loaded.contact = contactFigures(store, purchaseOrders, contactId);
+    loaded.contact = contactFigures(store, SupplierBalance, contactId);
     loaded.updatedBy = row.trimmed("UpdatedBy");
     loaded.lastUpdate = formatDate(row.date("DateUpdate"));
     loadPayments(store, loaded.document);

@@ -1,5 +1,6 @@
 #pragma once
-#include "documents/order_document.h"
+#include "documents/document_head.h"
+#include "platform/progress.h"
 #include "purchases/issued_check.h"
 #include "purchases/voucher_payment.h"
 
@@ -11,27 +12,18 @@
 //     voucher.payments = {makePayment(PaymentKind::Payable, "11-1001-2026", date, amount, "")};
 //     voucher.checks = {makeCheck("000123", date, amount, "Cebu Traders")};
 //     const Outcome outcome = saveVoucher(store, voucher);
-struct VoucherDocument {
-    bool addMode = true;
-    QString code;    // the voucher's number, of an old one its key
-    QString serial;  // of a new one: becomes the counter when it is saved
-    QString date;    // as typed
-    QString contactName;
-    QString remarks;
+struct VoucherDocument : DocumentHead {
     bool cash = false;  // paid in cash: the checks do not count
-    QList<PaymentLine> payments;
-    QList<CheckLine> checks;
+    QList<PaymentLine> payments = {};
+    QList<CheckLine> checks = {};
 };
 
 // An empty voucher of today with the number that comes next. The number is peeked, not taken.
 VoucherDocument newVoucher(Connection& store);
 
 // A stored voucher, as its screen shows it. Throws StoreError: noCurrentRow when it is not there.
-struct LoadedVoucher {
+struct LoadedVoucher : StoredHead {
     VoucherDocument document;
-    ContactFigures contact;
-    QString updatedBy;
-    QString lastUpdate;
 };
 LoadedVoucher loadVoucher(Connection& store, const QString& key);
 

@@ -18,5 +18,4 @@ const OrderBook salesOrders{
     .noCode = "Please Enter Reference No.!",
     .duplicate = "Duplicate Reference No., Please Assign Another!",
     .noSuchContact = "Customer Does Not Exist, Please Add This To Customer Master File First...",
-    .noContactEntered = "Please Enter Customer First...",
 };

@@ -3,6 +3,7 @@
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/closing_question.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/form.h"
 #include "platform/ui/settled.h"
@@ -121,11 +122,7 @@ bool frmCompanySetup::SaveRecord() {
 }
 
 bool frmCompanySetup::queryUnload() {
-    if (!mblnUpdated) return true;
-    const BoxAnswer answer =
-        showBox({"Confirm Update Record!", "Current Record has been Updated.  Save Changes then Exit?",
-                 BoxIcon::Question, BoxButtons::YesNoCancel, BoxAnswer::Yes});
-    return answer == BoxAnswer::Yes ? SaveRecord() : answer == BoxAnswer::No;
+    return settleChanges(*this, [this] { return SaveRecord(); });
 }
 
 void frmCompanySetup::cmdSearch1_Click() {

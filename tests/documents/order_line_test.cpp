@@ -115,7 +115,7 @@ TEST_F(Line, IsCheckedInItsOrder) {
         step.mend();
         const LineCheck checked = check(entry);
         EXPECT_EQ(said(checked.outcome), step.text);
-        EXPECT_EQ(checked.closesDialog, QString(step.text).contains("Already Been Entered")) << step.text;
+        EXPECT_EQ(checked.closesPopup, QString(step.text).contains("Already Been Entered")) << step.text;
     }
 }
 

@@ -198,7 +198,7 @@ TEST_F(SalesEntry, DoesNotPauseOverTenThousandLines) {
     timer.start();
     list()->setRows(rows);
     person::clickHeader(list(), OrderLine::Code);
-    screen->addLine(line("I1", "1", "1", "15"));
+    screen->lines().addLine(line("I1", "1", "1", "15"));
     list()->setCurrentRow(5000);
     boxes.expect("Confirm Delete", "", BoxAnswer::Yes);
     person::click(screen, "cmdRemove");

@@ -182,7 +182,7 @@ TEST_F(SalesDayInFrame, LineDialogKeepsTheFrontAndTheQuantityPopupGivesWay) {
     EXPECT_EQ(ended, 0);
     EXPECT_EQ(read(entry(), "cboCustomer"), "Nena");
 
-    entry()->addLine(makeOrderLine("I1", "Rice", "PC", amount(1), amount(1), amount(15), amount(0)));
+    entry()->lines().addLine(makeOrderLine("I1", "Rice", "PC", amount(1), amount(1), amount(15), amount(0)));
     person::goTo(entry(), "lvwItems");
     list()->setCurrentRow(0);
     press(Qt::Key_Return);
@@ -314,7 +314,7 @@ QStringList seen(QWidget* screen) {
 TEST_F(SalesDayInFrame, ARefusedSaveKeepsAllAndGoesToTheFieldAtFault) {
     startSale();
     person::fill(entry(), "txtRemarks", "by truck");
-    entry()->addLine(makeOrderLine("I2", "Sugar", "PC", amount(1), amount(1), amount(6), amount(0)));
+    entry()->lines().addLine(makeOrderLine("I2", "Sugar", "PC", amount(1), amount(1), amount(6), amount(0)));
     person::fill(entry(), "txtRefDate", "02/30/2026");
     const QStringList before = seen(entry());
     boxes.expect("Error!", "Invalid Date Value!");

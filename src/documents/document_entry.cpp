@@ -1,0 +1,251 @@
+#include "documents/document_entry.h"
+
+#include "foundation/session.h"
+#include "foundation/shared_routines.h"
+#include "masters/frmContactFound.h"
+#include "platform/clock.h"
+#include "platform/masks.h"
+#include "platform/parsing.h"
+#include "platform/ui/boxes.h"
+#include "platform/ui/closing_question.h"
+#include "platform/ui/frmStatus.h"
+#include "platform/ui/screen_registry.h"
+#include "platform/ui/settled.h"
+
+#include <QTimer>
+
+DocumentEntry::DocumentEntry(const DocumentScreen& words)
+    : RecordScreen(words.name, words.caption, FillsFrame), ui(words), words_(words) {
+    connectHead();
+    connectList();
+    guarded([this] { canPrint_ = UserHasAccess(StoreConnection(), words_.printRight); });
+}
+
+// What the controls do
+
+void DocumentEntry::connectHead() {
+    connect(ui.number, &NumberEntry::composed, ui.txtCode, &QLineEdit::setText);
+    connect(ui.number, &NumberEntry::left, this, [this] { ui.txtRefDate->setFocus(); });
+    connect(ui.txtRefDate, &TextBox::entered, this, [this] { ui.cboCustomer->setFocus(); });
+    connect(ui.cboCustomer, &ComboBox::entered, this, [this] {
+        mblnUpdated = true;
+        findContact();
+    });
+    // Another name is typed: the figures are not its own until it is picked.
+    connect(ui.cboCustomer, &ComboBox::keyTyped, this, &DocumentEntry::showNoContact);
+    connect(ui.cmdSearch, &QToolButton::clicked, this, &DocumentEntry::findContact);
+    // The list of the contact box is the search itself; it opens when the box is done with its key or click.
+    ui.cboCustomer->setFiller([this] { QTimer::singleShot(0, this, &DocumentEntry::findContact); });
+}
+
+void DocumentEntry::connectDirtying() {
+    const auto dirty = [this] { mblnUpdated = true; };
+    for (const QString& name : words_.dirtyingFields)
+        if (auto* box = findChild<TextBox*>(name))
+            connect(box, &TextBox::keyTyped, this, dirty);
+        else if (auto* combo = findChild<ComboBox*>(name))
+            connect(combo, &ComboBox::keyTyped, this, dirty);
+}
+
+void DocumentEntry::connectList() {
+    const auto start = [this] { startLine(); };
+    const auto change = [this] { changeLine(); };
+    connect(ui.lvwItems, &ListView::insertPressed, this, start);
+    connect(ui.lvwItems, &ListView::editPressed, this, change);
+    connect(ui.lvwItems, &ListView::rowDoubleClicked, this, change);
+    connect(ui.lvwItems, &ListView::deletePressed, this, &DocumentEntry::removeLine);
+    connect(ui.cmdAdd, &QPushButton::clicked, this, start);
+    connect(ui.cmdEdit, &QPushButton::clicked, this, change);
+    connect(ui.cmdRemove, &QPushButton::clicked, this, &DocumentEntry::removeLine);
+}
+
+// Documents
+
+bool DocumentEntry::receive(const ScreenArguments& arguments) {
+    if (!leavesDocument()) return false;
+    if (held_ != arguments.key) releaseLock();
+    if (arguments.key.isEmpty())
+        startNew();
+    else
+        openDocument(arguments.key);
+    return RecordScreen::receive(arguments);
+}
+
+void DocumentEntry::NewRecord() {
+    if (!leavesDocument()) return;
+    releaseLock();
+    startNew();
+}
+
+void DocumentEntry::startNew() {
+    mblnAddmode = true;
+    mblnUpdated = false;
+    mstrPrimary.clear();
+    ui.showNewDocument(true);
+    guarded([this] { ui.number->propose(); });
+    const QString today = formatDate(Clock::today());
+    showHead({.code = ui.txtCode->text(), .date = today},
+             {.updatedBy = words_.newShowsUser ? session().CurrentUserCode : QString(), .lastUpdate = today});
+    for (LineList* list : lists_) list->clear();
+    clearDocument();
+    ui.cboCustomer->setFocus();
+}
+
+void DocumentEntry::openDocument(const QString& key) {
+    mblnAddmode = false;
+    mblnUpdated = false;
+    mstrPrimary = key;
+    held_ = key;
+    ui.showNewDocument(false);
+    // Should it not load, what the document before left is not taken for this one's.
+    showHead({.code = key}, {});
+    for (LineList* list : lists_) list->clear();
+    guarded([this] { loadDocument(); });
+    ui.txtRemarks->setFocus();
+}
+
+DocumentHead DocumentEntry::head() const {
+    return {.addMode = mblnAddmode,
+            .code = mblnAddmode ? ui.txtCode->text() : mstrPrimary,
+            .serial = ui.number->serial(),
+            .date = ui.txtRefDate->text(),
+            .contactName = ui.cboCustomer->text(),
+            .remarks = ui.txtRemarks->text()};
+}
+
+void DocumentEntry::showHead(const DocumentHead& head, const StoredHead& stored) {
+    ui.txtCode->setText(head.code);
+    ui.txtRefDate->setText(head.date);
+    ui.cboCustomer->setText(head.contactName);
+    ui.txtRemarks->setText(head.remarks);
+    ui.txtUpdatedBy->setText(stored.updatedBy);
+    ui.txtLastUpdate->setText(stored.lastUpdate);
+    showContact(stored.contact);
+}
+
+// The contact
+
+void DocumentEntry::showContact(const ContactFigures& figures) {
+    ui.txtTerm->setText(figures.term);
+    ui.txtCustomerBalance->setText(figures.balance);
+}
+
+void DocumentEntry::findContact() {
+    const QPointer<DocumentEntry> screen(this);
+    openContactFound(StoreConnection(), ui.cboCustomer->text(), words_.contactFilter,
+                     [screen](const GridPicker::Row& row) {
+                         if (screen) screen->takeContact(row("ContactName"), row("ContactID"));
+                     });
+}
+
+void DocumentEntry::takeContact(const QString& name, const QString& contactId) {
+    ui.cboCustomer->setText(name);
+    showNoContact();
+    guarded([&] { showContact(contactFigures(StoreConnection(), words_.contactBalance, contactId)); });
+    ui.txtRemarks->setFocus();
+}
+
+bool DocumentEntry::CheckContact() {
+    if (ui.cboCustomer->text().isEmpty()) {
+        showBox(exclamation("Blank", words_.noContactEntered));
+        return false;
+    }
+    bool found = false;
+    guarded([&] { found = contactExists(StoreConnection(), ui.cboCustomer->text()); });
+    return found;
+}
+
+bool DocumentEntry::lineReady(const DocumentScreen::ContactMissing& missing) {
+    if (popupHolds()) return false;
+    const auto refuse = [this](const Box& box) {
+        showFault({box, "cboCustomer"}, this);
+        return false;
+    };
+    const QString name = ui.cboCustomer->text();
+    if (trim(name).isEmpty()) return refuse(exclamation("Error!", missing.notChosen));
+    bool found = false;
+    if (!guarded([&] { found = contactExists(StoreConnection(), name); })) return false;
+    return found || refuse({"Does not exist!", missing.unknown, words_.unknownIcon});
+}
+
+// Lines
+
+void DocumentEntry::setLines(LineList& lines) {
+    lines_ = &lines;
+    addList(lines);
+    // The fields of the kind are made by now.
+    connectDirtying();
+}
+
+void DocumentEntry::addList(LineList& lines) {
+    lists_ += &lines;
+    connect(&lines, &LineList::changed, this, [this] {
+        ui.txtCount->setText(QString::number(lines_->count()));
+        RecomputeTotal();
+    });
+}
+
+void DocumentEntry::RecomputeTotal() {
+    guarded([this] { ui.txtAmount->setText(formatNumber(lines_->sum(words_.totalColumn), mask::amount)); });
+    linesChanged();
+}
+
+void DocumentEntry::removeLine() {
+    if (lines_->isSelected() && !popupHolds()) lines_->removeLine();
+}
+
+bool DocumentEntry::popupHolds() {
+    return std::ranges::any_of(lists_, [](LineList* list) { return list->popupHolds(); });
+}
+
+// Saving and leaving
+
+bool DocumentEntry::SaveRecord() {
+    if (popupHolds()) return false;
+    RecomputeTotal();
+    Outcome outcome;
+    {
+        frmStatus status;
+        outcome = saveDocument(status);
+    }
+    if (!settled(outcome, this)) return false;
+    finishSave();
+    return true;
+}
+
+void DocumentEntry::finishSave() {
+    // The save itself has cleared the lock.
+    held_.clear();
+    const auto papers = offerPapers();
+    showBox(exclamation("Saved!", words_.saved));
+    startNew();
+    for (const QPointer<ChildScreen>& paper : papers)
+        if (paper) ScreenRegistry::instance().show(paper);
+}
+
+// The previews of the papers that were asked for.
+QList<QPointer<ChildScreen>> DocumentEntry::offerPapers() {
+    QList<QPointer<ChildScreen>> wanted;
+    if (!canPrint_) return wanted;
+    for (const DocumentScreen::Paper& paper : words_.papers)
+        if (askYes(question("Print", paper.question)))
+            guarded([&] { wanted += paper.show(trim(ui.txtCode->text())); });
+    return wanted;
+}
+
+bool DocumentEntry::leavesDocument() {
+    return !popupHolds() && settleChanges(*this, [this] { return SaveRecord(); });
+}
+
+bool DocumentEntry::queryUnload() { return leavesDocument(); }
+
+void DocumentEntry::unloading() {
+    for (LineList* list : lists_) list->abandonPopup();
+    releaseLock();
+}
+
+void DocumentEntry::releaseLock() {
+    if (held_.isEmpty()) return;
+    guarded([this] { setRecordLock(StoreConnection(), words_.master, held_, false); });
+    held_.clear();
+}
