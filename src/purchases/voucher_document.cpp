@@ -264,12 +264,3 @@ Outcome saveVoucher(Connection& store, const VoucherDocument& voucher) {
         return Fault{exclamation("Error...", failure.what()), {}};
     }
 }
-
-void deleteVoucher(Connection& store, const QString& key, Progress& progress) {
-    Transaction unit(store);
-    DeleteWhereValue(store, key, "tblChecks", "VoucherID");
-    DeleteWhereValue(store, key, "tblDisbursementDetails", "VoucherID");
-    DeleteWhereValue(store, key, disbursementBook.table, disbursementBook.key);
-    RecomputePayableBalances(store, progress);
-    unit.commit();
-}

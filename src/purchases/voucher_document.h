@@ -4,7 +4,7 @@
 #include "purchases/issued_check.h"
 #include "purchases/voucher_payment.h"
 
-// A payment voucher without its window: what was typed, and how it is loaded, checked, saved and deleted. It
+// A payment voucher without its window: what was typed, and how it is loaded, checked and saved. It
 // is the one writer of the checks that the firm issues.
 //
 //     VoucherDocument voucher = newVoucher(store);
@@ -35,7 +35,3 @@ std::optional<Fault> checkVoucher(Connection& store, const VoucherDocument& vouc
 // and with new keys, whatever became of them before; an order that an edited voucher no longer pays keeps
 // its balance until the next recompute. Done or a Fault, never a Question.
 Outcome saveVoucher(Connection& store, const VoucherDocument& voucher);
-
-// Deletes a voucher with its checks and its payments and recomputes what the firm owes, as one unit. Throws
-// StoreError; nothing is deleted then.
-void deleteVoucher(Connection& store, const QString& key, Progress& progress = Progress::none());

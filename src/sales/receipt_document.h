@@ -3,7 +3,7 @@
 #include "sales/receipt_line.h"
 
 // A payment receipt without its window: one payment of a customer over one or more sales orders, and how it
-// is checked, saved and deleted.
+// is checked and saved.
 //
 //     ReceiptDocument receipt = newReceipt(store);
 //     receipt.customerName = "Aling Nena Store";

@@ -1,3 +1,4 @@
+#include "purchases/frmDisbursementGrid.h"
 #include "purchases/voucher_books.h"
 #include "support/crash_runner.h"
 
@@ -166,7 +167,8 @@ TEST_F(Voucher, SurvivesASuddenEndAtEveryStatement) {
     QList<std::function<void(Connection&)>> actions;
     for (const VoucherDocument& document : freshAndEdited())
         actions.append([document](Connection& own) { EXPECT_TRUE(isDone(saveVoucher(own, document))); });
-    actions.append([](Connection& own) { deleteVoucher(own, "03-1001-2026"); });
+    actions.append(
+        [](Connection& own) { deleteDocument(own, disbursementJournal().deletion, "03-1001-2026"); });
     for (const auto& action : actions) {
         const auto before = everything();
         store.close();
@@ -187,7 +189,7 @@ TEST_F(Voucher, IsDeletedWithItsChecksAndWhatItPaid) {
     VoucherDocument edited = loadVoucher(store, key).document;
     edited.payments.removeLast();
     ASSERT_EQ(said(saveVoucher(store, edited)), "done");
-    deleteVoucher(store, key);
+    deleteDocument(store, disbursementJournal().deletion, key);
     EXPECT_EQ(owed(order1_), money("900"));
     EXPECT_EQ(owed(order2_), money("50")) << "the recompute takes in what the edit had dropped";
     for (const char* table : {"tblDisbursementMaster", "tblDisbursementDetails", "tblChecks"})
