@@ -121,7 +121,7 @@ void mdiMain::greet() {
     passOverErrors("greeting", [] {
         if (GetCompanyName(StoreConnection()) == deliveredCompanyName) openIfKnown("frmCompanySetup");
     });
-    const auto showReorder = [] { passOverErrors("frmReorder", [] { openIfKnown("frmReorder"); }); };
+    const auto showReorder = [] { passOverErrors("frmReorder", &remindOfReorder); };
     showReorder();
     connect(new FrameActivation(this), &FrameActivation::cameBack, this, showReorder);
     startTimers();

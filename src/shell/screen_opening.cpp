@@ -5,6 +5,7 @@
 #include "foundation/setting_files.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/file_dialogs.h"
+#include "platform/ui/reminder.h"
 
 #include <QFileInfo>
 
@@ -30,6 +31,12 @@ void openChosenScreen(const QString& screen, const ScreenArguments& arguments, c
 
 void openIfKnown(const QString& screen) {
     if (ScreenRegistry::instance().knows(screen)) ScreenRegistry::instance().open(screen);
+}
+
+void remindOfReorder() {
+    const ScreenRegistry& screens = ScreenRegistry::instance();
+    if (screens.knows("frmReorder") && screens.openScreens().isEmpty())
+        ScreenRegistry::instance().open("frmReorder", {reminderKind, {}, {}});
 }
 
 void openProgramFile(const QString& fileName) {

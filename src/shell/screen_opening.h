@@ -7,6 +7,9 @@ void openChosenScreen(const QString& screen, const ScreenArguments& arguments, c
 // Shows a screen that opens by itself; nothing where this version lacks it.
 void openIfKnown(const QString& screen);
 
+// The list of what is to be ordered, over the empty frame only, and only when something stands on it.
+void remindOfReorder();
+
 // Opens a file of the program's folder with the desktop. A box when it is not there, or nothing opens it.
 void openProgramFile(const QString& fileName);
 

@@ -1,6 +1,8 @@
 #include "reports/inventory/frmReorder.h"
+
 #include "foundation/session.h"
 #include "platform/ui/list_view.h"
+#include "platform/ui/reminder.h"
 #include "platform/ui/screen_registry.h"
 #include "support/box_script.h"
 #include "support/test_store.h"
@@ -55,8 +57,9 @@ TEST_F(ReorderList, ListsWhatIsBelowItsLevelByDescription) {
 TEST_F(ReorderList, AskedForAgainItReadsTheStoreAgain) {
     open();
     EXPECT_EQ(list->rowCount(), 0);
+    EXPECT_FALSE(screen->receive({reminderKind, {}, {}})) << "there is nothing to remind of";
     item("A", "Axe", "C1", 2, 1);
-    screen->receive({});
+    EXPECT_TRUE(screen->receive({reminderKind, {}, {}}));
     EXPECT_EQ(codes(), "A");
     store().run("UPDATE tblItemMaster SET Balance = OrderLevel");
     screen->RefreshRecord();

@@ -6,6 +6,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 #include "platform/ui/list_view.h"
+#include "platform/ui/reminder.h"
 #include "reports/frame/report_start.h"
 #include "reports/inventory/prtReorder.h"
 
@@ -54,6 +55,7 @@ QSize frmReorder::sizeHint() const { return {form::charactersWide(this, 136), fo
 // Also when an open one is asked for again: the list that comes forward is the present one.
 bool frmReorder::receive(const ScreenArguments& arguments) {
     RefreshRecord();
+    if (arguments.kind == reminderKind && lvwItem->rowCount() == 0) return false;
     return ChildScreen::receive(arguments);
 }
 
