@@ -4,6 +4,7 @@
 #include "platform/parsing.h"
 
 #include <QFile>
+#include <QSaveFile>
 
 // A thousand characters count, of four bytes at most. A file may be of any size.
 static constexpr qint64 longestLine = 4 * 1000 + 1;
@@ -33,4 +34,26 @@ QString ReadReceiptIni() { return readSetting("Receipt.ini", session().ReceiptFo
 void ReadCheckIni() {
     const QString format = trim(SettingLine("Check.ini").value_or(QString()).left(1000)).toUpper();
     session().CheckBookFormat = format.isEmpty() ? QString("P") : format;
+}
+
+static QString writeSetting(const char* name, QString& value, const QString& written) {
+    value = written;
+    QSaveFile file(programFolder().filePath(name));
+    const QByteArray line = written.toUtf8() + '\n';
+    // Without a buffer, so that a full disk refuses the line before it takes the place of the old one.
+    const bool isWritten = file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) &&
+                           file.write(line) == line.size() && file.commit();
+    return isWritten ? QString() : QString("%1 could not be saved. %2").arg(name, file.errorString());
+}
+
+QString WritePrinterIni(const QString& kind) {
+    return writeSetting("Printer.ini", session().ReportPrinterKind, kind);
+}
+
+QString WriteCheckPrinterIni(const QString& kind) {
+    return writeSetting("CheckPrinter.ini", session().CheckPrinterKind, kind);
+}
+
+QString WriteCheckIni(const QString& format) {
+    return writeSetting("Check.ini", session().CheckBookFormat, format);
 }

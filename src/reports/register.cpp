@@ -1,11 +1,13 @@
 #include "reports/register.h"
 
 #include "platform/ui/screen_registry.h"
+#include "reports/checks/frmReceipts.h"
 #include "reports/documents/frmPrint.h"
 #include "reports/inventory/frmReorder.h"
 
 void registerReportScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
     screens.add("frmPrint", [] { return new frmPrint; });
+    screens.add("frmReceipts", [] { return new frmReceipts; });
     screens.add("frmReorder", [] { return new frmReorder; });
 }

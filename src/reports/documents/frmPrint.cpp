@@ -9,6 +9,8 @@
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/list_view.h"
+#include "reports/checks/check_choice.h"
+#include "reports/checks/check_report.h"
 #include "reports/documents/print_kinds.h"
 #include "reports/frame/export_file.h"
 #include "reports/frame/print_choice.h"
@@ -29,7 +31,8 @@ frmPrint::frmPrint()
       lvwRecord(new ListView("lvwRecord", {{"", 26}, {"", 16, ListColumn::Date}})),
       optPrinted(option("optPrinted")),
       optUnPrinted(option("optUnPrinted")),
-      fraChoice(new PrintChoice(ReportTarget::Printer)) {
+      fraChoice(new PrintChoice(ReportTarget::Printer)),
+      fraParameters(new CheckChoice) {
     build();
     connect(optPrinted, &QRadioButton::clicked, this, [this] { LoadGrid("True"); });
     connect(optUnPrinted, &QRadioButton::clicked, this, [this] { LoadGrid("False"); });
@@ -40,11 +43,12 @@ void frmPrint::build() {
     lvwRecord->setSortsByHeader(true);
     lvwRecord->showMarks();
     auto* layout = new QGridLayout(this);
-    layout->addWidget(lvwRecord, 0, 0, 3, 1);
+    layout->addWidget(lvwRecord, 0, 0, 4, 1);
     layout->addWidget(listFrame(), 0, 1);
     layout->addWidget(fraChoice, 1, 1);
-    layout->addLayout(buttonRow(), 3, 0, 1, 2);
-    layout->setRowStretch(2, 1);
+    layout->addWidget(fraParameters, 2, 1);
+    layout->addLayout(buttonRow(), 4, 0, 1, 2);
+    layout->setRowStretch(3, 1);
     layout->setColumnStretch(0, 1);
 }
 
@@ -86,7 +90,10 @@ bool frmPrint::receive(const ScreenArguments& arguments) {
         showBox(notInThisVersion(laterPrintKind(code)));
         return false;
     }
-    if (kind != kind_) load(*kind);
+    if (kind != kind_) {
+        if (!leavesKind()) return false;
+        load(*kind);
+    }
     return ChildScreen::receive(arguments);
 }
 
@@ -96,6 +103,9 @@ void frmPrint::load(const PrintKind& kind) {
     optPrinted->setText(kind.printed);
     optUnPrinted->setText(kind.unprinted);
     fraChoice->setTarget(ReportTarget::Printer);
+    fraChoice->setExportsVisible(!kind.hasChecks);
+    fraParameters->setVisible(kind.hasChecks);
+    fraParameters->startAnew();
     optUnPrinted->setChecked(true);
     LoadGrid("False");
 }
@@ -143,10 +153,31 @@ void frmPrint::PrintRecord() {
 // In the order that they stand in. What has been printed stays listed and marked until the next load.
 void frmPrint::printMarked() {
     session().ReportFromEntry = false;
+    if (lvwRecord->rowCount() == 0) return;
+    if (kind_->hasChecks)
+        if (const auto fault = fraParameters->fault()) return showFault(*fault, this);
     const QStringList numbers = markedNumbers();
     const ReportTarget target = fraChoice->target();
     if (numbers.isEmpty() || !readyToExport(this, target)) return;
     if (kind_->readSettings) kind_->readSettings();
     for (const QString& number : numbers)
-        if (!runFromPrintScreen(kind_->report(StoreConnection(), number), target, &kind_->tagging())) return;
+        if (!print(number, target)) return;
 }
+
+// False: the walk over the marked documents ends.
+bool frmPrint::print(const QString& number, ReportTarget target) {
+    Connection& store = StoreConnection();
+    if (kind_->hasChecks && fraParameters->printsChecks())
+        return runChecks(store, checkPaper(fraParameters->book()), number, target);
+    return runFromPrintScreen(kind_->report(store, number), target, &kind_->tagging());
+}
+
+// The check book that was chosen here becomes the setting.
+bool frmPrint::leavesKind() {
+    if (!kind_ || !kind_->hasChecks) return true;
+    const auto fault = fraParameters->keepBook();
+    if (fault) showFault(*fault, this);
+    return !fault;
+}
+
+bool frmPrint::queryUnload() { return leavesKind(); }

@@ -1,11 +1,13 @@
 #pragma once
 #include "platform/ui/child_screen.h"
 
+class CheckChoice;
 class ListView;
 class PrintChoice;
 class QBoxLayout;
 class QGroupBox;
 class QRadioButton;
+enum class ReportTarget;
 struct PrintKind;
 
 // Lists the printed or the unprinted documents of one kind, to mark and print them one after another. Opened
@@ -18,6 +20,7 @@ class frmPrint : public ChildScreen {
     bool hidesReportMenu() const override { return true; }
     QSize sizeHint() const override;
     void activated() override;
+    bool queryUnload() override;
 
   public slots:
     void PrintRecord();
@@ -36,10 +39,13 @@ class frmPrint : public ChildScreen {
     void unmarkAll();
     QStringList markedNumbers() const;
     void printMarked();
+    bool print(const QString& number, ReportTarget target);
+    bool leavesKind();
 
     const PrintKind* kind_ = nullptr;
     ListView* lvwRecord;
     QRadioButton* optPrinted;
     QRadioButton* optUnPrinted;
     PrintChoice* fraChoice;
+    CheckChoice* fraParameters;
 };

@@ -3,6 +3,7 @@
 #include "foundation/setting_files.h"
 #include "platform/masks.h"
 #include "platform/store/connection.h"
+#include "reports/checks/prtVoucher.h"
 #include "reports/documents/prtDelivery.h"
 #include "reports/documents/prtPurchase.h"
 
@@ -32,7 +33,18 @@ constexpr PrintKind kinds[] = {{.code = "DR",
                                 .printed = "Printed Purchase",
                                 .unprinted = "UnPrinted Purchase",
                                 .report = purchaseReport,
-                                .tagging = purchaseTagging}};
+                                .tagging = purchaseTagging},
+                               {.code = "CV",
+                                .table = "tblDisbursementMaster",
+                                .number = "VoucherNo",
+                                .date = "VoucherDate",
+                                .numberHead = "Voucher No.",
+                                .dateHead = "Voucher Date",
+                                .printed = "Printed Voucher",
+                                .unprinted = "UnPrinted Voucher",
+                                .report = voucherReport,
+                                .tagging = voucherTagging,
+                                .hasChecks = true}};
 
 int storedFlag(const QString& flag) {
     if (flag == "True") return -1;
@@ -51,10 +63,7 @@ const PrintKind* findPrintKind(const QString& code) {
     return kind == std::end(kinds) ? nullptr : kind;
 }
 
-QString laterPrintKind(const QString& code) {
-    if (code == "SI") return "Print Sales Invoice";
-    return code == "CV" ? "Print Check and Voucher" : "Print " + code;
-}
+QString laterPrintKind(const QString& code) { return code == "SI" ? "Print Sales Invoice" : "Print " + code; }
 
 QList<QStringList> documentsToPrint(Connection& store, const PrintKind& kind, const QString& flag) {
     Recordset documents = store.execute(listOf(kind, flag));

@@ -16,6 +16,7 @@ struct PrintKind {
     std::optional<ReportJobParts> (*report)(Connection& store, const QString& number);
     const DocumentTagging& (*tagging)();
     void (*readSettings)() = nullptr;  // before the first paper
+    bool hasChecks = false;            // prints checks, too; neither they nor its paper go to a file
 };
 
 // Null: this version does not print that kind.

@@ -39,6 +39,11 @@ ReportControl growing(ReportControl control) {
     return control;
 }
 
+ReportControl whole(ReportControl control) {
+    control.isWhole = true;
+    return control;
+}
+
 ReportControl showing(Shows what, ReportControl control) {
     control.shows = what;
     return control;

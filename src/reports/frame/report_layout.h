@@ -73,8 +73,9 @@ struct ReportControl {
     int left = 0, top = 0, width = 0, height = 0;
     TextStyle style;
     const char* mask =
-        nullptr;         // of a number or a date; null: the text as it stands, a number in plain digits
-    bool grows = false;  // takes as many lines as its text needs, and moves what stands below it
+        nullptr;           // of a number or a date; null: the text as it stands, a number in plain digits
+    bool grows = false;    // takes as many lines as its text needs, and moves what stands below it
+    bool isWhole = false;  // never shown in part, as if it were a figure
     Shows shows = Shows::Column;
 };
 
@@ -131,6 +132,7 @@ ReportControl label(const QString& name, const QString& text, int left, int top,
 ReportControl field(const QString& name, const QString& column, int left, int top, int width, int height,
                     const TextStyle& style = {}, const char* mask = nullptr);
 ReportControl growing(ReportControl control);
+ReportControl whole(ReportControl control);
 ReportControl showing(Shows what, ReportControl control);
 inline ReportControl summing(ReportControl control) { return showing(Shows::Sum, std::move(control)); }
 ReportControl line(const QString& name, int left, int top, int width, int height = 0);

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPen>
+#include <QSvgRenderer>
 
 namespace {
 using reportOutput::Rendering;
@@ -28,7 +29,16 @@ void paintText(QPainter& painter, const PageItem& item, const StyleFont& font) {
     painter.restore();
 }
 
+bool paintVectors(QPainter& painter, const PageItem& item) {
+    if (!item.text.endsWith(".svg", Qt::CaseInsensitive)) return false;
+    QSvgRenderer picture(item.text);
+    picture.setAspectRatioMode(Qt::KeepAspectRatio);
+    picture.render(&painter, item.place);
+    return true;
+}
+
 void paintImage(QPainter& painter, const PageItem& item) {
+    if (paintVectors(painter, item)) return;
     const QImage picture(item.text);
     if (picture.isNull()) return;
     const QSize size = picture.size().scaled(item.place.size(), Qt::KeepAspectRatio);

@@ -53,18 +53,22 @@ class RunRules {
         if (askYes(question("Printed?", tagging_->question)))
             tagPrinted();
         else
-            setFlag("Printed", false);
+            setPrinted(false);
     }
 
   private:
     void tagPrinted() const {
-        setFlag("Printed", true);
-        setFlag("RecordLock", true);
+        setPrinted(true);
+        for (const DocumentTagging::Record& record : tagging_->records)
+            if (record.isLocked) setFlag(record, "RecordLock", true);
     }
 
-    void setFlag(const char* flag, bool value) const {
-        for (const DocumentTagging::Record& record : tagging_->records)
-            SetFlagField(StoreConnection(), record.table, record.key, number_, flag, value);
+    void setPrinted(bool printed) const {
+        for (const DocumentTagging::Record& record : tagging_->records) setFlag(record, "Printed", printed);
+    }
+
+    void setFlag(const DocumentTagging::Record& record, const char* flag, bool value) const {
+        SetFlagField(StoreConnection(), record.table, record.key, number_, flag, value);
     }
 
     ReportTarget target_;

@@ -17,9 +17,10 @@ struct DocumentTagging {
     struct Record {
         const char* table;
         const char* key;
+        bool isLocked = true;  // gets RecordLock, too
     };
-    QList<Record> records;
-    const char* question;  // under "Printed?", when a paper from a print screen closes
+    QList<Record> records;  // in this order
+    const char* question;   // under "Printed?", when a paper from a print screen closes
 };
 
 // Shows a report as a preview for an entry screen, a journal or a list. A document is tagged as soon as its

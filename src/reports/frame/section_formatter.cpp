@@ -44,11 +44,11 @@ bool readsAsFigure(const QString& text) {
     return std::ranges::any_of(text, isDigit) && std::ranges::all_of(text, belongs);
 }
 
-// A number or a date: what has a mask, sums up or stands at the right, and reads as one.
+// A number or a date: what has a mask, sums up or stands at the right, and reads as one; and what is whole.
 bool isFigure(const ReportControl& control, const QString& text) {
     const bool mayBe =
         control.mask || control.shows != Shows::Column || (control.style.alignment & Qt::AlignRight);
-    return mayBe && readsAsFigure(text);
+    return control.isWhole || (mayBe && readsAsFigure(text));
 }
 
 PageItem itemOf(const ReportControl& control, const QString& text, int top, int height, quint16 style) {
