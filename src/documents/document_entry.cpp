@@ -204,10 +204,11 @@ bool DocumentEntry::SaveRecord() {
     if (popupHolds()) return false;
     RecomputeTotal();
     Outcome outcome;
-    {
+    const bool ran = guarded([&] {
         frmStatus status;
         outcome = saveDocument(status);
-    }
+    });
+    if (!ran) return false;
     if (!settled(outcome, this)) return false;
     finishSave();
     return true;

@@ -20,9 +20,10 @@ frmInputInList::frmInputInList(OrderOwner& owner, int row)
     lblTitle->setObjectName("lblTitle");
     lblServed = form::label(owner.lineWords().lblServed, txtValue);
     lblServed->setObjectName("lblServed");
-    txtOrder->setText(line.ordered);
-    txtValue->setText(line.served);
-    txtPrice->setText(line.netPrice);
+    const QStringList texts = line.texts();
+    txtOrder->setText(texts[OrderLine::Ordered]);
+    txtValue->setText(texts[OrderLine::Served]);
+    txtPrice->setText(texts[OrderLine::NetPrice]);
     layOut();
     connect(txtValue, &TextBox::entered, this, [this] { guarded([this] { commit(); }); });
 }

@@ -12,7 +12,6 @@
 
 namespace {
 QString asAmount(Currency value) { return formatNumber(value, mask::amount); }
-QString asPrice(Currency value) { return formatNumber(value, mask::price); }
 QString yearOf(const QDate& day) { return formatDate(day, "yyyy"); }
 
 // Checks
@@ -39,22 +38,6 @@ std::optional<Fault> totalFault(const OrderDocument& document) {
 }
 
 // Saving
-
-// A line with its figures read.
-struct LineFigures {
-    QString itemCode, unit;
-    Currency ordered, served, unitPrice, discount, total;
-};
-
-Currency figure(const QString& text) {
-    if (const auto value = parseNumber(text)) return *value;
-    throw StoreError(StoreError::typeMismatch, "Type mismatch");
-}
-
-LineFigures figuresOf(const OrderLine& line) {
-    return {trim(line.itemCode),    trim(line.unit),       figure(line.ordered), figure(line.served),
-            figure(line.unitPrice), figure(line.discount), figure(line.total)};
-}
 
 // One save: the order, and what all its steps share.
 class OrderSave {
@@ -124,12 +107,12 @@ class OrderSave {
         Recordset details = store_.openTable(book_.detailTable);
         qint64 written = 0;
         for (const OrderLine& line : document_.lines) {
-            writeLine(details, figuresOf(line));
+            writeLine(details, line);
             progress_.setValue(++written);
         }
     }
 
-    void writeLine(Recordset& details, const LineFigures& line) {
+    void writeLine(Recordset& details, const OrderLine& line) {
         details.addNew();
         details.set("Reference", code_);
         details.set("ItemID", line.itemCode);
@@ -159,15 +142,15 @@ class OrderSave {
 OrderLine lineOfRow(const Recordset& row, const OrderBook& book) {
     const Currency unitPrice = row.currency("UnitPrice");
     const Currency discount = row.currency("Discount");
-    return {row.trimmed("ItemID"),
-            row.trimmed("Description"),
-            row.currency("Ordered").toPlainText(),
-            row.currency(book.quantityColumn).toPlainText(),
-            row.trimmed("Unit"),
-            asPrice(unitPrice),
-            asPrice(discount),
-            asPrice(NetPrice(unitPrice, discount)),
-            asAmount(row.currency("Total"))};
+    return {.itemCode = row.trimmed("ItemID"),
+            .description = row.trimmed("Description"),
+            .unit = row.trimmed("Unit"),
+            .ordered = row.currency("Ordered"),
+            .served = row.currency(book.quantityColumn),
+            .unitPrice = unitPrice,
+            .discount = discount,
+            .netPrice = NetPrice(unitPrice, discount),
+            .total = asShown(row.currency("Total"))};
 }
 }  // namespace
 

@@ -9,8 +9,12 @@ namespace {
 QString asPrice(Currency value) { return formatNumber(value, mask::price); }
 QString asAmount(Currency value) { return formatNumber(value, mask::amount); }
 QString asPercent(Currency value) { return formatNumber(value, mask::percent); }
-QString plainDigits(const QString& text) { return numberOrZero(text).toPlainText(); }
 bool isZero(const QString& text) { return numberOrZero(text).isZero(); }
+
+Currency figure(const QString& text) {
+    if (const auto value = parseNumber(text)) return *value;
+    throw StoreError(StoreError::typeMismatch, "Type mismatch");
+}
 
 Fault error(const QString& text, const QString& focus = {}) { return {exclamation("Error!", text), focus}; }
 
@@ -105,16 +109,8 @@ std::optional<Fault> stockFaultOfValue(Connection& store, const LineOrder& order
                  "txtValue");
 }
 
-std::optional<Fault> lineFault(const OrderLine& line) {
-    if (!isNumeric(line.netPrice))
-        return error("Please Edit Item Entry, Net Price Should be a Numeric Value!", "txtValue");
-    if (!isNumeric(line.ordered))
-        return error("Please Edit Item Entry, Quantity Ordered Should be a Numeric Value!", "txtValue");
-    return std::nullopt;
-}
-
 std::optional<Question> overServedQuestion(const OrderBook& book, const OrderLine& line, Currency value) {
-    if (numberOrZero(line.ordered) >= value) return std::nullopt;
+    if (line.ordered >= value) return std::nullopt;
     const char* text = book.sells
                            ? "Item Served is Greater Than Ordered By the Customer! Do You Wish to Continue?"
                            : "Item Delivered is Greater Than Your Order! Do You Wish to Continue?";
@@ -123,14 +119,24 @@ std::optional<Question> overServedQuestion(const OrderBook& book, const OrderLin
 }  // namespace
 
 QStringList OrderLine::texts() const {
-    return {itemCode, description, ordered, served, unit, unitPrice, discount, netPrice, total};
+    return {itemCode,          description,          ordered.toPlainText(), served.toPlainText(), unit,
+            asPrice(unitPrice), asPrice(discount), asPrice(netPrice),     asAmount(total)};
 }
 
 OrderLine OrderLine::fromTexts(const QStringList& texts) {
-    return {texts.value(Code),     texts.value(Description), texts.value(Ordered),
-            texts.value(Served),   texts.value(Unit),        texts.value(UnitPrice),
-            texts.value(Discount), texts.value(NetPrice),    texts.value(Total)};
+    const auto number = [&](Column column) { return figure(texts.value(column)); };
+    return {.itemCode = texts.value(Code),
+            .description = texts.value(Description),
+            .unit = texts.value(Unit),
+            .ordered = number(Ordered),
+            .served = number(Served),
+            .unitPrice = number(UnitPrice),
+            .discount = number(Discount),
+            .netPrice = number(NetPrice),
+            .total = number(Total)};
 }
+
+Currency asShown(Currency amount) { return figure(asAmount(amount)); }
 
 OrderLine makeOrderLine(const QString& itemCode, const QString& description, const QString& unit,
                         Currency ordered, Currency served, Currency unitPrice, Currency discount) {
@@ -149,7 +155,7 @@ OrderLine makeOrderLine(const QString& itemCode, const QString& description, con
 
 Currency orderTotal(const QList<OrderLine>& lines) {
     Currency sum;
-    for (const OrderLine& line : lines) sum += numberOrZero(line.total);
+    for (const OrderLine& line : lines) sum += line.total;
     return sum;
 }
 
@@ -159,25 +165,25 @@ LineEntry entryOf(const OrderLine& line) {
     entry.itemCode = line.itemCode;
     entry.description = line.description;
     entry.unit = line.unit;
-    entry.cost = line.unitPrice;
-    entry.discount = asPercent(numberOrZero(line.discount));
-    entry.netPrice = line.netPrice;
-    entry.order = line.ordered;
-    entry.serve = line.served;
-    entry.total = line.total;
+    entry.cost = asPrice(line.unitPrice);
+    entry.discount = asPercent(line.discount);
+    entry.netPrice = asPrice(line.netPrice);
+    entry.order = line.ordered.toPlainText();
+    entry.serve = line.served.toPlainText();
+    entry.total = asAmount(line.total);
     return entry;
 }
 
 OrderLine lineOf(const LineEntry& entry) {
-    return {trim(entry.itemCode),
-            trim(entry.description),
-            plainDigits(entry.order),
-            plainDigits(entry.serve),
-            trim(entry.unit),
-            asPrice(numberOrZero(entry.cost)),
-            asPercent(numberOrZero(entry.discount)),
-            asPrice(numberOrZero(entry.netPrice)),
-            asAmount(numberOrZero(entry.total))};
+    return {.itemCode = trim(entry.itemCode),
+            .description = trim(entry.description),
+            .unit = trim(entry.unit),
+            .ordered = numberOrZero(entry.order),
+            .served = numberOrZero(entry.serve),
+            .unitPrice = numberOrZero(entry.cost),
+            .discount = numberOrZero(entry.discount),
+            .netPrice = numberOrZero(entry.netPrice),
+            .total = numberOrZero(entry.total)};
 }
 
 bool CheckCode(Connection& store, const OrderBook& book, const LineOrder& order, LineEntry& entry) {
@@ -259,10 +265,9 @@ Outcome changeServed(Connection& store, const OrderBook& book, const LineOrder& 
     value = typed->toPlainText();
     if (book.sells)
         if (auto fault = stockFaultOfValue(store, order, line, *typed)) return *fault;
-    if (auto fault = lineFault(line)) return *fault;
     if (auto asked = overServedQuestion(book, line, *typed))
         if (auto stop = settle(*asked, answers, "txtValue")) return *stop;
-    line.served = value;
-    line.total = asAmount(MultiplyAmounts(*typed, numberOrZero(line.netPrice)));
+    line.served = *typed;
+    line.total = asShown(MultiplyAmounts(*typed, line.netPrice));
     return Done{};
 }

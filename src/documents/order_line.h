@@ -6,31 +6,35 @@
 #include <QStringList>
 #include <functional>
 
-// One line of an order, as the texts of its list: the texts are the data. Quantities are plain digits, prices
-// have four decimals, the total two.
+// One line of an order. The total is the amount as it is shown and printed, in two decimals.
 struct OrderLine {
     QString itemCode;
     QString description;
-    QString ordered;
-    QString served;  // delivered, on a purchase
     QString unit;
-    QString unitPrice;
-    QString discount;
-    QString netPrice;
-    QString total;
+    Currency ordered;
+    Currency served;  // delivered, on a purchase
+    Currency unitPrice;
+    Currency discount;  // in percent
+    Currency netPrice;
+    Currency total;
 
     // The columns of the list, in order.
     enum Column { Code, Description, Ordered, Served, Unit, UnitPrice, Discount, NetPrice, Total };
+    // As the list shows it: quantities in plain digits, prices and the discount with four decimals.
     QStringList texts() const;
+    // Throws StoreError for a figure that is none.
     static OrderLine fromTexts(const QStringList& texts);
     bool operator==(const OrderLine&) const = default;
 };
+
+// An amount as it is shown: in two decimals, halves away from zero.
+Currency asShown(Currency amount);
 
 // A line of these figures, with its net price and total as the dialog makes them. Nothing is checked.
 OrderLine makeOrderLine(const QString& itemCode, const QString& description, const QString& unit,
                         Currency ordered, Currency served, Currency unitPrice, Currency discount);
 
-// The sum of the totals, leaving out texts that are no number. Throws OverflowError.
+// The sum of the totals. Throws OverflowError.
 Currency orderTotal(const QList<OrderLine>& lines);
 
 // What the line dialog holds, as typed.
