@@ -23,6 +23,11 @@ OrderControls::OrderControls(const OrderScreen& words, const DocumentControls& c
     form::setAccessibleFromTexts(screen);
 }
 
+QStringList orderFields() {
+    return {"txtCode",    "txtMonthCode", "txtSerialCode", "txtYearCode",
+            "txtRefDate", "cboCustomer",  "txtRemarks"};
+}
+
 QList<ListColumn> orderColumns(const char* quantityHeading, const char* lastHeading) {
     QList<ListColumn> columns{{"Item Code", 12, ListColumn::Text}, {"Description", 28, ListColumn::Text},
                               {"Order", 8, ListColumn::Number},    {quantityHeading, 9, ListColumn::Number},

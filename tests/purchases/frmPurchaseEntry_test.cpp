@@ -104,10 +104,11 @@ TEST_F(PurchaseEntry, IsDirtiedByItsOwnActs) {
     EXPECT_TRUE(screen->mblnUpdated) << "a click on a heading";
     screen->mblnUpdated = false;
     screen->NewRecord();
-    person::fill(screen, "txtSerialCode", "9");
     EXPECT_FALSE(screen->mblnUpdated);
-    person::fill(screen, "cboCustomer", "N");
-    EXPECT_TRUE(screen->mblnUpdated);
+    for (const char* field : {"txtSerialCode", "txtRefDate", "cboCustomer", "txtRemarks"}) {
+        person::fill(screen, field, "9");
+        EXPECT_TRUE(std::exchange(screen->mblnUpdated, false)) << field;
+    }
 }
 
 TEST_F(PurchaseEntry, ItsTwoButtonsWithOneMnemonicTakeTurnsAndPressNothing) {
