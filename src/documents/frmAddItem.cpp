@@ -174,15 +174,15 @@ void frmAddItem::showLine(const OrderLine& line) {
 }
 
 LineCheck frmAddItem::checkTyped(const Answers& answers) {
-    LineEntry typed = entry();
+    checked_ = entry();
     const LineCheck check = checkLine(
-        StoreConnection(), owner_.orderBook(), owner_.lineOrder(), typed,
+        StoreConnection(), owner_.orderBook(), owner_.lineOrder(), checked_,
         [this](const QString& code) { return lines().hasLine(code); }, answers);
-    showEntry(typed);
+    showEntry(checked_);
     return check;
 }
 
-OrderLine frmAddItem::typedLine() const { return lineOf(entry()); }
+OrderLine frmAddItem::typedLine() const { return lineOf(checked_); }
 
 bool frmAddItem::CheckCode() {
     LineEntry typed = entry();

@@ -42,6 +42,7 @@ class frmAddItem : public LinePopupOf<OrderLine> {
     void takeItem(const QString& code, const QString& description);
 
     OrderOwner& owner_;
+    LineEntry checked_;  // as the checks have left it
 
     ComboBox* cboItemCode;
     ComboBox* cboDescription;

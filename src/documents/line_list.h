@@ -64,7 +64,7 @@ class LinesOf : public LineList, public LineOwner<Line> {
 
     QList<Line> all() const {
         QList<Line> lines;
-        for (const QStringList& row : view()->rows()) lines.append(Line::fromTexts(row));
+        for (int row = 0; row < count(); ++row) lines.append(lineAt(row));
         return lines;
     }
 

@@ -53,6 +53,7 @@ class OrderSave {
     Outcome run() {
         try {
             Transaction unit(store_);
+            if (auto fault = overtaken()) return *fault;
             writeMaster();
             duplicateText_ = {};
             writeDetails();
@@ -68,6 +69,13 @@ class OrderSave {
     Box failureBox(const StoreError& failure) const {
         if (duplicateText_.isEmpty()) return exclamation("Error...", failure.text());
         return saveErrorBox(failure, duplicateText_);
+    }
+
+    // With the write lock held, before the order's own lines go: nobody overtakes what is tested here.
+    std::optional<Fault> overtaken() {
+        for (const OrderLine& line : document_.lines)
+            if (auto fault = overtakenLine(store_, lineOrder(document_), line)) return fault;
+        return std::nullopt;
     }
 
     Recordset masterRow() {

@@ -35,6 +35,7 @@ QList<OrderLine> loadOrderLines(Connection& store, const OrderBook& book, const 
 std::optional<Fault> checkOrder(Connection& store, const OrderBook& book, const OrderDocument& document);
 
 // Checks the order and saves it, whole or not at all: the master row, the counter of a new one, the queue,
-// the lines, the prices and quantities of their items, and the balance. Done or a Fault, never a Question.
+// the lines, the prices and quantities of their items, and the balance. With the write lock held each line
+// that was tested is tested again. Done or a Fault, never a Question.
 Outcome saveOrder(Connection& store, const OrderBook& book, const OrderDocument& document,
                   Progress& progress = Progress::none());

@@ -9,6 +9,26 @@
 
 #include <QKeyEvent>
 
+OrderLines::OrderLines(ListView* view, RecordScreen* screen) : LinesOf(view, screen) {
+    connect(view->model(), &QAbstractItemModel::modelReset, this, [this] { tested_.clear(); });
+}
+
+OrderLine OrderLines::lineAt(int row) const {
+    OrderLine line = LinesOf::lineAt(row);
+    line.tested = tested_.value(line.itemCode.toUpper());
+    return line;
+}
+
+void OrderLines::addLine(const OrderLine& line) {
+    remember(line);
+    LinesOf::addLine(line);
+}
+
+void OrderLines::replaceLine(int row, const OrderLine& line) {
+    remember(line);
+    LinesOf::replaceLine(row, line);
+}
+
 OrderEntry::OrderEntry(const OrderScreen& screen)
     : DocumentEntry(screen.document), screen_(screen), own_(screen, ui, this), lines_(ui.lvwItems, this) {
     setLines(lines_);

@@ -5,6 +5,21 @@
 
 class frmInputInList;
 
+// The lines of an order, with the stock that each was tested against since the list was filled.
+class OrderLines : public LinesOf<OrderLine> {
+  public:
+    OrderLines(ListView* view, RecordScreen* screen);
+
+    OrderLine lineAt(int row) const override;
+    void addLine(const OrderLine& line) override;
+    void replaceLine(int row, const OrderLine& line) override;
+
+  private:
+    void remember(const OrderLine& line) { tested_[line.itemCode.toUpper()] = line.tested; }
+
+    QHash<QString, std::optional<Currency>> tested_;  // by the item's code
+};
+
 // The entry screen of a sales or purchase order.
 class OrderEntry : public DocumentEntry, public OrderOwner {
     Q_OBJECT
@@ -34,6 +49,6 @@ class OrderEntry : public DocumentEntry, public OrderOwner {
 
     const OrderScreen& screen_;
     OrderControls own_;
-    LinesOf<OrderLine> lines_;
+    OrderLines lines_;
     QPointer<frmInputInList> quantityPopup_;
 };

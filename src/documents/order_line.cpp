@@ -72,14 +72,19 @@ std::optional<Question> priceQuestion(const OrderBook& book, const Recordset& it
     return std::nullopt;
 }
 
-std::optional<Fault> stockFault(Connection& store, const LineOrder& order, LineEntry& entry) {
-    const Currency available = availableStock(store, order, entry.itemCode);
-    entry.inventory = available.toPlainText();
-    if (available >= numberOrZero(entry.serve)) return std::nullopt;
+Fault purchaseFirst(const QString& focus) {
     return error(
         "Purchase This Item First! Inventory Balance For This Sales Period is Less Than your Served "
         "Item!",
-        "txtServe");
+        focus);
+}
+
+std::optional<Fault> stockFault(Connection& store, const LineOrder& order, LineEntry& entry) {
+    const Currency available = availableStock(store, order, entry.itemCode);
+    entry.inventory = available.toPlainText();
+    entry.tested = available;
+    if (available >= numberOrZero(entry.serve)) return std::nullopt;
+    return purchaseFirst("txtServe");
 }
 
 // A question not answered yet is asked; No stops without a word, at the field.
@@ -100,9 +105,10 @@ Outcome againstStore(Connection& store, const OrderBook& book, const LineOrder& 
 
 // Steps of changeServed
 
-std::optional<Fault> stockFaultOfValue(Connection& store, const LineOrder& order, const OrderLine& line,
+std::optional<Fault> stockFaultOfValue(Connection& store, const LineOrder& order, OrderLine& line,
                                        Currency value) {
     const Currency available = availableStock(store, order, line.itemCode);
+    line.tested = available;
     if (available >= value) return std::nullopt;
     return error("Inventory Balance For This Sales Period is Only " + available.toPlainText() +
                      " Less Than your Served Item!",
@@ -119,7 +125,7 @@ std::optional<Question> overServedQuestion(const OrderBook& book, const OrderLin
 }  // namespace
 
 QStringList OrderLine::texts() const {
-    return {itemCode,          description,          ordered.toPlainText(), served.toPlainText(), unit,
+    return {itemCode,           description,       ordered.toPlainText(), served.toPlainText(), unit,
             asPrice(unitPrice), asPrice(discount), asPrice(netPrice),     asAmount(total)};
 }
 
@@ -183,7 +189,8 @@ OrderLine lineOf(const LineEntry& entry) {
             .unitPrice = numberOrZero(entry.cost),
             .discount = numberOrZero(entry.discount),
             .netPrice = numberOrZero(entry.netPrice),
-            .total = numberOrZero(entry.total)};
+            .total = numberOrZero(entry.total),
+            .tested = entry.tested};
 }
 
 bool CheckCode(Connection& store, const OrderBook& book, const LineOrder& order, LineEntry& entry) {
@@ -256,6 +263,13 @@ LineCheck checkLine(Connection& store, const OrderBook& book, const LineOrder& o
                       " Had Already Been Entered Below! You May Click on Edit Button to Modify Record!"),
                 true};
     return {againstStore(store, book, order, item, entry, answers)};
+}
+
+std::optional<Fault> overtakenLine(Connection& store, const LineOrder& order, const OrderLine& line) {
+    if (!line.tested) return std::nullopt;
+    const Currency available = availableStock(store, order, line.itemCode);
+    if (available >= std::min(*line.tested, line.served)) return std::nullopt;
+    return purchaseFirst("lvwItems");
 }
 
 Outcome changeServed(Connection& store, const OrderBook& book, const LineOrder& order, OrderLine& line,

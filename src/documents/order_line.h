@@ -17,12 +17,13 @@ struct OrderLine {
     Currency discount;  // in percent
     Currency netPrice;
     Currency total;
+    std::optional<Currency> tested = {};  // the stock that it was tested against; none: it was not
 
     // The columns of the list, in order.
     enum Column { Code, Description, Ordered, Served, Unit, UnitPrice, Discount, NetPrice, Total };
     // As the list shows it: quantities in plain digits, prices and the discount with four decimals.
     QStringList texts() const;
-    // Throws StoreError for a figure that is none.
+    // Not tested. Throws StoreError for a figure that is none.
     static OrderLine fromTexts(const QStringList& texts);
     bool operator==(const OrderLine&) const = default;
 };
@@ -50,6 +51,7 @@ struct LineEntry {
     QString serve = "0";
     QString total = "0.00";
     QString inventory = "0";
+    std::optional<Currency> tested = {};  // the stock that the checks have found
 };
 LineEntry entryOf(const OrderLine& line);
 OrderLine lineOf(const LineEntry& entry);
@@ -80,6 +82,10 @@ void leaveCost(LineEntry& entry);
 using IsEntered = std::function<bool(const QString& itemCode)>;
 LineCheck checkLine(Connection& store, const OrderBook& book, const LineOrder& order, LineEntry& entry,
                     const IsEntered& isEntered, const Answers& answers = {});
+
+// What another clerk, or another date, may have overtaken since: a line whose stock is less than it was
+// tested against, and less than it serves.
+std::optional<Fault> overtakenLine(Connection& store, const LineOrder& order, const OrderLine& line);
 
 // The quick change of one quantity: the value as typed goes into the line's served quantity and total. A
 // question's key is "quantity".

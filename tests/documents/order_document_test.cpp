@@ -266,7 +266,38 @@ TEST_P(Order, RefusesATotalBeyondTheRange) {
 }
 
 // What only sales have.
-class Sale : public OrderBooks {};
+class Sale : public OrderBooks {
+  protected:
+    // A line that its dialog has tested against ten pieces.
+    static OrderLine testedLine(const char* served) {
+        OrderLine tested = line("I1", "9", served, "15");
+        tested.tested = money("10");
+        return tested;
+    }
+};
+
+TEST_F(Sale, IsTestedAgainWhereItsStockHasShrunkSince) {
+    saved(purchaseOrders, {line("I1", "10", "10", "10")}, "03/02/2026");
+    const std::string refused =
+        "Error!: Purchase This Item First! Inventory Balance For This Sales Period is Less Than your Served "
+        "Item!";
+    const OrderDocument first = order(salesOrders, {testedLine("6")});
+    ASSERT_EQ(said(saveOrder(store, salesOrders, first)), "done");
+    OrderDocument second = order(salesOrders, {testedLine("5")});
+    EXPECT_EQ(said(saveOrder(store, salesOrders, second)), refused) << "another clerk has sold it";
+    EXPECT_EQ(CountRecords(store, "tblSalesMaster"), 1);
+    second.lines = {testedLine("4")};
+    second.date = "03/01/2026";
+    EXPECT_EQ(said(saveOrder(store, salesOrders, second)), refused) << "bought the day after";
+    second.date = "03/03/2026";
+    EXPECT_EQ(said(saveOrder(store, salesOrders, second)), "done") << "there is less, and enough";
+    OrderDocument again = reopened(salesOrders, first.code);
+    again.lines = {testedLine("6")};
+    EXPECT_EQ(said(saveOrder(store, salesOrders, again)), "done") << "what it holds itself is not missing";
+    again.lines = {line("I1", "9", "9", "15")};
+    EXPECT_EQ(said(saveOrder(store, salesOrders, again)), "done")
+        << "a line nobody entered now stays as it is";
+}
 
 TEST_F(Sale, WritesWholesalePricesOnlyWhileItIsNew) {
     OrderDocument sale = order(salesOrders, {line("I1", "1", "1", "12")});

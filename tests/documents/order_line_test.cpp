@@ -259,6 +259,7 @@ TEST_F(ServedQuantity, ChangesQuantityAndTotalOnly) {
     EXPECT_EQ(row.total, money("60.75"));
     row.served = before.served;
     row.total = before.total;
+    row.tested = before.tested;
     EXPECT_EQ(row, before);
     EXPECT_FALSE(isDone(change(salesOrders, "6", {{"quantity", BoxAnswer::No}})));
     EXPECT_TRUE(isDone(change(salesOrders, "6", {{"quantity", BoxAnswer::Yes}})));

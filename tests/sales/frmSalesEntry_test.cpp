@@ -178,6 +178,25 @@ TEST_F(SalesEntry, RemovesALineAfterItsQuestion) {
     EXPECT_TRUE(wholesale->isEnabled());
 }
 
+TEST_F(SalesEntry, KeepsWhatWasTypedWhenItsStockIsGoneAtTheSave) {
+    open();
+    person::type("Nena");
+    person::click(screen, "cmdAdd");
+    for (const char* keys : {"I1", "", "", "", "1", "1"}) {
+        person::type(keys);
+        press(Qt::Key_Return);
+    }
+    closeDialog();
+    store.run("UPDATE tblPurchaseDetails SET Delivered = 0");
+    boxes.expect("Error!",
+                 "Purchase This Item First! Inventory Balance For This Sales Period is Less Than your Served "
+                 "Item!");
+    EXPECT_FALSE(screen->SaveRecord());
+    EXPECT_EQ(person::focusName(), "lvwItems");
+    EXPECT_EQ(list()->rowCount(), 1);
+    EXPECT_EQ(CountRecords(store, "tblSalesMaster"), 0);
+}
+
 TEST_F(SalesEntry, SortsByAClickOnAHeading) {
     edit(saved(salesOrders, {line("I1", "9", "1", "15"), line("I2", "10", "1", "6")}));
     person::clickHeader(list(), OrderLine::Ordered);
