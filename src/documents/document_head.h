@@ -1,5 +1,8 @@
 #pragma once
 #include "documents/contact_figures.h"
+#include "platform/outcome.h"
+
+#include <optional>
 
 // What every document has above its lines, as typed.
 struct DocumentHead {
@@ -10,6 +13,10 @@ struct DocumentHead {
     QString contactName = {};
     QString remarks = {};
 };
+
+// The serial of a new one becomes the counter that the next number is made from: what is no number of up to
+// nine digits is refused.
+std::optional<Fault> serialFault(const DocumentHead& document);
 
 // What its screen shows of a stored one besides.
 struct StoredHead {

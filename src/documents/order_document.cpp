@@ -23,7 +23,7 @@ std::optional<Fault> numberFault(Connection& store, const OrderBook& book, const
     if (code.isEmpty()) return Fault{exclamation("No Code!", book.noCode), "txtCode"};
     if (document.addMode && RecordFound(store, book.master.table, book.master.key, code))
         return error(book.duplicate, "txtSerialCode");
-    return std::nullopt;
+    return serialFault(document);
 }
 
 std::optional<Fault> totalFault(const OrderDocument& document) {

@@ -28,7 +28,7 @@ std::optional<Fault> numberFault(Connection& store, const VoucherDocument& vouch
     if (code.isEmpty()) return Fault{exclamation("No Code!", "Please enter Voucher No.!"), "txtCode"};
     if (voucher.addMode && RecordFound(store, disbursementBook.table, disbursementBook.key, code))
         return error("Duplicate Voucher No., Please Assign Another!", "txtSerialCode");
-    return std::nullopt;
+    return serialFault(voucher);
 }
 
 std::optional<Fault> totalFault(const VoucherDocument& voucher) {

@@ -91,7 +91,9 @@ TEST_P(Order, IsCheckedInItsOrder) {
         {[] {}, "txtCode", std::string("No Code!: ") + GetParam().noCode},
         {[&] { document.code = "03-1001-2026 "; }, "txtSerialCode",
          std::string("Error!: ") + GetParam().duplicate},
-        {[&] { document.code = "03-1002-2026"; }, "cboCustomer", "No Customer!: Please Select Customer!"},
+        {[&] { document.code = "03-1002-2026"; }, "txtSerialCode",
+         "Error!: Invalid Serial No.! Please Enter a Number of up to Nine Digits!"},
+        {[&] { document.serial = "1002"; }, "cboCustomer", "No Customer!: Please Select Customer!"},
         {[&] { document.contactName = "Nobody"; }, "lvwItems",
          "Net Amount!: Amount is Negative! System Cannot Allow Negative Total!"},
         {[&] { document.lines.clear(); }, "cmdAdd",
@@ -263,6 +265,18 @@ TEST_P(Order, RefusesATotalBeyondTheRange) {
     document.lines[0].total = document.lines[1].total = money("900,000,000,000,000");
     EXPECT_EQ(said(save(document)), "Error...: Overflow");
     EXPECT_EQ(everything(), before);
+}
+
+TEST_P(Order, TakesASerialOfUpToNineDigits) {
+    const std::pair<const char*, bool> cases[]{{"", false},          {"x1", false}, {"1.5", false},
+                                               {"-1", false},        {" 7 ", true}, {"123456789", true},
+                                               {"1234567890", false}};
+    for (const auto& [serial, taken] : cases) {
+        OrderDocument document = order(book(), {line("I1", "1", "0", "10")});
+        document.serial = serial;
+        document.code = QString("03-%1-2026").arg(serial);
+        EXPECT_EQ(isDone(save(document)), taken) << serial;
+    }
 }
 
 // What only sales have.

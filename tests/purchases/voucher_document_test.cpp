@@ -33,7 +33,9 @@ TEST_F(Voucher, IsCheckedInItsOrder) {
         {[] {}, "txtCode", "No Code!: Please enter Voucher No.!"},
         {[&] { document.code = "03-1001-2026 "; }, "txtSerialCode",
          "Error!: Duplicate Voucher No., Please Assign Another!"},
-        {[&] { document.code = "03-1002-2026"; }, "cboCustomer", "No Payee Name!: Please Select Payee Name!"},
+        {[&] { document.code = "03-1002-2026"; }, "txtSerialCode",
+         "Error!: Invalid Serial No.! Please Enter a Number of up to Nine Digits!"},
+        {[&] { document.serial = "1002"; }, "cboCustomer", "No Payee Name!: Please Select Payee Name!"},
         {[&] { document.contactName = "Nobody"; }, "lvwItems",
          "Net Amount!: Amount is Less Than or Equal to Zero! Please Enter Net Amount!"},
         {[&] {
