@@ -1,5 +1,6 @@
 #include "platform/clock.h"
 #include "platform/store/connection.h"
+#include "reports/audit/prtAudit.h"
 #include "reports/documents/prtDelivery.h"
 #include "reports/documents/prtPurchase.h"
 #include "reports/frame/page_lines.h"
@@ -8,6 +9,7 @@
 #include "reports/frame/report_run.h"
 #include "reports/golden.h"
 #include "reports/inventory/prtReorder.h"
+#include "reports/journals/transaction_reports.h"
 #include "reports/pdf_words.h"
 #include "support/test_store.h"
 
@@ -120,7 +122,8 @@ TEST(Reorder, ItemsBelowTheirLevel) {
 }
 
 TEST(Papers, NoLabelIsCutAtItsControl) {
-    for (const ReportLayout* layout : {&prtDelivery(), &prtPurchase(), &prtReorder()})
+    const QList<const ReportLayout*> papers{&prtDelivery(), &prtPurchase(), &prtReorder(), &prtAudit()};
+    for (const ReportLayout* layout : papers + transactionLayouts())
         for (const ReportSection& section : layout->sections)
             for (const ReportControl& control : section.controls) {
                 const QFontMetrics metrics(fontInTwips(control.style));

@@ -20,6 +20,7 @@ Look lookOf(ReportColumn::Kind kind) {
     static const QHash<int, Look> looks{{ReportColumn::Text, {Qt::AlignLeft, nullptr}},
                                         {ReportColumn::Centred, {Qt::AlignHCenter, nullptr}},
                                         {ReportColumn::Date, {Qt::AlignLeft, mask::date}},
+                                        {ReportColumn::DateTime, {Qt::AlignLeft, mask::dateTime}},
                                         {ReportColumn::Count, {Qt::AlignRight, mask::count}},
                                         {ReportColumn::Number, {Qt::AlignRight, nullptr}},
                                         {ReportColumn::Amount, {Qt::AlignRight, mask::amount}},

@@ -15,7 +15,7 @@ class Connection;
 
 // One column. Its head is the label lblItemCode, its field txtItemCode.
 struct ReportColumn {
-    enum Kind { Text, Centred, Date, Count, Number, Amount, SignedAmount, Price };
+    enum Kind { Text, Centred, Date, DateTime, Count, Number, Amount, SignedAmount, Price };
 
     const char* head;
     int left, width;

@@ -60,7 +60,7 @@ inline int on(SectionKind kind) { return static_cast<int>(kind); }
 
 // What a run is started with and no row holds.
 struct RunTexts {
-    QHash<QString, QString> labels = {};  // by name, instead of the text of the layout: "lblCompany"
+    QHash<QString, QString> labels = {};  // by name, where the layout leaves one empty: "lblCompany"
     QString range = {};                   // "01/01/2026 To 12/31/2026"; empty: all rows
 };
 

@@ -157,7 +157,7 @@ SectionFields ReportWalk::filled(const ReportSection& section, const Band& band)
 
 void ReportWalk::fill(const ReportControl& control, SectionFields::State& state, const Band& band) const {
     if (control.kind != ControlKind::Field) {
-        state.text = texts_.labels.value(control.name, control.text);
+        state.text = control.text.isEmpty() ? texts_.labels.value(control.name) : control.text;
     } else if (control.shows == Shows::Sum || control.shows == Shows::Count) {
         if (!band.sums) return;
         state.figure = band.sums->of(control);

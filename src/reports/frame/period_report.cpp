@@ -1,0 +1,41 @@
+#include "reports/frame/period_report.h"
+
+#include "platform/masks.h"
+#include "platform/parsing.h"
+#include "reports/frame/list_report.h"
+#include "reports/frame/report_query.h"
+
+#include <QDateTime>
+
+std::optional<Period> periodOf(const PrintRequest& request) {
+    if (request.allDays) return {};
+    const auto from = parseDate(request.from);
+    const auto to = parseDate(request.to);
+    if (!from || !to) return {};
+    return Period{*from, *to};
+}
+
+std::optional<Fault> periodFault(const PrintRequest& request, const Box& box) {
+    if (request.allDays || periodOf(request)) return {};
+    return Fault{box, isDate(request.from) ? "txtTo" : "txtFrom"};
+}
+
+Sql wherePeriod(const QString& dateColumn, const std::optional<Period>& period) {
+    if (!period) return {};
+    return {" WHERE " + dateColumn + " BETWEEN ? AND ?",
+            {period->from, QDateTime(period->to, QTime(0, 0), Qt::UTC)}};
+}
+
+static QString rangeText(const std::optional<Period>& period) {
+    return period ? formatDate(period->from) + " To " + formatDate(period->to) : QString();
+}
+
+std::optional<ReportJobParts> runOfPeriod(Connection& store, const PeriodReport& report,
+                                          const std::optional<Period>& period) {
+    RunTexts texts = companyTexts(store);
+    texts.labels.insert(report.labels);
+    texts.range = rangeText(period);
+    return reportOfQuery(store, report.layout,
+                         Sql(report.rows) + wherePeriod(report.dateColumn, period) + Sql(report.order),
+                         report.events, texts);
+}

@@ -1,0 +1,41 @@
+#pragma once
+#include "platform/outcome.h"
+#include "platform/store/sql.h"
+#include "reports/frame/report_events.h"
+
+#include <QDate>
+#include <optional>
+
+class Connection;
+
+// What a person asks a print screen for, as typed.
+struct PrintRequest {
+    QString kind = {};       // that the screen was opened with
+    QString selection = {};  // of cboSelection, or the option button that is set: "optSummary"
+    bool allDays = false;    // the period is excluded
+    QString from = {}, to = {};
+};
+
+// From the first day to the last one's midnight. What bears a time of the last day lies outside.
+struct Period {
+    QDate from, to;
+};
+// None where all days count, or where what was typed is no date.
+std::optional<Period> periodOf(const PrintRequest& request);
+// The fault of a period that is in force and is no period of dates.
+std::optional<Fault> periodFault(const PrintRequest& request, const Box& box);
+// " WHERE tblSalesMaster.RefDate BETWEEN ? AND ?"; empty for all days.
+Sql wherePeriod(const QString& dateColumn, const std::optional<Period>& period);
+
+// A report of the rows of a period.
+struct PeriodReport {
+    const ReportLayout& layout;
+    QString rows;  // "SELECT ... FROM ...", up to its condition
+    QString dateColumn;
+    QString order;  // " GROUP BY ... ORDER BY ..."
+    ReportEvents events = {};
+    QHash<QString, QString> labels = {};  // besides those of the company
+};
+// Its run; none when no row lies in the period.
+std::optional<ReportJobParts> runOfPeriod(Connection& store, const PeriodReport& report,
+                                          const std::optional<Period>& period);

@@ -1,0 +1,11 @@
+#pragma once
+#include "reports/frame/print_screen.h"
+
+// Prints the period reports of the journal that it is opened with: "S", "R", "P" or "D"; without one it
+// prints sales.
+class frmPrintTransactions : public PrintScreen {
+    Q_OBJECT
+  public:
+    frmPrintTransactions();
+    bool receive(const ScreenArguments& arguments) override;
+};
