@@ -1,6 +1,7 @@
 #include "purchases/frmDisbursementGrid.h"
 
 #include "books/balances.h"
+#include "purchases/print_voucher.h"
 
 const JournalBook& disbursementJournal() {
     using Field = SearchField;
@@ -26,7 +27,7 @@ const JournalBook& disbursementJournal() {
                      .recomputes = {RecomputePayableBalances}},
         .deleteRight = "DeleteCVAccess",
         .printRight = "PrintCVAccess",
-        .print = nullptr,
+        .print = PrintVoucherAndChecks,
         .nothingToPrint = exclamation("Error!", "Please Select a Payment Voucher First!"),
         .initialField = "Payee Name",
         .sorts = {{"optPackNo", "Voucher No.", " ORDER BY VoucherNo ASC"},
