@@ -2,13 +2,13 @@
 
 #include "foundation/session.h"
 #include "masters/field_widths.h"
+#include "masters/order_pickers.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
-#include "purchases/frmDisbursementFound.h"
 
 #include <QCheckBox>
 #include <QTimer>
