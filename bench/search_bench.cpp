@@ -65,7 +65,7 @@ double followsKey(const QString& text) {
     auto* box = screen.findChild<QLineEdit*>("txtCustomer");
     return bare::milliseconds([&] {
         box->insert(text);
-        QApplication::processEvents();
+        screen.repaint();
     });
 }
 }  // namespace

@@ -4,6 +4,7 @@
 #include "books/balances.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/store/bulk.h"
 
 #include <algorithm>
 
@@ -12,7 +13,7 @@ constexpr const char* notApplicable = "-NA-";
 
 // The sums of a contact's two balances, as the routines for one contact take them, for all rows at once.
 constexpr const char* contactSums =
-    "tblContactMaster.*, "
+    "ContactName, Address, TelNo, Terms, CreditLimit, "
     "(SELECT SUM(TotalAmount) FROM tblSalesMaster WHERE ContactNo = ContactID) AS Halin, "
     "(SELECT SUM(PaymentAmount) FROM tblReceiptMaster WHERE CustomerNo = ContactID) AS Bayad, "
     "(SELECT SUM(TotalDiscAmount) FROM tblReceiptMaster WHERE CustomerNo = ContactID) AS Palugit, "
@@ -21,12 +22,14 @@ constexpr const char* contactSums =
     "tblDisbursementDetails ON tblDisbursementMaster.VoucherNo = tblDisbursementDetails.VoucherID "
     "WHERE tblDisbursementMaster.ContactNo = ContactID AND tblDisbursementDetails.DirectPayment = 0) "
     "AS Gipangbayran";
-constexpr const char* contactsAlone = "tblContactMaster.*";
+constexpr const char* contactsAlone = "ContactName, Address, TelNo, Terms, CreditLimit, ContactID";
 
 Search itemSearch(const SearchKind& kind) {
     // An item without a known supplier is found, too.
     return {&kind,
             nullptr,
+            "ItemCode, Description, ContactName, CostPrice, SellingPrice, Unit, Balance, Locator, "
+            "tblItemMaster.Remarks",
             "tblItemMaster.*, tblContactMaster.ContactName",
             "tblItemMaster LEFT OUTER JOIN tblContactMaster ON tblContactMaster.ContactID = "
             "tblItemMaster.SupplierCode",
@@ -35,12 +38,15 @@ Search itemSearch(const SearchKind& kind) {
 }
 
 Search contactSearch(const SearchKind& kind) {
-    return {&kind, nullptr, contactSums, "tblContactMaster", "tblContactMaster", {}};
+    return {&kind, nullptr, contactSums, "*", "tblContactMaster", "tblContactMaster", {}};
 }
 
 Search transactionSearch(const SearchKind& kind, const SearchJournal& journal) {
+    QStringList columns{"ContactName", "Terms", journal.reference, journal.date, journal.amount};
+    if (journal.hasTerms) columns += "Balance";
     return {&kind,
             &journal,
+            columns.join(", "),
             QString("tblContactMaster.ContactName, tblContactMaster.Terms, %1.*").arg(journal.table),
             QString("%1 INNER JOIN tblContactMaster ON %1.%2 = tblContactMaster.ContactID")
                 .arg(journal.table, journal.contact),
@@ -81,58 +87,61 @@ SearchAnswer withConditions(Search search, const QStringList& filters) {
 
 // ---- the rows as they are shown
 
-QString amountText(const Recordset& row, const char* column) {
-    return formatNumber(row.currency(column), mask::amount);
+// A row as the store gives it. Its number comes first, the columns of the list from 1.
+class FoundRow {
+  public:
+    explicit FoundRow(const BulkReader& row) : row_(row) {}
+    qint64 number() const { return row_.integer(0); }
+    QString text(int column) const { return trim(row_.text(column)); }
+    QString amount(int column) const { return formatNumber(row_.currency(column), mask::amount); }
+    QString days(int column) const { return row_.currency(column).toPlainText() + " Days"; }
+    qint64 wholeDays(int column) const { return row_.currency(column).tenThousandths() / 10000; }
+    QDate date(int column) const { return QDate::fromString(row_.text(column).left(10), Qt::ISODate); }
+    Term term(int column) const { return row_.isNull(column) ? Term() : Term(row_.currency(column)); }
+
+  private:
+    const BulkReader& row_;
+};
+
+QStringList itemRow(const FoundRow& row) {
+    return {row.text(1), row.text(2),   row.text(3), row.amount(4), row.amount(5),
+            row.text(6), row.amount(7), row.text(8), row.text(9)};
 }
 
-QString daysText(const Recordset& row) { return row.currency("Terms").toPlainText() + " Days"; }
-
-QStringList itemRow(const Recordset& row) {
-    return {row.trimmed("ItemCode"),      row.trimmed("Description"),      row.trimmed("ContactName"),
-            amountText(row, "CostPrice"), amountText(row, "SellingPrice"), row.trimmed("Unit"),
-            amountText(row, "Balance"),   row.trimmed("Locator"),          row.trimmed("Remarks")};
-}
-
-Term termOf(const Recordset& row, const char* column) {
-    return row.isNull(column) ? Term() : Term(row.currency(column));
-}
-
-QStringList contactRow(const Recordset& row, Currency receivable, Currency payable) {
-    return {row.trimmed("ContactName"),
-            row.trimmed("Address"),
-            row.trimmed("TelNo"),
-            daysText(row),
-            amountText(row, "CreditLimit"),
+QStringList contactRow(const FoundRow& row, Currency receivable, Currency payable) {
+    return {row.text(1),
+            row.text(2),
+            row.text(3),
+            row.days(4),
+            row.amount(5),
             formatNumber(receivable, mask::amount),
             formatNumber(payable, mask::amount)};
 }
 
-QStringList contactRow(const Recordset& row) {
-    return contactRow(row,
-                      receivableFigure(termOf(row, "Halin"), termOf(row, "Bayad"), termOf(row, "Palugit")),
-                      differenceFigure(termOf(row, "Gipamalit"), termOf(row, "Gipangbayran")));
-}
-
-QStringList transactionRow(const Recordset& row, const SearchJournal& journal) {
-    const QDate date = row.date(journal.date);
-    const qint64 days = row.currency("Terms").tenThousandths() / 10000;
+QStringList transactionRow(const FoundRow& row, const SearchJournal& journal) {
+    const QDate date = row.date(4);
+    if (!journal.hasTerms)
+        return {journal.book,  row.text(3),   formatDate(date), notApplicable,
+                notApplicable, row.amount(5), notApplicable,    row.text(1)};
     return {journal.book,
-            row.trimmed(journal.reference),
+            row.text(3),
             formatDate(date),
-            journal.hasTerms ? daysText(row) : notApplicable,
-            journal.hasTerms ? formatDate(date.addDays(days)) : notApplicable,
-            amountText(row, journal.amount),
-            journal.hasTerms ? amountText(row, "Balance") : notApplicable,
-            row.trimmed("ContactName")};
+            row.days(2),
+            formatDate(date.addDays(row.wholeDays(2))),
+            row.amount(5),
+            row.amount(6),
+            row.text(1)};
 }
 
-QStringList shownRow(const Search& search, const Recordset& row) {
+QStringList shownRow(const Search& search, const FoundRow& row) {
     if (search.journal) return transactionRow(row, *search.journal);
-    return search.table == "tblItemMaster" ? itemRow(row) : contactRow(row);
+    if (!search.kind->followsKeys) return itemRow(row);
+    return contactRow(row, receivableFigure(row.term(6), row.term(7), row.term(8)),
+                      differenceFigure(row.term(9), row.term(10)));
 }
 
 Sql pageOf(const Search& search, qint64 after, int rows) {
-    Sql page(QString("SELECT %1, %2.rowid AS RowKey FROM %3").arg(search.columns, search.table, search.from));
+    Sql page(QString("SELECT %2.rowid, %1 FROM %3").arg(search.columns, search.table, search.from));
     page += search.where;
     page += Sql{QString(" %1 %2.rowid > ? ORDER BY %2.rowid LIMIT ?")
                     .arg(search.where.isEmpty() ? "WHERE" : "AND", search.table),
@@ -140,11 +149,14 @@ Sql pageOf(const Search& search, qint64 after, int rows) {
     return page;
 }
 
-SearchPage pageFrom(Recordset found, int rows, const std::function<QStringList(const Recordset&)>& shown) {
+SearchPage pageFrom(Connection& store, const Search& search, qint64 after, int rows,
+                    const std::function<QStringList(const FoundRow&)>& shown) {
     SearchPage page;
-    for (; !found.eof(); found.moveNext()) {
-        page.rows += shown(found);
-        page.last = found.integer("RowKey");
+    BulkReader found(store, pageOf(search, after, rows));
+    const FoundRow row(found);
+    while (found.next()) {
+        page.rows += shown(row);
+        page.last = row.number();
     }
     if (page.rows.size() < rows) page.last.reset();
     return page;
@@ -153,9 +165,8 @@ SearchPage pageFrom(Recordset found, int rows, const std::function<QStringList(c
 // One contact whose sum leaves the range would fail the page for all: there each is computed by itself.
 SearchPage contactsOneByOne(Connection& store, Search search, qint64 after, int rows) {
     search.columns = contactsAlone;
-    return pageFrom(store.execute(pageOf(search, after, rows)), rows, [&](const Recordset& row) {
-        const QString id = row.text("ContactID");
-        return contactRow(row, CustomerBalance(store, id), SupplierBalance(store, id));
+    return pageFrom(store, search, after, rows, [&](const FoundRow& row) {
+        return contactRow(row, CustomerBalance(store, row.text(6)), SupplierBalance(store, row.text(6)));
     });
 }
 }  // namespace
@@ -252,7 +263,7 @@ const SearchKind* findSearchKind(const QString& name) {
     return found == searchKinds().end() ? nullptr : &*found;
 }
 
-Sql Search::statement() const { return Sql(QString("SELECT %1 FROM %2").arg(columns, from)) + where; }
+Sql Search::statement() const { return Sql(QString("SELECT %1 FROM %2").arg(printed, from)) + where; }
 
 SearchAnswer prepareSearch(const SearchRequest& request) {
     const SearchKind* kind = findSearchKind(request.kind);
@@ -271,8 +282,8 @@ SearchAnswer prepareSearch(const SearchRequest& request) {
 
 SearchPage readPage(Connection& store, const Search& search, qint64 after, int rows) {
     try {
-        return pageFrom(store.execute(pageOf(search, after, rows)), rows,
-                        [&](const Recordset& row) { return shownRow(search, row); });
+        return pageFrom(store, search, after, rows,
+                        [&](const FoundRow& row) { return shownRow(search, row); });
     } catch (const StoreError& error) {
         if (search.columns != contactSums || error.number() == StoreError::busy) throw;
         return contactsOneByOne(store, search, after, rows);

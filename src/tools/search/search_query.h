@@ -63,11 +63,12 @@ struct SearchRequest {
 struct Search {
     const SearchKind* kind;
     const SearchJournal* journal;  // null: not of transactions
-    QString columns;
+    QString columns;               // of the list, in its order, read by position
+    QString printed;               // of the print-out
     QString from;
-    QString table;  // whose rows are found
-    Sql where;      // " WHERE ...", or empty
-    Sql statement() const;
+    QString table;          // whose rows are found
+    Sql where;              // " WHERE ...", or empty
+    Sql statement() const;  // of the print-out
 };
 
 // What is found, nothing (all filters are empty), or what refuses the search.

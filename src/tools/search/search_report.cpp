@@ -54,7 +54,6 @@ std::optional<ReportJobParts> searchReport(Connection& store, const Search& sear
                                plainList::headingEvent(store, {}, QString(search.journal->name) + " Search")},
                               {on(SectionKind::Detail), lineOf(*search.journal)}});
     if (search.kind->followsKeys)
-        return contactListReport(store, Sql("SELECT * FROM tblContactMaster") + search.where,
-                                 countLine(store, search, "Contact Master File"));
+        return contactListReport(store, search.statement(), countLine(store, search, "Contact Master File"));
     return itemListReport(store, search.statement(), countLine(store, search, "Item Master File"));
 }
