@@ -1,7 +1,9 @@
 #include "demo/demo_firm.h"
 
 #include "books/end_of_day.h"
+#include "demo/demo_collections.h"
 #include "demo/demo_trade.h"
+#include "demo/required.h"
 #include "foundation/encryption.h"
 #include "foundation/schema.h"
 #include "foundation/session.h"
@@ -16,16 +18,8 @@
 #include "sales/sales_document.h"
 
 #include <QFile>
-#include <stdexcept>
 
 namespace {
-void require(const Outcome& outcome, const QString& what) {
-    if (const Fault* fault = std::get_if<Fault>(&outcome))
-        throw std::runtime_error((what + ": " + fault->box.text).toStdString());
-    if (const Question* question = std::get_if<Question>(&outcome))
-        throw std::runtime_error((what + ": " + question->box.text).toStdString());
-}
-
 // Who may do what at the demo firm: the flags are columns of tblUserMaster, the codes menu rights.
 struct DemoUser {
     const char* code;
@@ -122,6 +116,7 @@ class DemoFirm {
         for (const DemoContact& contact : contacts) {
             addContact(store_, contact);
             discounts_[contact.name] = numberOrZero(contact.discount);
+            terms_[contact.name] = contact.terms.toInt();
         }
         for (const DemoItem& item : items_) codes_ += addItem(store_, item);
         trade(DemoTrade(contacts, items_, lastDay_).documents());
@@ -137,9 +132,12 @@ class DemoFirm {
                 closeTheBooks();
                 closed = true;
             }
+            if (document.date != Clock::today()) collections_.collect(document.date.addDays(-1));
             openFor(document.date);
             save(document);
         }
+        collections_.collect(lastDay_);
+        collections_.settleChecks(lastDay_.addDays(-2));
     }
 
     void save(const DemoDocument& document) {
@@ -149,6 +147,8 @@ class DemoFirm {
         order.wholesale = document.wholesale;
         for (const DemoLine& line : document.lines) order.lines += lineOf(line, document);
         require(saveOrder(store_, book, order), order.code);
+        if (document.isSale)
+            collections_.sold(order.code, document.contact, terms_[document.contact], document.date);
     }
 
     OrderLine lineOf(const DemoLine& line, const DemoDocument& document) const {
@@ -164,6 +164,8 @@ class DemoFirm {
         store_.run({"UPDATE tblSalesMaster SET Printed = True, RecordLock = True WHERE RefDate < ?", {week}});
         store_.run({"UPDATE tblPurchaseMaster SET Printed = True, RecordLock = True WHERE PurchaseDate < ?",
                     {week}});
+        store_.run(
+            {"UPDATE tblReceiptMaster SET Printed = True, RecordLock = True WHERE PaymentDate < ?", {week}});
         const Boxes boxes = postAndCostAll(store_);
         if (!boxes.isEmpty()) throw std::runtime_error(boxes.first().text.toStdString());
     }
@@ -173,6 +175,8 @@ class DemoFirm {
     QList<DemoItem> items_;
     QStringList codes_;
     QHash<QString, Currency> discounts_;
+    QHash<QString, int> terms_;
+    DemoCollections collections_{store_};
 };
 
 // The user and the clock of the firm's own days; the caller's come back afterwards.

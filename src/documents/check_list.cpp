@@ -1,7 +1,6 @@
 #include "documents/check_list.h"
 
 #include "documents/check_dialog.h"
-#include "foundation/comes_later.h"
 #include "foundation/session.h"
 #include "masters/field_widths.h"
 #include "platform/clock.h"
@@ -41,14 +40,6 @@ ComboBox* comboOf(const char* name, const QList<Named>& all, const QString& chos
 }
 }  // namespace
 
-ChildScreen* printChecksLater(const CheckView& view, const Sql& rows) {
-    if (StoreConnection().execute(rows).eof())
-        showBox(exclamation("Nothing to Print!", "No Records to Print..."));
-    else
-        showBox(notInThisVersion(view.reportTitle));
-    return nullptr;
-}
-
 CheckList::CheckList(const CheckScreen& words)
     : ChildScreen(words.name, words.caption), words_(words), view_(&words.book->views.first()) {
     makeControls();
@@ -63,7 +54,7 @@ CheckList::CheckList(const CheckScreen& words)
 }
 
 QSize CheckList::sizeHint() const {
-    const QSize roomy(form::charactersWide(this, 132), fontMetrics().height() * 32);
+    const QSize roomy(form::charactersWide(this, 140), fontMetrics().height() * 32);
     return roomy.expandedTo(minimumSizeHint());
 }
 

@@ -22,9 +22,6 @@ struct CheckScreen {
     ChildScreen* (*print)(const CheckView& view, const Sql& rows);
 };
 
-// The paper of both sides until there is one: says that this version has none.
-ChildScreen* printChecksLater(const CheckView& view, const Sql& rows);
-
 // Follows the checks of one side: lists them by view, finds them, tags many as cleared, and opens the dialog
 // for one.
 class CheckList : public ChildScreen {

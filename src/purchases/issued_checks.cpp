@@ -1,5 +1,10 @@
 #include "purchases/issued_checks.h"
 
+#include "foundation/session.h"
+#include "reports/checks/due_checks.h"
+#include "reports/frame/report_preview.h"
+#include "reports/frame/report_start.h"
+
 const CheckBook issuedChecks{
     .table = "tblChecks",
     .select =
@@ -26,10 +31,14 @@ const CheckBook issuedChecks{
     .notFound = "System Cannot Recognize Control No.!",
 };
 
+static ChildScreen* printChecks(const CheckView& view, const Sql& rows) {
+    return previewFromEntry(dueChecksReport(StoreConnection(), prtPayableDueChecks, rows, view.reportTitle));
+}
+
 const CheckScreen issuedCheckScreens{
     .book = &issuedChecks,
     .name = "frmNegPayableChecks",
     .caption = "Payable Check Status...",
     .dialogName = "frmNegPayableStatus",
-    .print = printChecksLater,
+    .print = printChecks,
 };

@@ -2,6 +2,7 @@
 
 #include "books/balances.h"
 #include "sales/frmReceiptAnnouce.h"
+#include "sales/print_invoice.h"
 
 const JournalBook& receiptJournal() {
     using Field = SearchField;
@@ -36,7 +37,7 @@ const JournalBook& receiptJournal() {
         .deleteRight = "DeleteSIAccess",
         .saysNoDeleteRight = false,
         .printRight = "PrintSIAccess",
-        .print = nullptr,
+        .print = PrintPaymentInvoice,
         .initialField = "Customer Name",
         .sorts = {{"optPackNo", "Payment No.", " ORDER BY PayNo ASC"},
                   {"optCustomer", "Customer", " ORDER BY ContactName ASC"},

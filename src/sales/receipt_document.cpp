@@ -25,9 +25,9 @@ std::optional<Fault> headFault(Connection& store, const ReceiptDocument& receipt
     if (trim(receipt.code).isEmpty())
         return Fault{exclamation("No Code!", "Please Enter Payment No.!"), "txtCode"};
     if (!isDate(receipt.date)) return errorFault("Invalid Payment Date Value!", "txtPayDate");
-    if (trim(receipt.customerName).isEmpty())
+    if (trim(receipt.contactName).isEmpty())
         return Fault{exclamation("No Customer!", "Please Select Customer!"), "cboCustomer"};
-    if (!RecordFound(store, "tblContactMaster", "ContactName", trim(receipt.customerName)))
+    if (!contactExists(store, receipt.contactName))
         return Fault{exclamation("Does not exist!",
                                  "Customer Does Not Exist, Please Add This To Customer Master File..."),
                      "cboCustomer"};
@@ -60,8 +60,7 @@ class ReceiptSave {
     // A number that another clerk has typed since the test meets the key here.
     std::optional<Fault> writeMaster() {
         Recordset row = masterRow();
-        row.set("CustomerNo", LookupField(store_, "ContactID", "tblContactMaster", "ContactName",
-                                          trim(receipt_.customerName), LookupMode::PrimaryKey));
+        row.set("CustomerNo", contactIdOf(store_, receipt_.contactName));
         row.set("PaymentDate", *parseDate(receipt_.date));
         row.set("PaymentAmount", receiptTotal(receipt_.lines));
         row.set("TotalDiscAmount", receiptDiscount(receipt_.lines));
@@ -153,27 +152,27 @@ QList<ReceiptLine> storedLines(Connection& store, qint64 number) {
 
 ReceiptDocument newReceipt(Connection& store) {
     ReceiptDocument receipt;
-    receipt.code = NextPaymentNo(store);
+    receipt.code = QString::number(numbering::nextKey(store, numbering::payment));
     receipt.date = formatDate(Clock::today());
     return receipt;
 }
 
-QString NextPaymentNo(Connection& store) {
-    return QString::number(numbering::nextKey(store, numbering::payment));
-}
-
-ReceiptDocument loadReceipt(Connection& store, const QString& code) {
+LoadedReceipt loadReceipt(Connection& store, const QString& code) {
     const qint64 number = numberOf(code);
     const Recordset row = store.execute({"SELECT * FROM tblReceiptMaster WHERE PayNo = ?", {number}});
-    ReceiptDocument receipt;
-    receipt.addMode = false;
-    receipt.code = QString::number(row.integer("PayNo"));
-    receipt.date = formatDate(row.date("PaymentDate"));
-    receipt.customerName = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
-                                       row.trimmed("CustomerNo"), LookupMode::DisplayText);
-    receipt.remarks = row.trimmed("PayRemarks");
-    receipt.lines = storedLines(store, number);
-    return receipt;
+    const QString contactId = row.trimmed("CustomerNo");
+    LoadedReceipt loaded;
+    loaded.document.addMode = false;
+    loaded.document.code = QString::number(row.integer("PayNo"));
+    loaded.document.date = formatDate(row.date("PaymentDate"));
+    loaded.document.contactName = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
+                                              contactId, LookupMode::DisplayText);
+    loaded.document.remarks = row.trimmed("PayRemarks");
+    loaded.document.lines = storedLines(store, number);
+    loaded.contact = contactFigures(store, CustomerBalance, contactId);
+    loaded.updatedBy = row.trimmed("UpdatedBy");
+    loaded.lastUpdate = formatDate(row.date("DateUpdate"));
+    return loaded;
 }
 
 std::optional<Fault> ValidateReceipt(Connection& store, const ReceiptDocument& receipt) {

@@ -1,4 +1,5 @@
 #pragma once
+#include "documents/document_head.h"
 #include "platform/progress.h"
 #include "sales/receipt_line.h"
 
@@ -6,24 +7,21 @@
 // is checked and saved.
 //
 //     ReceiptDocument receipt = newReceipt(store);
-//     receipt.customerName = "Aling Nena Store";
+//     receipt.contactName = "Aling Nena Store";
 //     receipt.lines = {lineOf(store, entry)};
 //     const Outcome outcome = saveReceipt(store, receipt);
-struct ReceiptDocument {
-    bool addMode = true;
-    QString code;  // the payment number
-    QString date;  // as typed
-    QString customerName;
-    QString remarks;
-    QList<ReceiptLine> lines;
+struct ReceiptDocument : DocumentHead {
+    QList<ReceiptLine> lines = {};
 };
 
 // An empty receipt of today. Its number is taken, and lost if it is not saved.
 ReceiptDocument newReceipt(Connection& store);
-QString NextPaymentNo(Connection& store);
 
-// A stored receipt with its lines, by the row. Throws StoreError: noCurrentRow when it is not there.
-ReceiptDocument loadReceipt(Connection& store, const QString& code);
+// A stored receipt, as its screen shows it. Throws StoreError: noCurrentRow when it is not there.
+struct LoadedReceipt : StoredHead {
+    ReceiptDocument document;
+};
+LoadedReceipt loadReceipt(Connection& store, const QString& code);
 
 // The checks before a save, in their order; a fault leaves all as it is.
 std::optional<Fault> ValidateReceipt(Connection& store, const ReceiptDocument& receipt);

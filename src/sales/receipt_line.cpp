@@ -1,6 +1,7 @@
 #include "sales/receipt_line.h"
 
 #include "books/balances.h"
+#include "documents/contact_figures.h"
 #include "foundation/shared_routines.h"
 #include "masters/master_records.h"
 #include "platform/masks.h"
@@ -14,13 +15,8 @@ Recordset orderRow(Connection& store, const QString& orderNo) {
     return store.execute({"SELECT * FROM tblSalesMaster WHERE RefNo = ?", {trimRight(orderNo)}});
 }
 
-QString customerId(Connection& store, const QString& name) {
-    return LookupField(store, "ContactID", "tblContactMaster", "ContactName", trim(name),
-                       LookupMode::PrimaryKey);
-}
-
 bool belongsTo(Connection& store, const Recordset& order, const QString& customerName) {
-    const QString id = trim(customerId(store, customerName));
+    const QString id = trim(contactIdOf(store, customerName));
     return order.trimmed("ContactNo").compare(id, Qt::CaseInsensitive) == 0;
 }
 

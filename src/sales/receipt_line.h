@@ -35,7 +35,7 @@ Currency receiptDiscount(const QList<ReceiptLine>& lines);
 // What the popup of a line holds, as typed.
 struct PaymentEntry {
     bool addMode = true;  // a line being added; else one being changed
-    QString orderNo;
+    QString orderNo = {};
     QString journalAmount = "0.00";  // the order's amount
     QString balance = "0.00";
     QString discount = "0.00";
@@ -43,8 +43,8 @@ struct PaymentEntry {
     QString required = "0.00";  // the balance less the discount
     QString payment = "0.00";
     bool cash = false;
-    QString checkNo;
-    QString checkDate;
+    QString checkNo = {};
+    QString checkDate = {};
 };
 PaymentEntry entryOf(const ReceiptLine& line);
 // The line with its order's date, amount and remarks. Throws StoreError.

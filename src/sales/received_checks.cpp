@@ -1,5 +1,10 @@
 #include "sales/received_checks.h"
 
+#include "foundation/session.h"
+#include "reports/checks/due_checks.h"
+#include "reports/frame/report_preview.h"
+#include "reports/frame/report_start.h"
+
 const CheckBook receivedChecks{
     .table = "tblReceiptDetails",
     .select =
@@ -31,10 +36,15 @@ const CheckBook receivedChecks{
     .notFound = "System Cannot Recognize Payment No.!",
 };
 
+static ChildScreen* printChecks(const CheckView& view, const Sql& rows) {
+    return previewFromEntry(
+        dueChecksReport(StoreConnection(), prtReceivableDueChecks, rows, view.reportTitle));
+}
+
 const CheckScreen receivedCheckScreens{
     .book = &receivedChecks,
     .name = "frmNegReceivableChecks",
     .caption = "Accounts Receivable Payment Status...",
     .dialogName = "frmNegReceivableStatus",
-    .print = printChecksLater,
+    .print = printChecks,
 };

@@ -1,6 +1,7 @@
 #include "sales/register.h"
 
 #include "platform/ui/screen_registry.h"
+#include "sales/frmReceiptEntry.h"
 #include "sales/frmReceiptGrid.h"
 #include "sales/frmSalesEntry.h"
 #include "sales/frmSalesGrid.h"
@@ -11,5 +12,6 @@ void registerSalesScreens() {
     screens.add("frmSalesGrid", [] { return new frmSalesGrid; });
     screens.add("frmReceiptGrid", [] { return new frmReceiptGrid; });
     screens.add("frmSalesEntry", [] { return new frmSalesEntry; });
+    screens.add("frmReceiptEntry", [] { return new frmReceiptEntry; });
     screens.add("frmNegReceivableChecks", [] { return new CheckList(receivedCheckScreens); });
 }

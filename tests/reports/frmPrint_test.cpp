@@ -140,8 +140,8 @@ TEST_F(Hub, EachKindHasItsWordsAndStartsWithWhatWaitsForThePrinter) {
         click("optPrinted");
         EXPECT_EQ(numbers(), QStringList("000003"));
     }
-    boxes.expect("Zevrin!", "\"Print Sales Invoice\" is not part of this version yet.");
-    ScreenRegistry::instance().open("frmPrint", {.kind = "SI", .key = {}, .caption = {}});
+    boxes.expect("Zevrin!", "\"Print XX\" is not part of this version yet.");
+    ScreenRegistry::instance().open("frmPrint", {.kind = "XX", .key = {}, .caption = {}});
     EXPECT_EQ(numbers(), QStringList("000003")) << "the open one stays as it was";
 }
 

@@ -19,7 +19,7 @@ TEST_F(Receipts, AreStoredColumnByColumn) {
                                           "03-1001-2026 | 0", "03-1002-2026 | 3000000",
                                           "03-1003-2026 | 8764988", "03-1004-2026 | 700000"));
     EXPECT_TRUE(store.execute("SELECT CheckNo FROM tblReceiptDetails WHERE ZevRef = 2").isNull("CheckNo"));
-    EXPECT_EQ(loadReceipt(store, "1").lines, document.lines);
+    EXPECT_EQ(loadReceipt(store, "1").document.lines, document.lines);
     EXPECT_EQ(newReceipt(store).code, "2") << "the number was taken when it was proposed";
     EXPECT_EQ(newReceipt(store).code, "3");
 }
@@ -27,7 +27,7 @@ TEST_F(Receipts, AreStoredColumnByColumn) {
 TEST_F(Receipts, AreCheckedInTheirOrder) {
     ASSERT_EQ(said(post({pays(1, "1")})), "done");
     ReceiptDocument document;
-    document.customerName = " ";
+    document.contactName = " ";
     const struct {
         std::function<void()> mend;
         const char *text, *focus;
@@ -35,11 +35,11 @@ TEST_F(Receipts, AreCheckedInTheirOrder) {
         {[] {}, "No Code!: Please Enter Payment No.!", "txtCode"},
         {[&] { document.code = "1"; }, "Error!: Invalid Payment Date Value!", "txtPayDate"},
         {[&] { document.date = "3/3/2026"; }, "No Customer!: Please Select Customer!", "cboCustomer"},
-        {[&] { document.customerName = "Nobody"; },
+        {[&] { document.contactName = "Nobody"; },
          "Does not exist!: Customer Does Not Exist, Please Add This To Customer Master File...",
          "cboCustomer"},
-        {[&] { document.customerName = "nena "; },
-         "Duplicate!: Duplicate Payment No.! Please Assign Another!", "txtCode"},
+        {[&] { document.contactName = "nena "; }, "Duplicate!: Duplicate Payment No.! Please Assign Another!",
+         "txtCode"},
         {[&] { document.code = "2"; },
          "Error!: There is No Payment Made for this Record! Please Add D.R. to Post Payment!", "cmdAdd"},
         {[&] { document.lines = {pays(1, "0", "5")}; }, "Error!: Total Amount is Less Than or Equal Zero!",
@@ -74,7 +74,7 @@ TEST_F(Receipts, OfTwoClerksAreTestedAgainWhenTheyAreSaved) {
 
 TEST_F(Receipts, ThatAreSavedAgainReplaceTheirLines) {
     ASSERT_EQ(said(post({pays(1, "1000")})), "done");
-    ReceiptDocument again = loadReceipt(store, "1");
+    ReceiptDocument again = loadReceipt(store, "1").document;
     again.lines[0] = pays(1, "900", "10");
     ASSERT_EQ(said(saveReceipt(store, again)), "done");
     EXPECT_EQ(CountRecords(store, "tblReceiptDetails"), 1);
@@ -84,7 +84,7 @@ TEST_F(Receipts, ThatAreSavedAgainReplaceTheirLines) {
 // Killed at any statement, a save leaves the books as before it or, once it is done, as after it.
 TEST_F(Receipts, SurviveASuddenEndAtEveryStatement) {
     ASSERT_EQ(said(post({pays(1, "300"), pays(2, "200", "0", "BPI 1")})), "done");
-    ReceiptDocument edited = loadReceipt(store, "1");
+    ReceiptDocument edited = loadReceipt(store, "1").document;
     edited.lines[0] = pays(1, "100", "10");
     for (const ReceiptDocument& document : {receipt({pays(1, "100"), pays(2, "250", "10")}), edited}) {
         const auto before = everything();

@@ -28,7 +28,7 @@ class Receipts : public OrderBooks {
     }
     ReceiptDocument receipt(const QList<ReceiptLine>& lines) {
         ReceiptDocument document = newReceipt(store);
-        document.customerName = "Nena";
+        document.contactName = "Nena";
         document.lines = lines;
         return document;
     }

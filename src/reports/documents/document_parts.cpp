@@ -6,6 +6,7 @@
 #include "reports/frame/list_report.h"
 
 namespace {
+constexpr int edge = 90;
 constexpr int lineOfText = 225;
 constexpr TextStyle tight{Typeface::Tahoma, 8, false, Qt::AlignLeft};
 constexpr TextStyle tightNumber{Typeface::Tahoma, 8, false, Qt::AlignRight};
@@ -29,13 +30,15 @@ QList<ReportControl> partyBlock(const DocumentPaper& paper) {
 }
 
 QList<ReportControl> numberBlock(const DocumentPaper& paper) {
-    return {label("lblTitle", paper.title, 7650, 990, 3060, 300, bold(12)),
-            label("lblNumber", paper.number, 7650, 1350, 1080, lineOfText),
-            field("txtNumber", paper.numberColumn, 8820, 1350, 1890, lineOfText, bold()),
-            label("lblDate", paper.date, 7650, 1620, 1080, lineOfText),
-            field("txtDate", paper.dateColumn, 8820, 1620, 1890, lineOfText, {}, mask::date),
-            label("lblTerms", "Terms :", 7650, 1890, 1080, lineOfText),
-            field("txtTerms", "Terms", 8820, 1890, 1890, lineOfText)};
+    const int left = paper.numberLeft, value = 8820;
+    const int width = value - left - edge;
+    return {label("lblTitle", paper.title, left, 990, 3060, 300, bold(12)),
+            label("lblNumber", paper.number, left, 1350, width, lineOfText),
+            field("txtNumber", paper.numberColumn, value, 1350, 1890, lineOfText, bold()),
+            label("lblDate", paper.date, left, 1620, width, lineOfText),
+            field("txtDate", paper.dateColumn, value, 1620, 1890, lineOfText, {}, mask::date),
+            label("lblTerms", "Terms :", left, 1890, width, lineOfText),
+            field("txtTerms", "Terms", value, 1890, 1890, lineOfText)};
 }
 
 ReportControl columnHead(const char* name, const QString& text, const ColumnPlace& place,
@@ -65,11 +68,6 @@ ReportControl lineNumber(const char* name, const char* column, const ColumnPlace
     return field(name, column, place.left, 30, place.width, lineOfText, tightNumber, numberMask);
 }
 
-void fillHeading(const ReportSource& row, SectionFields& fields) {
-    fields.setText("txtAddress", row.text("Address") + '\n' + row.text("TelNo"));
-    fields.setText("txtTerms", trim(fields.text("txtTerms")) + " Days");
-}
-
 // The discount is a percent of the gross price; the amount of the line is printed as stored, and counts in
 // the total as it is printed.
 void fillLine(Connection& store, const ReportSource& row, SectionFields& fields) {
@@ -82,12 +80,13 @@ void fillLine(Connection& store, const ReportSource& row, SectionFields& fields)
 }
 }  // namespace
 
-ReportSection documentHeader(const DocumentPaper& paper) {
-    const int left = paper.columns.ordered.left;
-    const ReportControl rule = line("linHead", left, 2250, rightEdge(paper.columns.amount) - left);
-    return section(
-        SectionKind::PageHeader, 2670,
-        companyBlock() + partyBlock(paper) + numberBlock(paper) + QList{rule} + columnHeads(paper));
+ReportSection documentHeader(const DocumentPaper& paper) { return documentHeader(paper, columnHeads(paper)); }
+
+ReportSection documentHeader(const DocumentPaper& paper, const QList<ReportControl>& heads) {
+    const int right = heads.last().left + heads.last().width;
+    return section(SectionKind::PageHeader, 2670,
+                   companyBlock() + partyBlock(paper) + numberBlock(paper) +
+                       QList{line("linHead", edge, 2250, right - edge)} + heads);
 }
 
 ReportSection documentLine(const DocumentPaper& paper) {
@@ -106,21 +105,31 @@ ReportSection documentLine(const DocumentPaper& paper) {
 
 ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportControl>& more) {
     const DocumentColumns& at = paper.columns;
-    QList<ReportControl> controls{
+    const QList<ReportControl> controls{
         label("lblRemarks", "Remarks : ", 90, 90, 900, lineOfText),
         growing(field("txtParticulars", "Remarks", 990, 90, 6210, 540)),
         label("lblTotal", "Total = ", at.net.left, 90, 720, lineOfText, numberHead),
         summing(field(paper.totalName, "txtTotal", at.amount.left - 360, 90, at.amount.width + 360,
                       lineOfText, numberHead, mask::amount))};
+    return section(SectionKind::ReportFooter, 2325, controls + documentSignatures(paper) + more);
+}
+
+QList<ReportControl> documentSignatures(const DocumentPaper& paper) {
+    QList<ReportControl> controls;
     for (const Signature& signature : paper.signatures)
         controls += {
             label(signature.name + QString("Head"), signature.caption, signature.left, 810, 2700, lineOfText),
             label(signature.name, "", signature.left, 1530, 2700, lineOfText)};
-    return section(SectionKind::ReportFooter, 2325, controls + more);
+    return controls;
+}
+
+void fillDocumentHeading(const ReportSource& row, SectionFields& fields) {
+    fields.setText("txtAddress", row.text("Address") + '\n' + row.text("TelNo"));
+    fields.setText("txtTerms", trim(fields.text("txtTerms")) + " Days");
 }
 
 ReportEvents documentEvents(Connection& store) {
-    return {{on(SectionKind::PageHeader), fillHeading},
+    return {{on(SectionKind::PageHeader), fillDocumentHeading},
             {on(SectionKind::Detail),
              [&store](const ReportSource& row, SectionFields& fields) { fillLine(store, row, fields); }}};
 }

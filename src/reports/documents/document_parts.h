@@ -28,18 +28,24 @@ struct DocumentPaper {
     const char* numberColumn;
     const char* date;
     const char* dateColumn;
-    const char* moved;  // the quantity that changed hands: column, and head of the column
-    const char* totalName;
-    DocumentColumns columns;
+    int numberLeft = 7650;        // of title and number
+    const char* moved = nullptr;  // the quantity that changed hands: column, and head of the column
+    const char* totalName = nullptr;
+    DocumentColumns columns = {};
     QList<Signature> signatures;
 };
 
 ReportSection documentHeader(const DocumentPaper& paper);
+// Of a paper with columns of its own: their heads, from the left.
+ReportSection documentHeader(const DocumentPaper& paper, const QList<ReportControl>& heads);
 ReportSection documentLine(const DocumentPaper& paper);
 // With room for more controls of the paper's own.
 ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportControl>& more = {});
+QList<ReportControl> documentSignatures(const DocumentPaper& paper);
 
 // The figures of a paper. The store is read while the run lays out its pages.
 ReportEvents documentEvents(Connection& store);
+// Their heading: the party's address and terms.
+void fillDocumentHeading(const ReportSource& row, SectionFields& fields);
 // The company and the persons of the signatures.
 RunTexts documentTexts(Connection& store);

@@ -6,6 +6,7 @@
 #include "reports/checks/prtVoucher.h"
 #include "reports/documents/prtDelivery.h"
 #include "reports/documents/prtPurchase.h"
+#include "reports/documents/prtSalesInvoice.h"
 
 namespace {
 void readReceiptSettings() {
@@ -44,7 +45,17 @@ constexpr PrintKind kinds[] = {{.code = "DR",
                                 .unprinted = "UnPrinted Voucher",
                                 .report = voucherReport,
                                 .tagging = voucherTagging,
-                                .hasChecks = true}};
+                                .hasChecks = true},
+                               {.code = "SI",
+                                .table = "tblReceiptMaster",
+                                .number = "PayNo",
+                                .date = "PaymentDate",
+                                .numberHead = "Invoice No.",
+                                .dateHead = "Invoice Date",
+                                .printed = "Printed Payment",
+                                .unprinted = "UnPrinted Payment",
+                                .report = salesInvoiceReport,
+                                .tagging = salesInvoiceTagging}};
 
 int storedFlag(const QString& flag) {
     if (flag == "True") return -1;
@@ -63,7 +74,7 @@ const PrintKind* findPrintKind(const QString& code) {
     return kind == std::end(kinds) ? nullptr : kind;
 }
 
-QString laterPrintKind(const QString& code) { return code == "SI" ? "Print Sales Invoice" : "Print " + code; }
+QString laterPrintKind(const QString& code) { return "Print " + code; }
 
 QList<QStringList> documentsToPrint(Connection& store, const PrintKind& kind, const QString& flag) {
     Recordset documents = store.execute(listOf(kind, flag));
