@@ -29,7 +29,8 @@ Recordset ownRow(Connection& store, const QString& query) {
     } catch (const StoreError& error) {
         if (error.number() == StoreError::busy) throw;
         if (sqlite3_extended_errcode(store.handle()) == SQLITE_READONLY_ROLLBACK)
-            refuse(store.path(), "its last save was broken off. Open it with the program, which undoes that.");
+            refuse(store.path(),
+                   "its last save was broken off. Open it with the program, which undoes that.");
         refuse(store.path(), damaged);
     }
 }
