@@ -41,7 +41,7 @@ void DemoCollections::collect(const QDate& day) {
 
 void DemoCollections::post(const QString& customer, const QList<Due>& dues, const QDate& day) {
     const bool byCheck = below(5) < 3;
-    const QString checkNo = byCheck ? QString("BDO %1").arg(++lastCheck_) : QString();
+    const QString checkNo = byCheck ? QString::number(++lastCheck_) : QString();
     const QString checkDate = byCheck ? formatDate(day.addDays(15 * below(4))) : QString();
     ReceiptDocument receipt = newReceipt(store_);
     receipt.contactName = customer;

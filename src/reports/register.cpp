@@ -6,6 +6,7 @@
 #include "reports/documents/frmPrint.h"
 #include "reports/inventory/frmReorder.h"
 #include "reports/journals/frmPrintTransactions.h"
+#include "reports/menu_lists.h"
 
 void registerReportScreens() {
     ScreenRegistry& screens = ScreenRegistry::instance();
@@ -14,4 +15,5 @@ void registerReportScreens() {
     screens.add("frmPrintTransactions", [] { return new frmPrintTransactions; });
     screens.add("frmReceipts", [] { return new frmReceipts; });
     screens.add("frmReorder", [] { return new frmReorder; });
+    registerMenuLists();
 }

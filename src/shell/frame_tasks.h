@@ -8,10 +8,5 @@ void recomputeBalances();
 // The question before a report that rests on the end of day, while rows are waiting for it. True: go on.
 bool goesOnWithPendingRows();
 
-// The sets of the reports that have no selection screen. Nothing in them: the box "Nothing to Print!".
-void printReceivableDueChecks();
-void printPayableDueChecks();
-void printContactList();
-
 // Reminds of the end of day when rows are waiting for it.
 void remindOfEndOfDay();

@@ -210,12 +210,6 @@ void mdiMain::run(FrameCommand action, const QString&) {
             return sbrMain->setVisible(menus_->item("mnuViewItem_1")->isChecked());
         case RepairReportAnalyzer:
             return openProgramFile("ZevrinDemo.exe");
-        case PrintReceivableDueChecks:
-            return printReceivableDueChecks();
-        case PrintPayableDueChecks:
-            return printPayableDueChecks();
-        case PrintContactList:
-            return printContactList();
         case TileHorizontally:
             return area_->tile(Qt::Horizontal);
         case TileVertically:

@@ -303,16 +303,6 @@ TEST_F(EmptyFrame, ReportsThatRestOnCostingAskWhileRowsAreWaiting) {
     EXPECT_EQ(opened("frmPrintTransactions")->windowTitle(), "Print Sales Report...");
 }
 
-TEST_F(EmptyFrame, ListsWithoutRowsSayThatThereIsNothingToPrint) {
-    for (const char* name : {"mnuReportItem_9", "mnuReportItem_13", "mnuReportItem_25"}) {
-        boxes.expect("Nothing to Print!", "No Records to Print...");
-        choose(name);
-    }
-    store().run("INSERT INTO tblContactMaster (ContactID, ContactName) VALUES ('1', 'Anna')");
-    boxes.expect("Zevrin!", "\"Print Contact Directory Listing\" is not part of this version yet.");
-    choose("mnuReportItem_25");
-}
-
 TEST_F(EmptyFrame, TheBalancesAreRecomputedOnlyAfterAYes) {
     store().run("INSERT INTO tblItemMaster (ItemCode, Description, Balance) VALUES ('A', 'NAIL', 70000)");
     const auto balance = [this] {
