@@ -3,6 +3,7 @@
 #include "foundation/session.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
+#include "platform/ui/key_filters.h"
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
@@ -16,6 +17,7 @@ frmInputInList::frmInputInList(OrderOwner& owner, int row)
     txtPrice = readOnlyBox("txtPrice", Qt::AlignRight);
     txtValue = new TextBox("txtValue");
     txtValue->setAlignment(Qt::AlignRight);
+    txtValue->setKeyFilter(keys::amount());
     lblTitle = form::label(line.description);
     lblTitle->setObjectName("lblTitle");
     lblServed = form::label(owner.lineWords().lblServed, txtValue);

@@ -172,7 +172,7 @@ OrderDocument newOrder(Connection& store, const OrderBook& book) {
 }
 
 LineOrder lineOrder(const OrderDocument& document) {
-    return {trim(document.code), document.date, document.contactName, document.wholesale};
+    return {trim(document.code), document.date, trim(document.contactName), document.wholesale};
 }
 
 LoadedOrder loadOrder(Connection& store, const OrderBook& book, const QString& key) {

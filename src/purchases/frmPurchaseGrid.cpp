@@ -42,7 +42,7 @@ const JournalBook& purchaseJournal() {
             {"Locked", "RecordLock", GridColumn::Flag, 8, " ORDER BY RecordLock ASC"},
             {"Printed", "Printed", GridColumn::Flag, 8, " ORDER BY Printed ASC"},
             {"Updated By", "UpdatedBy", GridColumn::Text, 12, " ORDER BY tblPurchaseMaster.UpdatedBy ASC"},
-            {"Last Update", "DateUpdate", GridColumn::DateTime, 19,
+            {"Last Update", "DateUpdate", GridColumn::Date, 12,
              " ORDER BY tblPurchaseMaster.DateUpdate ASC"}}};
     return book;
 }

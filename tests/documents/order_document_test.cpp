@@ -242,6 +242,12 @@ TEST_P(Order, IsSavedWholeOrNotAtAll) {
     }
 }
 
+TEST_P(Order, ABlankBeforeTheContactCostsNoDiscount) {
+    OrderDocument document;
+    document.contactName = " Nena ";
+    EXPECT_EQ(lineOrder(document).contactName, "Nena");
+}
+
 // Killed at any statement, a save leaves the books as before it or, once it is done, as after it.
 TEST_P(Order, SurvivesASuddenEndAtEveryStatement) {
     for (const OrderDocument& document : editedAndFresh()) {

@@ -88,7 +88,7 @@ TEST_F(PurchaseEntry, ReceivesMoreThanOrderedAfterItsQuestion) {
     press(Qt::Key_Escape);
     EXPECT_EQ(list()->text(0, 3), "0");
     press(Qt::Key_Return);
-    person::type("8");
+    person::type("-8");  // a delivery takes nothing back
     for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
         EXPECT_EQ(person::focusName(), "txtValue");
         boxes.expect("Error!", "Item Delivered is Greater Than Your Order! Do You Wish to Continue?", answer);

@@ -121,7 +121,7 @@ void PageView::applyZoom(int percent) {
     const bool isAtTop = verticalScrollBar()->value() == 0;
     const int shown = page();
     const double step = pageStep();
-    const double middle = (verticalScrollBar()->value() + viewport()->height() / 2 - topOf(shown)) / step;
+    const double middle = (verticalScrollBar()->value() + viewport()->height() / 2.0 - topOf(shown)) / step;
     zoom_ = std::clamp(percent, leastZoom, mostZoom);
     cache_.clear();
     updateScrollBars();
