@@ -151,7 +151,7 @@ class Walk {
             const bool sound = succeeds(boxes_, [&] { runUnit(unit, stepText, step); });
             for (const qsizetype index : unit.done) tell(index);
             if (!sound || unit.failed) return false;
-            if (next_ < list_.size()) letOthersIn();
+            if (next_ < list_.size()) letOthersIn(store_);
         }
         view_.status({});
         view_.start(0);

@@ -55,8 +55,10 @@ class KeyWalk {
 };
 
 // The breath between two units, in which other workstations take the store: they look for it every two
-// milliseconds.
-inline void letOthersIn() { QThread::msleep(8); }
+// milliseconds. Within an outer unit nobody could come in, and nobody is waited for.
+inline void letOthersIn(const Connection& store) {
+    if (!store.inTransaction()) QThread::msleep(8);
+}
 
 // Runs the step again and again, each time in a unit of its own, until it answers that no work is left.
 template <class Step>
@@ -66,7 +68,7 @@ void inUnits(Connection& store, Step step) {
         Transaction unit(store, Turn::Last);
         more = step(clock);
         unit.commit();
-        if (more) letOthersIn();
+        if (more) letOthersIn(store);
     }
 }
 

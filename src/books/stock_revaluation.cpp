@@ -49,7 +49,7 @@ void Revaluation::read() {
     while (ledger_.readOn(UnitClock())) {
         progress_.setValue(static_cast<qint64>(static_cast<double>(ledger_.lastKey()) /
                                                static_cast<double>(highest) * ledger_.itemCount() / 2));
-        letOthersIn();
+        letOthersIn(store_);
     }
 }
 

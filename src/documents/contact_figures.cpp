@@ -23,3 +23,8 @@ QString contactIdOf(Connection& store, const QString& contactName) {
     return LookupField(store, "ContactID", "tblContactMaster", "ContactName", trim(contactName),
                        LookupMode::PrimaryKey);
 }
+
+QString contactNameOf(Connection& store, const QString& contactId) {
+    return LookupField(store, "ContactID", "tblContactMaster", "ContactName", contactId,
+                       LookupMode::DisplayText);
+}

@@ -15,3 +15,5 @@ ContactFigures contactFigures(Connection& store, ContactBalance balance, const Q
 bool contactExists(Connection& store, const QString& contactName);
 // Empty for an unknown name.
 QString contactIdOf(Connection& store, const QString& contactName);
+// And back; empty for an unknown id.
+QString contactNameOf(Connection& store, const QString& contactId);

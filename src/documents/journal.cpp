@@ -1,6 +1,5 @@
 #include "documents/journal.h"
 
-#include "foundation/comes_later.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "platform/parsing.h"
@@ -201,12 +200,8 @@ void Journal::sortByHeader(int column) {
     searchOrRefresh();
 }
 
-// The entry screen, or null when this version has none.
 ChildScreen* Journal::openEntry(const ScreenArguments& arguments) {
-    ScreenRegistry& screens = ScreenRegistry::instance();
-    if (screens.knows(book_.entryScreen)) return screens.open(book_.entryScreen, arguments);
-    showBox(notInThisVersion(book_.entryScreen));
-    return nullptr;
+    return ScreenRegistry::instance().open(book_.entryScreen, arguments);
 }
 
 void Journal::NewRecord() {

@@ -4,6 +4,7 @@
 #include "books/posting_queue.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
+#include "masters/master_records.h"
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
@@ -16,13 +17,11 @@ QString yearOf(const QDate& day) { return formatDate(day, "yyyy"); }
 
 // Checks
 
-Fault error(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
-
 std::optional<Fault> numberFault(Connection& store, const OrderBook& book, const OrderDocument& document) {
     const QString code = trim(document.code);
     if (code.isEmpty()) return Fault{exclamation("No Code!", book.noCode), "txtCode"};
     if (document.addMode && RecordFound(store, book.master.table, book.master.key, code))
-        return error(book.duplicate, "txtSerialCode");
+        return errorFault(book.duplicate, "txtSerialCode");
     return serialFault(document);
 }
 
@@ -183,8 +182,7 @@ LoadedOrder loadOrder(Connection& store, const OrderBook& book, const QString& k
     loaded.document.addMode = false;
     loaded.document.code = row.trimmed(book.master.key);
     loaded.document.date = formatDate(row.date(book.dateColumn));
-    loaded.document.contactName = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
-                                              contactId, LookupMode::DisplayText);
+    loaded.document.contactName = contactNameOf(store, contactId);
     loaded.document.remarks = row.trimmed("Remarks");
     loaded.contact = contactFigures(store, book.contactBalance, contactId);
     loaded.total = asAmount(row.currency(book.amountColumn));
@@ -217,7 +215,7 @@ std::optional<Fault> checkOrder(Connection& store, const OrderBook& book, const 
     if (trim(document.contactName).isEmpty())
         return Fault{exclamation("No Customer!", "Please Select Customer!"), "cboCustomer"};
     if (auto fault = totalFault(document)) return fault;
-    if (!isDate(document.date)) return error("Invalid Date Value!", "txtRefDate");
+    if (!isDate(document.date)) return errorFault("Invalid Date Value!", "txtRefDate");
     if (!contactExists(store, document.contactName))
         return Fault{exclamation("Does not exist!", book.noSuchContact), "cboCustomer"};
     return std::nullopt;

@@ -2,6 +2,7 @@
 
 #include "books/balances.h"
 #include "foundation/shared_routines.h"
+#include "masters/master_records.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 
@@ -15,8 +16,6 @@ Currency figure(const QString& text) {
     if (const auto value = parseNumber(text)) return *value;
     throw StoreError(StoreError::typeMismatch, "Type mismatch");
 }
-
-Fault error(const QString& text, const QString& focus = {}) { return {exclamation("Error!", text), focus}; }
 
 // The product as a text; empty, and so no number, when it leaves the range.
 QString productText(const QString& price, const QString& quantity) {
@@ -52,8 +51,8 @@ std::optional<Fault> typedFault(const LineEntry& entry) {
         return Fault{information("Enter a Product!", "Please Enter a Product..."), "cboItemCode"};
     if (!isNumeric(entry.order) || !isNumeric(entry.serve) || !isNumeric(entry.total))
         return Fault{exclamation("Error...!", "Invalid Numeric Format!"), {}};
-    if (isZero(entry.cost)) return error("Please Enter Product Price!", "txtCost");
-    if (isZero(entry.order)) return error("Please Enter Your Order Quantity!", "txtOrder");
+    if (isZero(entry.cost)) return errorFault("Please Enter Product Price!", "txtCost");
+    if (isZero(entry.order)) return errorFault("Please Enter Your Order Quantity!", "txtOrder");
     return std::nullopt;
 }
 
@@ -73,7 +72,7 @@ std::optional<Question> priceQuestion(const OrderBook& book, const Recordset& it
 }
 
 Fault purchaseFirst(const QString& focus) {
-    return error(
+    return errorFault(
         "Purchase This Item First! Inventory Balance For This Sales Period is Less Than your Served "
         "Item!",
         focus);
@@ -110,9 +109,9 @@ std::optional<Fault> stockFaultOfValue(Connection& store, const LineOrder& order
     const Currency available = availableStock(store, order, line.itemCode);
     line.tested = available;
     if (available >= value) return std::nullopt;
-    return error("Inventory Balance For This Sales Period is Only " + available.toPlainText() +
-                     " Less Than your Served Item!",
-                 "txtValue");
+    return errorFault("Inventory Balance For This Sales Period is Only " + available.toPlainText() +
+                          " Less Than your Served Item!",
+                      "txtValue");
 }
 
 std::optional<Question> overServedQuestion(const OrderBook& book, const OrderLine& line, Currency value) {
@@ -239,7 +238,7 @@ std::optional<Fault> computeLineTotal(LineEntry& entry) {
 std::optional<Fault> leaveDiscount(LineEntry& entry) {
     const Currency discount = numberOrZero(entry.discount);
     if (discount >= Currency::fromInteger(100))
-        return error("Discount Percentage should not be Equal or Greater than 100%", "txtDiscount");
+        return errorFault("Discount Percentage should not be Equal or Greater than 100%", "txtDiscount");
     entry.discount = asPercent(discount);
     computeNetPrice(entry);
     return std::nullopt;
@@ -257,10 +256,11 @@ LineCheck checkLine(Connection& store, const OrderBook& book, const LineOrder& o
     if (entry.unit.isEmpty()) entry.unit = "-";
     if (auto fault = typedFault(entry)) return {*fault};
     const Recordset item = itemRow(store, entry.itemCode);
-    if (item.eof()) return {error("Item Does Not Exist! Please Create Item in the Database", "cboItemCode")};
+    if (item.eof())
+        return {errorFault("Item Does Not Exist! Please Create Item in the Database", "cboItemCode")};
     if (isEntered(entry.itemCode))
-        return {error(entry.description +
-                      " Had Already Been Entered Below! You May Click on Edit Button to Modify Record!"),
+        return {errorFault(entry.description +
+                           " Had Already Been Entered Below! You May Click on Edit Button to Modify Record!"),
                 true};
     return {againstStore(store, book, order, item, entry, answers)};
 }
@@ -275,7 +275,7 @@ std::optional<Fault> overtakenLine(Connection& store, const LineOrder& order, co
 Outcome changeServed(Connection& store, const OrderBook& book, const LineOrder& order, OrderLine& line,
                      QString& value, const Answers& answers) {
     const auto typed = parseNumber(value);
-    if (!typed) return error("Please Enter Numeric Price Value!", "txtValue");
+    if (!typed) return errorFault("Please Enter Numeric Price Value!", "txtValue");
     value = typed->toPlainText();
     if (book.sells)
         if (auto fault = stockFaultOfValue(store, order, line, *typed)) return *fault;

@@ -1,13 +1,10 @@
 #include "purchases/issued_check.h"
 
 #include "foundation/shared_routines.h"
+#include "masters/master_records.h"
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
-
-namespace {
-Fault error(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
-}  // namespace
 
 CheckLine CheckLine::fromTexts(const QStringList& texts) {
     return {texts.value(Number), texts.value(Date), texts.value(Amount), texts.value(Cross),
@@ -44,13 +41,13 @@ CheckLine lineOf(const CheckEntry& entry) {
 
 Outcome checkIssued(Connection& store, const CheckEntry& entry, const IsUsed& isUsed) {
     const QString number = trim(entry.number);
-    if (number.isEmpty()) return error("Please Enter Check No.!", "txtCheckNo");
+    if (number.isEmpty()) return errorFault("Please Enter Check No.!", "txtCheckNo");
     if (number.toUpper() == "CASH")
-        return error("You Cannot Enter the word 'Cash' as Your Check No.!", "txtCheckNo");
-    if (!isNumeric(entry.amount)) return error("Invalid Check Amount Entered!", "txtCheckAmount");
-    if (!isDate(entry.date)) return error("Invalid Check Date Entered!", "txtDate");
+        return errorFault("You Cannot Enter the word 'Cash' as Your Check No.!", "txtCheckNo");
+    if (!isNumeric(entry.amount)) return errorFault("Invalid Check Amount Entered!", "txtCheckAmount");
+    if (!isDate(entry.date)) return errorFault("Invalid Check Date Entered!", "txtDate");
     if (!RecordFound(store, "tblContactMaster", "ContactName", trim(entry.payee)))
-        return error("Payee Not Found! Please Enter Payee to Contact Master File!", "txtPayee");
-    if (isUsed(number)) return error("Check No. Already Been Used Below!", "txtCheckNo");
+        return errorFault("Payee Not Found! Please Enter Payee to Contact Master File!", "txtPayee");
+    if (isUsed(number)) return errorFault("Check No. Already Been Used Below!", "txtCheckNo");
     return Done{};
 }

@@ -5,6 +5,7 @@
 #include "books/record_lock.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
+#include "masters/master_records.h"
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
@@ -15,19 +16,13 @@ constexpr const char* cashWord = "Cash";
 
 QString asAmount(Currency value) { return formatNumber(value, mask::amount); }
 
-Fault error(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
-
-QString contactNameOf(Connection& store, const QString& id) {
-    return LookupField(store, "ContactID", "tblContactMaster", "ContactName", id, LookupMode::DisplayText);
-}
-
 // Checks
 
 std::optional<Fault> numberFault(Connection& store, const VoucherDocument& voucher) {
     const QString code = trim(voucher.code);
     if (code.isEmpty()) return Fault{exclamation("No Code!", "Please enter Voucher No.!"), "txtCode"};
     if (voucher.addMode && RecordFound(store, disbursementBook.table, disbursementBook.key, code))
-        return error("Duplicate Voucher No., Please Assign Another!", "txtSerialCode");
+        return errorFault("Duplicate Voucher No., Please Assign Another!", "txtSerialCode");
     return serialFault(voucher);
 }
 
@@ -39,7 +34,7 @@ std::optional<Fault> totalFault(const VoucherDocument& voucher) {
 
 std::optional<Fault> tallyFault(const VoucherDocument& voucher) {
     if (voucher.cash || CheckTotal(voucher.checks) == paymentTotal(voucher.payments)) return std::nullopt;
-    return error(
+    return errorFault(
         "You Have Indicated this as Check Disbursement. Payment Details Total Does Not Tally with Checks "
         "Amount Issued!",
         "lvwCheck");
@@ -239,14 +234,14 @@ std::optional<Fault> checkVoucher(Connection& store, const VoucherDocument& vouc
     if (trim(voucher.contactName).isEmpty())
         return Fault{exclamation("No Payee Name!", "Please Select Payee Name!"), "cboCustomer"};
     if (auto fault = totalFault(voucher)) return fault;
-    if (!isDate(voucher.date)) return error("Invalid Date Value!", "txtRefDate");
+    if (!isDate(voucher.date)) return errorFault("Invalid Date Value!", "txtRefDate");
     if (!contactExists(store, voucher.contactName))
         return Fault{exclamation("Does not exist!",
                                  "Payee does not exist, please add this to Contact Master File First..."),
                      "cboCustomer"};
     if (!PaymentsAreOfOneKind(voucher.payments))
-        return error("You Cannot Combine Direct Payment and Accounts Payable in One Payment Voucher!",
-                     "lvwItems");
+        return errorFault("You Cannot Combine Direct Payment and Accounts Payable in One Payment Voucher!",
+                          "lvwItems");
     return tallyFault(voucher);
 }
 

@@ -1,6 +1,7 @@
 #include "purchases/voucher_payment.h"
 
 #include "foundation/shared_routines.h"
+#include "masters/master_records.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 
@@ -9,30 +10,29 @@
 namespace {
 QString asAmount(Currency value) { return formatNumber(value, mask::amount); }
 
-Fault error(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
-
 Recordset orderRow(Connection& store, const QString& code) {
     return store.execute({"SELECT * FROM tblPurchaseMaster WHERE PurchaseNo = ?", {trim(code)}});
 }
 
 std::optional<Fault> typedFault(const PaymentEntry& entry) {
-    if (trim(entry.code).isEmpty()) return error("Please Enter Reference for This Payment!", "cboCode");
-    if (!isNumeric(entry.amount)) return error("Invalid Amount Entered!", "txtAmount");
-    if (!isDate(entry.date)) return error("Invalid Date Entered!", "txtDate");
+    if (trim(entry.code).isEmpty()) return errorFault("Please Enter Reference for This Payment!", "cboCode");
+    if (!isNumeric(entry.amount)) return errorFault("Invalid Amount Entered!", "txtAmount");
+    if (!isDate(entry.date)) return errorFault("Invalid Date Entered!", "txtDate");
     return std::nullopt;
 }
 
 std::optional<Fault> payableFault(const Recordset& order, const Payee& payee, const PaymentEntry& entry) {
     if (order.eof())
-        return error("This Purchase Order No. Does Not Exist! Please Select Proper P.O. to Post!", "cboCode");
+        return errorFault("This Purchase Order No. Does Not Exist! Please Select Proper P.O. to Post!",
+                          "cboCode");
     if (order.trimmed("ContactNo").compare(trim(payee.id), Qt::CaseInsensitive) != 0)
-        return error(trim(entry.code) + " does not belong to " + trim(payee.name) + "!", "cboCode");
+        return errorFault(trim(entry.code) + " does not belong to " + trim(payee.name) + "!", "cboCode");
     return std::nullopt;
 }
 
 std::optional<Fault> directFault(const Recordset& order) {
     if (order.eof()) return std::nullopt;
-    return error(
+    return errorFault(
         "You cannot use this Reference No. for your Direct Expense, it is being used by Accounts Payable "
         "Module! Please Assign Another!",
         "cboCode");
@@ -96,6 +96,7 @@ Outcome checkPayment(Connection& store, const Payee& payee, const PaymentEntry& 
     const Recordset order = orderRow(store, entry.code);
     const bool isDirect = entry.kind == PaymentKind::Direct;
     if (auto fault = isDirect ? directFault(order) : payableFault(order, payee, entry)) return *fault;
-    if (isEntered(trim(entry.code))) return error("Reference Had Already Been Entered Below!", "cboCode");
+    if (isEntered(trim(entry.code)))
+        return errorFault("Reference Had Already Been Entered Below!", "cboCode");
     return Done{};
 }

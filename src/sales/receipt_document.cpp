@@ -165,8 +165,7 @@ LoadedReceipt loadReceipt(Connection& store, const QString& code) {
     loaded.document.addMode = false;
     loaded.document.code = QString::number(row.integer("PayNo"));
     loaded.document.date = formatDate(row.date("PaymentDate"));
-    loaded.document.contactName = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
-                                              contactId, LookupMode::DisplayText);
+    loaded.document.contactName = contactNameOf(store, contactId);
     loaded.document.remarks = row.trimmed("PayRemarks");
     loaded.document.lines = storedLines(store, number);
     loaded.contact = contactFigures(store, CustomerBalance, contactId);

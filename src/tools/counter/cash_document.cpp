@@ -2,6 +2,7 @@
 
 #include "books/numbering.h"
 #include "foundation/shared_routines.h"
+#include "masters/master_records.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
@@ -12,20 +13,18 @@ using Check = std::optional<Fault>;
 // The next key is the highest plus 1; no counter keeps it.
 constexpr numbering::RowKey cashKey{"", "tblPOS", "ZevRef", 1001};
 
-Fault error(const QString& text, const char* focus) { return {exclamation("Error!", text), focus}; }
-
 QString userOf(Connection& store, const QString& fullName) {
     return LookupField(store, "UserCode", "tblUserMaster", "FullName", fullName, LookupMode::PrimaryKey);
 }
 
 Check entryFault(Connection& store, const CashEntry& entry) {
-    if (trim(entry.cashier).isEmpty()) return error("Please Select a Cashier!", "txtCashier");
+    if (trim(entry.cashier).isEmpty()) return errorFault("Please Select a Cashier!", "txtCashier");
     if (!RecordFound(store, "tblUserMaster", "FullName", trim(entry.cashier)))
-        return error("Cashier Does Not Exist! Please Add this to System User Profile!", "txtCashier");
-    if (!isDate(entry.saleDate)) return error("Invalid Sale Date Format!", "txtSaleDate");
+        return errorFault("Cashier Does Not Exist! Please Add this to System User Profile!", "txtCashier");
+    if (!isDate(entry.saleDate)) return errorFault("Invalid Sale Date Format!", "txtSaleDate");
     const auto cash = parseNumber(entry.cash);
-    if (!cash) return error("Invalid Beginning Cash Format!", "txtCash");
-    if (*cash <= Currency()) return error("Cash must not be less than or Equal to Zero!", "txtCash");
+    if (!cash) return errorFault("Invalid Beginning Cash Format!", "txtCash");
+    if (*cash <= Currency()) return errorFault("Cash must not be less than or Equal to Zero!", "txtCash");
     return {};
 }
 
@@ -91,8 +90,8 @@ Outcome saveCash(Connection& store, const CashEntry& entry, std::optional<qint64
 void deleteCash(Connection& store, qint64 key) { store.run({"DELETE FROM tblPOS WHERE ZevRef = ?", {key}}); }
 
 std::optional<Fault> auditFault(const CashAuditRequest& request) {
-    if (trim(request.cashier).isEmpty()) return error("Please Select Cashier to Audit!", "cboCashier");
-    if (!isDate(request.date)) return error("Invalid Transaction Date Value!", "txtDate");
+    if (trim(request.cashier).isEmpty()) return errorFault("Please Select Cashier to Audit!", "cboCashier");
+    if (!isDate(request.date)) return errorFault("Invalid Transaction Date Value!", "txtDate");
     return {};
 }
 
@@ -102,7 +101,7 @@ std::variant<CashAudit, Fault> auditCash(Connection& store, const CashAuditReque
     QString user;
     if (trim(request.cashier).compare(wholeDay, Qt::CaseInsensitive) != 0) {
         user = userOf(store, trim(request.cashier));
-        if (user.isEmpty()) return error("Please Select Cashier to Audit!", "cboCashier");
+        if (user.isEmpty()) return errorFault("Please Select Cashier to Audit!", "cboCashier");
     }
     CashAudit audit;
     audit.cashSales = sumOf(

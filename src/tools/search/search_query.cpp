@@ -2,6 +2,7 @@
 
 #include "books/balance_figures.h"
 #include "books/balances.h"
+#include "masters/master_records.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/store/bulk.h"
@@ -54,10 +55,8 @@ Search transactionSearch(const SearchKind& kind, const SearchJournal& journal) {
             {}};
 }
 
-Fault error(const char* text, const char* focus) { return {exclamation("Error!", text), focus}; }
-
 // The focus stays where the person has gone: another kind of search would be out of reach.
-Fault invalidDate() { return error("Invalid Date Value!", ""); }
+Fault invalidDate() { return errorFault("Invalid Date Value!", ""); }
 
 QString columnOf(const SearchFilter& filter, const SearchJournal* journal) {
     if (*filter.column || !journal) return filter.column;
@@ -267,9 +266,10 @@ Sql Search::statement() const { return Sql(QString("SELECT %1 FROM %2").arg(prin
 
 SearchAnswer prepareSearch(const SearchRequest& request) {
     const SearchKind* kind = findSearchKind(request.kind);
-    if (!kind) return error("Please Select Proper Search Type!", "cboType");
+    if (!kind) return errorFault("Please Select Proper Search Type!", "cboType");
     const SearchJournal* journal = kind->hasJournals ? findSearchJournal(request.journal) : nullptr;
-    if (kind->hasJournals && !journal) return error("Please Select Transaction Journal First!", "cboJournal");
+    if (kind->hasJournals && !journal)
+        return errorFault("Please Select Transaction Journal First!", "cboJournal");
     const bool isItems = !kind->hasJournals && !kind->followsKeys;
     if (isItems && !request.all && !trim(request.itemDate).isEmpty() && !isDate(request.itemDate))
         return invalidDate();
