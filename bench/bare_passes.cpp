@@ -224,16 +224,16 @@ void bareBalances(sqlite3* engine) {
     Sums stock;
     addUp(engine, "SELECT ItemID, Delivered FROM tblPurchaseDetails", -1, stock);
     addUp(engine, "SELECT ItemID, Served FROM tblSalesDetails", 1, stock);
-    storeBalances(engine, "SELECT ItemCode, Balance, 0, rowid FROM tblItemMaster",
-                  "UPDATE tblItemMaster SET Balance = ? WHERE rowid = ?", stock, false);
+    storeBalances(engine, "SELECT ItemCode, Balance, 0, RowNo FROM tblItemMaster",
+                  "UPDATE tblItemMaster SET Balance = ? WHERE RowNo = ?", stock, false);
     Sums paid;
     addUp(engine, "SELECT PuchaseID, PayAmount FROM tblDisbursementDetails WHERE DirectPayment = 0", 1, paid);
-    storeBalances(engine, "SELECT PurchaseNo, Balance, PurchaseAmount, rowid FROM tblPurchaseMaster",
-                  "UPDATE tblPurchaseMaster SET Balance = ? WHERE rowid = ?", paid, false);
+    storeBalances(engine, "SELECT PurchaseNo, Balance, PurchaseAmount, RowNo FROM tblPurchaseMaster",
+                  "UPDATE tblPurchaseMaster SET Balance = ? WHERE RowNo = ?", paid, false);
     Sums received;
     addUp(engine, "SELECT Reference, Amount + DiscountAmount FROM tblReceiptDetails", 1, received);
-    storeBalances(engine, "SELECT RefNo, Balance, TotalAmount, rowid FROM tblSalesMaster",
-                  "UPDATE tblSalesMaster SET Balance = ? WHERE rowid = ?", received, true);
+    storeBalances(engine, "SELECT RefNo, Balance, TotalAmount, RowNo FROM tblSalesMaster",
+                  "UPDATE tblSalesMaster SET Balance = ? WHERE RowNo = ?", received, true);
     run(engine, "COMMIT");
 }
 

@@ -186,12 +186,12 @@ void generateBooks(Connection& store, qint64 salesDocuments) { Generator(store, 
 void queueOnePercent(Connection& store) {
     Transaction unit(store);
     for (auto sale =
-             store.execute("SELECT RefNo, RefDate, ContactNo FROM tblSalesMaster WHERE rowid % 100 = 7");
+             store.execute("SELECT RefNo, RefDate, ContactNo FROM tblSalesMaster WHERE RowNo % 100 = 7");
          !sale.eof(); sale.moveNext())
         queueDocument(store, "S", sale.text("RefNo"), sale.text("ContactNo"), sale.date("RefDate"),
                       "tblSalesDetails");
     for (auto purchase = store.execute(
-             "SELECT PurchaseNo, PurchaseDate, ContactNo FROM tblPurchaseMaster WHERE rowid % 100 = 7");
+             "SELECT PurchaseNo, PurchaseDate, ContactNo FROM tblPurchaseMaster WHERE RowNo % 100 = 7");
          !purchase.eof(); purchase.moveNext())
         queueDocument(store, "P", purchase.text("PurchaseNo"), purchase.text("ContactNo"),
                       purchase.date("PurchaseDate"), "tblPurchaseDetails");

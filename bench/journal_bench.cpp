@@ -1,17 +1,22 @@
 // The first screenful of a journal and of the pickers, against the bare query with a limit of 100 on the
-// driver's handle.
+// driver's handle; and the pending checks of both sides, against their bare query and the filling of a bare
+// list.
 //
-//     journal_bench [documents = 1000] [rows of a picker = 50000]
+//     journal_bench [documents = 1000] [rows of a picker = 50000] [pending checks = 10000]
 #include "bench/bare.h"
 #include "foundation/schema.h"
 #include "foundation/session.h"
 #include "masters/frmContactFound.h"
 #include "masters/frmFound.h"
+#include "masters/order_pickers.h"
 #include "platform/store/transaction.h"
 #include "purchases/frmPurchaseGrid.h"
+#include "purchases/issued_checks.h"
 #include "sales/frmSalesGrid.h"
+#include "sales/received_checks.h"
 
 #include <QApplication>
+#include <QStandardItemModel>
 #include <QTemporaryDir>
 
 namespace {
@@ -46,7 +51,28 @@ void fillMasters(qint64 rows) {
         rows);
 }
 
-void makeStore(const QString& path, qint64 documents, qint64 masters) {
+void fillChecks(qint64 rows) {
+    fill(
+        "INSERT INTO tblReceiptMaster (PayNo, CustomerNo, PaymentDate) SELECT i, 1000000001 + i % 900,"
+        " date('2026-01-01', (i % 300) || ' days') FROM n",
+        rows);
+    fill(
+        "INSERT INTO tblReceiptDetails (ZevRef, PayCode, Reference, Amount, CheckNo, CheckDate, CheckStatus,"
+        " Negotiated) SELECT i, i, '01-' || i || '-2026', i * 7777, 'BPI ' || i,"
+        " date('2026-01-01', (i % 300) || ' days'), 'Pending', 0 FROM n",
+        rows);
+    fill(
+        "INSERT INTO tblDisbursementMaster (VoucherNo, VoucherDate, ContactNo) SELECT '01-' || i || '-2026',"
+        " date('2026-01-01', (i % 300) || ' days'), 1000000001 + i % 900 FROM n",
+        rows);
+    fill(
+        "INSERT INTO tblChecks (ZevRef, VoucherID, CheckNo, CheckDate, CheckAmount, ContactNo, CheckStatus,"
+        " Negotiated) SELECT i, '01-' || i || '-2026', '88' || i, date('2026-01-01', (i % 300) || ' days'),"
+        " i * 7777, 1000000001 + i % 900, 'Pending', 0 FROM n",
+        rows);
+}
+
+void makeStore(const QString& path, qint64 documents, qint64 masters, qint64 checks) {
     registerSchema();
     makeDeliveredStore(path);
     StoreConnection().open(path, storePassword);
@@ -54,6 +80,7 @@ void makeStore(const QString& path, qint64 documents, qint64 masters) {
     fillMasters(masters);
     fillDocuments("tblSalesMaster", "RefNo", "RefDate", "TotalAmount", documents);
     fillDocuments("tblPurchaseMaster", "PurchaseNo", "PurchaseDate", "PurchaseAmount", documents);
+    fillChecks(checks);
     unit.commit();
 }
 
@@ -110,12 +137,19 @@ QList<View> searchedViews(const JournalBook& book) {
 }
 
 QList<View> pickerViews() {
+    const QString trader = "1000000001";
     QList<View> views;
     for (const char* text : {"", "7"}) {
         views += {QString("frmFound description \"%1\"").arg(text), itemFoundSource(text, "D")};
         views += {QString("frmFound code \"%1\"").arg(text), itemFoundSource(text, "P")};
         views += {QString("frmContactFound all \"%1\"").arg(text), contactFoundSource(text, "")};
         views += {QString("frmContactFound customers \"%1\"").arg(text), contactFoundSource(text, "C")};
+        views += {QString("frmSalesFound \"%1\"").arg(text), salesFoundSource(text, trader, "")};
+        views += {QString("frmSalesFound owed \"%1\"").arg(text), salesFoundSource(text, trader, "R")};
+        views +=
+            {QString("frmDisbursementFound \"%1\"").arg(text), disbursementFoundSource(text, trader, "")};
+        views += {QString("frmDisbursementFound owed \"%1\"").arg(text),
+                  disbursementFoundSource(text, trader, "A")};
     }
     return views;
 }
@@ -136,6 +170,29 @@ void measure(const QList<View>& views) {
         bare::report(view.name, gridTime, bareTime);
     }
 }
+// The texts of the rows, in a list model that knows nothing but them.
+void fillBareList(const QList<CheckRow>& rows, int columns) {
+    QStandardItemModel model(static_cast<int>(rows.size()), columns);
+    for (int row = 0; row < model.rowCount(); ++row)
+        for (int column = 0; column < columns; ++column)
+            model.setItem(row, column, new QStandardItem(rows[row].texts[column]));
+}
+
+void measureChecks(const CheckScreen& screen) {
+    const CheckBook& book = *screen.book;
+    Connection& store = StoreConnection();
+    const CheckView& pending = book.views.first();
+    const auto rows = std::get<QList<CheckRow>>(loadChecks(store, book, pending.name, {}));
+    Sql query = checksOf(book, pending, {});
+    query.text.replace("= True", "= -1").replace("= False", "= 0");
+    const double bareTime = bare::median([&] {
+        bare::readAll(store.handle(), query);
+        fillBareList(rows, static_cast<int>(book.columns.size()));
+    });
+    CheckList list(screen);
+    const double listTime = bare::median([&] { list.LoadGrid({}); });
+    bare::report(QString("%1, %2 pending").arg(screen.name).arg(rows.size()), listTime, bareTime);
+}
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -143,11 +200,12 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     const QTemporaryDir folder;
     makeStore(folder.filePath(storeFileName), argc > 1 ? atoll(argv[1]) : 1000,
-              argc > 2 ? atoll(argv[2]) : 50000);
+              argc > 2 ? atoll(argv[2]) : 50000, argc > 3 ? atoll(argv[3]) : 10000);
     for (const JournalBook* book : {&salesJournal(), &purchaseJournal()}) {
         measure(filteredViews(*book));
         measure(sortedViews(*book));
         measure(searchedViews(*book));
     }
     measure(pickerViews());
+    for (const CheckScreen* screen : {&receivedCheckScreens, &issuedCheckScreens}) measureChecks(*screen);
 }

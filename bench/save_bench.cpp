@@ -1,11 +1,13 @@
-// Saving five-line sales, against the same statements run bare on the driver's handle, on a copy of the
-// store.
+// Saving sales, receipts and vouchers of five lines, against the same statements run bare on the driver's
+// handle, on a copy of the store.
 //
-//     save_bench [documents in the store = 1000] [sales to save = 100]
+//     save_bench [documents in the store = 1000] [of each kind to save = 100]
 #include "bench/bare.h"
 #include "foundation/schema.h"
 #include "foundation/session.h"
 #include "platform/store/transaction.h"
+#include "purchases/voucher_document.h"
+#include "sales/receipt_document.h"
 #include "sales/sales_document.h"
 
 #include <QCoreApplication>
@@ -13,7 +15,8 @@
 #include <QTemporaryDir>
 
 namespace {
-constexpr int linesOfSale = 5;
+constexpr int linesOfDocument = 5;
+constexpr int traders = 100;  // each has a hundredth of the documents
 
 QString itemCode(qint64 i) { return QString::number(1000000001 + i); }
 
@@ -24,60 +27,98 @@ void fillStore(Connection& store, qint64 documents) {
     fill(
         "INSERT INTO tblContactMaster (ContactID, ContactName, Terms) SELECT 1000000001 + i,"
         " 'Trader ' || i, 300000 FROM n",
-        1000);
+        traders);
     fill(
         "INSERT INTO tblItemMaster (ItemCode, Description, Unit, CostPrice, SellingPrice) SELECT"
         " 1000000001 + i, 'Goods ' || i, 'PC', 100000, 120000 FROM n",
-        std::max<qint64>(documents, linesOfSale));
+        std::max<qint64>(documents, linesOfDocument));
     fill(
-        "INSERT INTO tblSalesMaster (RefNo, RefDate, ContactNo, TotalAmount) SELECT 'OLD-' || i,"
-        " date('2025-01-01', (i % 300) || ' days'), 1000000001 + i % 1000, 600000 FROM n",
+        "INSERT INTO tblSalesMaster (RefNo, RefDate, ContactNo, TotalAmount, Balance) SELECT 'OLD-' || i,"
+        " date('2025-01-01', (i % 300) || ' days'), 1000000001 + i % 100, 6000000, 6000000 FROM n",
+        documents);
+    fill(
+        "INSERT INTO tblPurchaseMaster (PurchaseNo, PurchaseDate, ContactNo, PurchaseAmount, Balance) SELECT"
+        " 'OLD-' || i, date('2025-01-01', (i % 300) || ' days'), 1000000001 + i % 100, 6000000, 6000000 FROM "
+        "n",
         documents);
     fill(
         "INSERT INTO tblSalesDetails (Reference, ItemID, Served) SELECT 'OLD-' || (i / 5),"
         " 1000000001 + (i * 7919) % " +
-            QString::number(std::max<qint64>(documents, linesOfSale)) + ", 10000 FROM n",
-        documents * linesOfSale);
+            QString::number(std::max<qint64>(documents, linesOfDocument)) + ", 10000 FROM n",
+        documents * linesOfDocument);
     unit.commit();
 }
 
-OrderDocument sale(Connection& store, qint64 number, qint64 items) {
+QString trader(qint64 number) { return QString("Trader %1").arg(number % traders); }
+QString oldOrder(qint64 number, int line) { return QString("OLD-%1").arg(number % traders + line * traders); }
+constexpr Currency one = Currency::fromTenThousandths(10000);
+
+// What a save does, once its document stands.
+using Save = std::function<Outcome()>;
+
+Save sale(Connection& store, qint64 number, qint64 items) {
     OrderDocument document = newOrder(store, salesOrders);
-    document.contactName = QString("Trader %1").arg(number % 1000);
-    const Currency one = Currency::fromInteger(1);
-    for (int i = 0; i < linesOfSale; ++i)
-        document.lines += makeOrderLine(itemCode((number * linesOfSale + i) % items), "Goods", "PC", one, one,
-                                        Currency::fromInteger(12 + number % 2), Currency());
-    return document;
+    document.contactName = trader(number);
+    for (int i = 0; i < linesOfDocument; ++i)
+        document.lines += makeOrderLine(itemCode((number * linesOfDocument + i) % items), "Goods", "PC", one,
+                                        one, Currency::fromInteger(12 + number % 2), Currency());
+    return [&store, document] { return saveOrder(store, salesOrders, document); };
+}
+
+Save receipt(Connection& store, qint64 number, qint64) {
+    ReceiptDocument document = newReceipt(store);
+    document.contactName = trader(number);
+    for (int i = 0; i < linesOfDocument; ++i)
+        document.lines += lineOf(store, {.orderNo = oldOrder(number, i), .payment = "1.00", .cash = true});
+    return [&store, document] { return saveReceipt(store, document); };
+}
+
+Save voucher(Connection& store, qint64 number, qint64) {
+    VoucherDocument document = newVoucher(store);
+    document.contactName = trader(number);
+    const QDate today = QDate::currentDate();
+    for (int i = 0; i < linesOfDocument; ++i)
+        document.payments += makePayment(PaymentKind::Payable, oldOrder(number, i), today, one, "");
+    const Currency all = Currency::fromInteger(linesOfDocument);
+    document.checks += makeCheck(QString::number(100000 + number), today, all, document.contactName);
+    return [&store, document] { return saveVoucher(store, document); };
+}
+
+struct Kind {
+    const char* name;
+    Save (*make)(Connection& store, qint64 number, qint64 items);
+};
+constexpr Kind kinds[] = {{"sale", sale}, {"receipt", receipt}, {"voucher", voucher}};
+
+void saveOrFail(const Kind& kind, const Save& save) {
+    if (!isDone(save())) qFatal("a %s was refused", kind.name);
 }
 
 // Saves them one by one; the milliseconds spent in saving.
-double saveAll(Connection& store, qint64 sales, qint64 items) {
+double saveAll(Connection& store, const Kind& kind, qint64 documents, qint64 items) {
     double spent = 0;
-    for (qint64 number = 0; number < sales; ++number) {
-        const OrderDocument document = sale(store, number, items);
-        spent += bare::milliseconds([&] {
-            if (!isDone(saveOrder(store, salesOrders, document))) qFatal("a sale was refused");
-        });
+    for (qint64 number = 0; number < documents; ++number) {
+        const Save save = kind.make(store, number, items);
+        spent += bare::milliseconds([&] { saveOrFail(kind, save); });
     }
     return spent;
 }
 
-// What the saves ask of the engine, one list for each sale.
-QList<QByteArrayList> statementsOf(Connection& store, qint64 sales, qint64 items) {
+// What the saves ask of the engine, one list for each document.
+QList<QByteArrayList> statementsOf(Connection& store, const Kind& kind, qint64 documents, qint64 items) {
     QList<QByteArrayList> all;
-    for (qint64 number = 0; number < sales; ++number) {
-        const OrderDocument document = sale(store, number, items);
+    for (qint64 number = 0; number < documents; ++number) {
+        const Save save = kind.make(store, number, items);
         const bare::Recorder recorder(store.handle());
-        if (!isDone(saveOrder(store, salesOrders, document))) qFatal("a sale was refused");
+        saveOrFail(kind, save);
         all += recorder.statements();
     }
     return all;
 }
 
-double replayAll(Connection& store, const QList<QByteArrayList>& sales) {
+double replayAll(Connection& store, const QList<QByteArrayList>& documents) {
     double spent = 0;
-    for (const QByteArrayList& statements : sales) spent += bare::replay(store.handle(), statements);
+    for (const QByteArrayList& statements : documents) spent += bare::replay(store.handle(), statements);
     return spent;
 }
 
@@ -85,6 +126,8 @@ qint64 totalOf(Connection& store) {
     return store
         .execute(
             "SELECT (SELECT SUM(TotalAmount + Balance) FROM tblSalesMaster) +"
+            " (SELECT SUM(Balance) FROM tblPurchaseMaster) + (SELECT COUNT(*) FROM tblReceiptDetails) +"
+            " (SELECT COUNT(*) FROM tblDisbursementDetails) + (SELECT COUNT(*) FROM tblChecks) +"
             " (SELECT SUM(Balance + SellingPrice) FROM tblItemMaster) AS Total")
         .integer("Total");
 }
@@ -92,9 +135,10 @@ qint64 totalOf(Connection& store) {
 
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
-    const qint64 documents = argc > 1 ? atoll(argv[1]) : 1000;
-    const qint64 sales = argc > 2 ? atoll(argv[2]) : 100;
-    const qint64 items = std::max<qint64>(documents, linesOfSale);
+    // Each trader has an order for each line.
+    const qint64 documents = std::max<qint64>(argc > 1 ? atoll(argv[1]) : 1000, traders * linesOfDocument);
+    const qint64 saves = argc > 2 ? atoll(argv[2]) : 100;
+    const qint64 items = std::max<qint64>(documents, linesOfDocument);
     const QTemporaryDir folder;
     registerSchema();
     makeDeliveredStore(folder.filePath("seed"));
@@ -107,10 +151,13 @@ int main(int argc, char** argv) {
         QFile::copy(folder.filePath("seed"), path);
         stores[i].open(path, storePassword);
     }
-    const auto statements = statementsOf(stores[0], sales, items);
-    const double measured = saveAll(stores[1], sales, items);
-    const double bareTime = replayAll(stores[2], statements);
-    if (totalOf(stores[1]) != totalOf(stores[2])) qFatal("the sums differ");
-    bare::report(QString("saving a five-line sale, %1 statements").arg(statements.last().size()),
-                 measured / static_cast<double>(sales), bareTime / static_cast<double>(sales));
+    for (const Kind& kind : kinds) {
+        const auto statements = statementsOf(stores[0], kind, saves, items);
+        const double measured = saveAll(stores[1], kind, saves, items);
+        const double bareTime = replayAll(stores[2], statements);
+        if (totalOf(stores[1]) != totalOf(stores[2])) qFatal("the sums differ");
+        bare::report(
+            QString("saving a five-line %1, %2 statements").arg(kind.name).arg(statements.last().size()),
+            measured / static_cast<double>(saves), bareTime / static_cast<double>(saves));
+    }
 }

@@ -24,11 +24,18 @@ add_library(zevrin_options INTERFACE)
 target_compile_options(zevrin_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wold-style-cast -Wnon-virtual-dtor -Werror -fpch-preprocess)
 target_compile_definitions(zevrin_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY)
-target_include_directories(zevrin_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(ZEVRIN_SANITIZE)
     target_compile_options(zevrin_options INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
     target_link_options(zevrin_options INTERFACE -fsanitize=address,undefined)
 endif()
+
+# A folder of src/ as an include root of its own: who does not link its library cannot include from it.
+function(zevrin_root target name)
+    set(root ${CMAKE_BINARY_DIR}/roots/${name})
+    file(MAKE_DIRECTORY ${root})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${name} ${root}/${name} SYMBOLIC)
+    target_include_directories(${target} PUBLIC ${root})
+endfunction()
 
 # One floor of the house: every source below this folder, and the floors it stands on.
 # The sources are globbed: a file in a floor's folder belongs to the floor, there is nothing to list.
@@ -37,6 +44,7 @@ function(zevrin_floor name)
     file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp
          ${CMAKE_CURRENT_SOURCE_DIR}/*.h ${CMAKE_CURRENT_SOURCE_DIR}/*.qrc)
     add_library(${name} STATIC ${sources})
+    zevrin_root(${name} ${name})
     target_link_libraries(${name} PUBLIC zevrin_options ${FLOOR_LINKS})
     target_precompile_headers(${name} REUSE_FROM zevrin_pch)
     target_link_libraries(${name} PUBLIC zevrin_pch)

@@ -1,22 +1,16 @@
 #pragma once
-#include "demo/day_boxes.h"
+#include "demo/day_hand.h"
 #include "demo/day_script.h"
 
 #include <QStringList>
-#include <functional>
 
 class QWidget;
-
-// What a script tells did not happen, or something happened that it does not tell.
-struct DayFault : std::runtime_error {
-    explicit DayFault(const QString& text) : std::runtime_error(text.toStdString()) {}
-};
 
 // Plays a trading day on the real screens with keys and menu items, as a person would, from the login on.
 // The program has to be started (Main) over the firm's folder before.
 class DayPlayer {
   public:
-    using Say = std::function<void(const QString& line)>;
+    using Say = DayHand::Say;
     // Pictures of the screens it passes and the printed papers go into the folder; empty: they are not kept.
     DayPlayer(const QString& folder, Say say);
 
@@ -31,29 +25,16 @@ class DayPlayer {
     void playStep(const DayStep& step);
     void logIn(const DayStep& step);
     void document(const DayStep& step);
-    QWidget* openEntry(const DayStep& step);
-    void chooseContact(QWidget* entry, const DayStep& step);
+    void chooseWholesale(QWidget* entry);
     void addLines(QWidget* entry, const DayStep& step);
     QWidget* openLineDialog(QWidget* entry);
     void typeLine(QWidget* dialog, const DayLine& line);
     void addLine(QWidget* entry, QWidget* dialog, const DayLine& line);
     void refuseLine(QWidget* entry, QWidget* dialog, const DayLine& line);
-    void closeLineDialog();
-    void save(QWidget* entry, const DayStep& step);
-    void savePaper(const DayStep& step, const QString& number);
     void endOfDay();
     void logOff();
 
-    void act(const QList<DayBoxes::Expected>& boxes, const std::function<void()>& action);
-    static void require(bool happened, const QString& fault);
-    void pick(QWidget* picker, const QString& column, const QString& value);
-    void closeScreens();
-    void picture(const QString& name);
-
-    QString folder_;
-    Say say_;
-    DayBoxes boxes_;
+    DayHand hand_;
     int line_ = 0;  // of the script
-    int pictureNumber_ = 0;
     QStringList saved_;
 };

@@ -43,6 +43,14 @@ class Reader {
             readDocument(step, DayStep::Purchase, words.mid(14));
         else if (words.startsWith("sale to "))
             readDocument(step, DayStep::Sale, words.mid(8));
+        else if (words.startsWith("payment from "))
+            readDocument(step, DayStep::Receipt, words.mid(13));
+        else if (words.startsWith("voucher to "))
+            readDocument(step, DayStep::Voucher, words.mid(11));
+        else if (words == "checks received")
+            step.kind = DayStep::ChecksReceived;
+        else if (words == "checks issued")
+            step.kind = DayStep::ChecksIssued;
         else
             fail(QString("no step begins like this: \"%1\"").arg(words));
         steps_ += step;
@@ -62,19 +70,56 @@ class Reader {
         if (step.wholesale) step.contact = step.contact.chopped(10).trimmed();
     }
 
-    bool inDocument() const {
-        return !steps_.isEmpty() &&
-               (steps_.last().kind == DayStep::Purchase || steps_.last().kind == DayStep::Sale);
+    bool in(const QList<DayStep::Kind>& kinds) const {
+        return !steps_.isEmpty() && kinds.contains(steps_.last().kind);
     }
+    bool inOrder() const { return in({DayStep::Purchase, DayStep::Sale}); }
+    bool inPayment() const { return in({DayStep::Receipt, DayStep::Voucher}); }
+    bool inChecks() const { return in({DayStep::ChecksReceived, DayStep::ChecksIssued}); }
 
     void readPart(const QString& words) {
-        if (!inDocument()) fail("an indented line belongs to a purchase or a sale");
-        if (words.startsWith("remarks "))
-            steps_.last().remarks = words.mid(8).trimmed();
-        else if (words == "printed")
+        if (inChecks()) return readFate(words);
+        if (!inOrder() && !inPayment()) fail("an indented line belongs to a document, or to checks");
+        if (words == "printed")
             steps_.last().isPrinted = true;
+        else if (inPayment())
+            readPayment(words);
+        else if (words.startsWith("remarks "))
+            steps_.last().remarks = words.mid(8).trimmed();
         else
             steps_.last().lines += readLine(words);
+    }
+
+    void readFate(const QString& words) {
+        if (words.startsWith("bounced "))
+            steps_.last().bounced = words.mid(8);
+        else if (words.startsWith("cleared "))
+            steps_.last().cleared = words.mid(8).toInt();
+        else
+            fail(QString("nothing becomes of checks like this: \"%1\"").arg(words));
+    }
+
+    void readPayment(const QString& words) {
+        static const QRegularExpression order("^order (\\d+)(?: less ([\\d.]+))?(?: with ([\\d,.]+))?$");
+        static const QRegularExpression expense("^expense (\\S+) of ([\\d,.]+) for (.+)$");
+        static const QRegularExpression check("^check (\\S+) of ([\\d,.]+|half|rest)(?: in (\\d+) days)?$");
+        DayStep& step = steps_.last();
+        if (const auto match = order.match(words); match.hasMatch())
+            step.payments += {match.captured(1).toInt(),
+                              {},
+                              match.hasCaptured(2) ? match.captured(2) : "0",
+                              match.captured(3),
+                              {}};
+        else if (const auto spent = expense.match(words); spent.hasMatch())
+            step.payments += {0, spent.captured(1), {}, spent.captured(2), spent.captured(3)};
+        else if (const auto issued = check.match(words); issued.hasMatch())
+            step.checks += {issued.captured(1), issued.captured(2), issued.captured(3).toInt()};
+        else if (words.startsWith("by check "))
+            step.checkNo = words.mid(9);
+        else if (words == "in cash")
+            step.inCash = true;
+        else
+            fail(QString("no part of a payment: \"%1\"").arg(words));
     }
 
     DayLine readLine(const QString& words) const {
@@ -94,12 +139,12 @@ class Reader {
     }
 
     void refuse() {
-        if (!inDocument() || steps_.last().lines.isEmpty()) fail("refused follows the line that is refused");
+        if (!inOrder() || steps_.last().lines.isEmpty()) fail("refused follows the line that is refused");
         steps_.last().lines.last().refused = true;
     }
 
     void closeStep() const {
-        if (inDocument() && steps_.last().lines.isEmpty())
+        if ((inOrder() && steps_.last().lines.isEmpty()) || (inPayment() && steps_.last().payments.isEmpty()))
             throw DayScriptError(steps_.last().number, "a document without a line");
     }
 

@@ -9,14 +9,9 @@
 
 #include <QMap>
 
-int DemoCollections::below(int limit) {
-    dice_ = dice_ * 6364136223846793005ULL + 1442695040888963407ULL;
-    return static_cast<int>((dice_ >> 33) % static_cast<std::uint64_t>(limit));
-}
-
 void DemoCollections::sold(const QString& refNo, const QString& customer, int termDays, const QDate& day) {
-    const int habit = below(20);
-    const QDate due = day.addDays(termDays - below(termDays / 3 + 1));
+    const int habit = dice_.below(20);
+    const QDate due = day.addDays(termDays - dice_.below(termDays / 3 + 1));
     if (habit < 2) {
         planned_.insert(day.addDays(termDays + 75), {refNo, customer, false, false});
     } else if (habit < 5) {
@@ -40,9 +35,9 @@ void DemoCollections::collect(const QDate& day) {
 }
 
 void DemoCollections::post(const QString& customer, const QList<Due>& dues, const QDate& day) {
-    const bool byCheck = below(5) < 3;
+    const bool byCheck = dice_.below(5) < 3;
     const QString checkNo = byCheck ? QString::number(++lastCheck_) : QString();
-    const QString checkDate = byCheck ? formatDate(day.addDays(15 * below(4))) : QString();
+    const QString checkDate = byCheck ? formatDate(day.addDays(15 * dice_.below(4))) : QString();
     ReceiptDocument receipt = newReceipt(store_);
     receipt.contactName = customer;
     for (const Due& due : dues) {
@@ -67,7 +62,7 @@ void DemoCollections::settleChecks(const QDate& day) {
     QList<StoredCheck> cleared;
     int bounced = 0;
     for (const CheckRow& row : listed) {
-        if (below(60) > 0) {
+        if (dice_.below(60) > 0) {
             cleared += row.check;
             continue;
         }

@@ -1,8 +1,9 @@
 #pragma once
+#include "demo/demo_dice.h"
+
 #include <QDate>
 #include <QMultiMap>
 #include <QString>
-#include <cstdint>
 
 class Connection;
 
@@ -27,11 +28,10 @@ class DemoCollections {
         bool half;
         bool prompt;  // with the discount
     };
-    int below(int limit);  // the next number of the firm's own dice, 0 to limit - 1
     void post(const QString& customer, const QList<Due>& dues, const QDate& day);
 
     Connection& store_;
     QMultiMap<QDate, Due> planned_;
     int lastCheck_ = 104200;
-    std::uint64_t dice_ = 0x9E3779B97F4A7C15ULL;
+    DemoDice dice_{0x9E3779B97F4A7C15ULL};
 };

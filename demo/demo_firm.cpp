@@ -2,9 +2,11 @@
 
 #include "books/end_of_day.h"
 #include "demo/demo_collections.h"
+#include "demo/demo_payments.h"
 #include "demo/demo_trade.h"
 #include "demo/required.h"
 #include "foundation/encryption.h"
+#include "foundation/new_store.h"
 #include "foundation/schema.h"
 #include "foundation/session.h"
 #include "masters/contact_document.h"
@@ -13,11 +15,12 @@
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/store/place.h"
 #include "platform/store/transaction.h"
 #include "purchases/purchase_document.h"
 #include "sales/sales_document.h"
 
-#include <QFile>
+#include <QTemporaryDir>
 
 namespace {
 // Who may do what at the demo firm: the flags are columns of tblUserMaster, the codes menu rights.
@@ -132,12 +135,21 @@ class DemoFirm {
                 closeTheBooks();
                 closed = true;
             }
-            if (document.date != Clock::today()) collections_.collect(document.date.addDays(-1));
+            if (document.date != Clock::today()) endDay(document.date.addDays(-1));
             openFor(document.date);
             save(document);
         }
-        collections_.collect(lastDay_);
+        endDay(lastDay_);
         collections_.settleChecks(lastDay_.addDays(-2));
+        payments_.settleChecks(lastDay_.addDays(-2));
+    }
+
+    void endDay(const QDate& day) {
+        collections_.collect(day);
+        for (; paidUntil_ <= day; paidUntil_ = paidUntil_.addDays(1)) {
+            openFor(paidUntil_);
+            payments_.pay(paidUntil_, static_cast<int>(paidUntil_.daysTo(lastDay_)));
+        }
     }
 
     void save(const DemoDocument& document) {
@@ -147,8 +159,11 @@ class DemoFirm {
         order.wholesale = document.wholesale;
         for (const DemoLine& line : document.lines) order.lines += lineOf(line, document);
         require(saveOrder(store_, book, order), order.code);
+        const int terms = terms_[document.contact];
         if (document.isSale)
-            collections_.sold(order.code, document.contact, terms_[document.contact], document.date);
+            collections_.sold(order.code, document.contact, terms, document.date);
+        else
+            payments_.bought(order.code, document.contact, terms, document.date);
     }
 
     OrderLine lineOf(const DemoLine& line, const DemoDocument& document) const {
@@ -166,17 +181,22 @@ class DemoFirm {
                     {week}});
         store_.run(
             {"UPDATE tblReceiptMaster SET Printed = True, RecordLock = True WHERE PaymentDate < ?", {week}});
+        store_.run(
+            {"UPDATE tblDisbursementMaster SET Printed = True, RecordLock = True WHERE VoucherDate < ?",
+             {week}});
         const Boxes boxes = postAndCostAll(store_);
         if (!boxes.isEmpty()) throw std::runtime_error(boxes.first().text.toStdString());
     }
 
     Connection& store_;
     QDate lastDay_;
+    QDate paidUntil_ = lastDay_.addDays(-364);  // the first day whose payments are not made yet
     QList<DemoItem> items_;
     QStringList codes_;
     QHash<QString, Currency> discounts_;
     QHash<QString, int> terms_;
     DemoCollections collections_{store_};
+    DemoPayments payments_{store_};
 };
 
 // The user and the clock of the firm's own days; the caller's come back afterwards.
@@ -200,17 +220,19 @@ void fillDemoFirm(Connection& store, const QDate& lastDay) {
     unit.commit();
 }
 
-// Beside the path first, so that a store that is half filled never bears its name.
-void makeDemoStore(const QString& path) {
-    if (QFile::exists(path))
-        throw std::runtime_error(QString("The file \"%1\" already exists.").arg(path).toStdString());
-    const QString unfinished = path + ".unfinished";
-    QFile::remove(unfinished);
-    makeDeliveredStore(unfinished);
-    Connection store;
-    store.open(unfinished, storePassword);
-    fillDemoFirm(store, Clock::today());
-    store.close();
-    QFile::remove(unfinished + "-journal");  // an empty one
-    if (!QFile::rename(unfinished, path)) throw std::runtime_error(("cannot write " + path).toStdString());
+static void makeDemoFile(const QString& path) {
+    makeStore(path, [](Connection& store) {
+        fillDeliveredStore(store);
+        fillDemoFirm(store, Clock::today());
+    });
 }
+
+// A server would take a minute for a year of trade in one unit.
+static void makeDemoDatabase(const QString& uri) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(storeFileName);
+    makeDemoFile(path);
+    copyStore(path, uri);
+}
+
+void makeDemoStore(const QString& place) { isServer(place) ? makeDemoDatabase(place) : makeDemoFile(place); }

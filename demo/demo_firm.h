@@ -10,6 +10,6 @@ class Connection;
 // std::runtime_error with the text of a refused step, and StoreError.
 void fillDemoFirm(Connection& store, const QDate& lastDay);
 
-// Writes a store with the demo firm, whose trade ends today, to this path: whole or not at all. Throws
-// StoreError and std::runtime_error, also when the file exists.
-void makeDemoStore(const QString& path);
+// Writes a store with the demo firm, whose trade ends today, to this place: whole or not at all. Throws
+// StoreError and std::runtime_error, also when the file exists or the database holds anything.
+void makeDemoStore(const QString& place);

@@ -57,12 +57,6 @@ DemoTrade::DemoTrade(QList<DemoContact> contacts, QList<DemoItem> items, const Q
     }
 }
 
-// A linear congruential generator of our own: the standard library's distributions differ between makes.
-int DemoTrade::below(int limit) {
-    dice_ = dice_ * 6364136223846793005ULL + 1442695040888963407ULL;
-    return static_cast<int>((dice_ >> 33) % static_cast<std::uint64_t>(limit));
-}
-
 QList<int> DemoTrade::itemsOf(const QString& supplier) const {
     QList<int> found;
     for (int item = 0; item < items_.size(); ++item)
@@ -81,8 +75,8 @@ Currency DemoTrade::priceOn(Currency base) const {
 void DemoTrade::purchase(const QString& supplier, const QList<int>& items) {
     DemoDocument document{false, day_, supplier, false, {}};
     for (const int item : items) {
-        const int quantity = std::max(2, items_[item].reorderLevel * (2 + below(3)) / 4);
-        const int delivered = below(25) == 0 ? quantity / 2 : quantity;
+        const int quantity = std::max(2, items_[item].reorderLevel * (2 + dice_.below(3)) / 4);
+        const int delivered = dice_.below(25) == 0 ? quantity / 2 : quantity;
         document.lines += DemoLine{item, quantity, delivered, priceOn(items_[item].cost)};
         stock_[item] += delivered;
     }
@@ -114,19 +108,19 @@ void DemoTrade::purchaseShortItems() {
 
 int DemoTrade::quantityToSell(int item) {
     const int usual = items_[item].usualSale;
-    return std::min(stock_[item], std::max(1, usual * (30 + below(140)) / 100));
+    return std::min(stock_[item], std::max(1, usual * (30 + dice_.below(140)) / 100));
 }
 
 void DemoTrade::sell() {
-    const DemoContact customer = customers_[below(static_cast<int>(customers_.size()))];
+    const DemoContact customer = customers_[dice_.below(static_cast<int>(customers_.size()))];
     DemoDocument document{true, day_, customer.name, customer.buysWholesale(), {}};
-    const int lines = 1 + below(6);
+    const int lines = 1 + dice_.below(6);
     QList<int> taken;
     for (int tries = 0; document.lines.size() < lines && tries < 60; ++tries) {
-        const int item = below(static_cast<int>(items_.size()));
+        const int item = dice_.below(static_cast<int>(items_.size()));
         const int quantity = quantityToSell(item);
         if (quantity < 1 || taken.contains(item)) continue;
-        const int served = below(40) == 0 ? quantity / 2 : quantity;
+        const int served = dice_.below(40) == 0 ? quantity / 2 : quantity;
         const DemoItem& goods = items_[item];
         document.lines +=
             DemoLine{item, quantity, served, priceOn(document.wholesale ? goods.wholesale : goods.selling)};

@@ -1,10 +1,10 @@
 #pragma once
+#include "demo/demo_dice.h"
 #include "platform/currency.h"
 
 #include <QDate>
 #include <QList>
 #include <QString>
-#include <cstdint>
 
 // The demo firm's goods and contacts, as its tables tell them.
 struct DemoContact {
@@ -50,7 +50,6 @@ class DemoTrade {
     QList<DemoDocument> documents();
 
   private:
-    int below(int limit);  // the next number of the firm's own dice, 0 to limit - 1
     void stockUp();
     void purchase(const QString& supplier, const QList<int>& items);
     void purchaseShortItems();
@@ -68,5 +67,5 @@ class DemoTrade {
     QList<DemoContact> customers_;
     QList<DemoDocument> documents_;
     QDate firstDay_, day_, lastDay_;
-    std::uint64_t dice_ = 0x5DEECE66DULL;
+    DemoDice dice_{0x5DEECE66DULL};
 };

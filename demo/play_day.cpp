@@ -3,15 +3,18 @@
 // The store, the printed papers and the pictures of the screens go into FOLDER. Ends with 1 when something
 // that the script tells did not happen.
 //     play_day --pictures FOLDER
-// writes one picture of each screen instead, at 1024 x 768 and at 200 %.
+// writes one picture of each screen instead, at 1024 x 768 and at 200 %, in light colours and in dark ones,
+// and one of the first page of each report.
 #include "demo/day_player.h"
 #include "demo/firm_figures.h"
 #include "demo/played_firm.h"
+#include "demo/report_pictures.h"
 #include "foundation/session.h"
 #include "foundation/start.h"
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "program.h"
+#include "support/dark_desk.h"
 #include "support/offscreen_desk.h"
 #include "support/program_driver.h"
 #include "support/screen_tour.h"
@@ -78,9 +81,16 @@ static void takePictures(const QDir& folder) {
     });
 }
 
-static int picturesTaken(const QDir& folder) {
+static void takeReports(const QDir& folder) {
+    freshDemoFirm(folder);
+    Connection store;
+    store.open(folder.filePath(storeFileName), storePassword);
+    drawReports(store, folder, say);
+}
+
+static int picturesTaken(const QDir& folder, void (*take)(const QDir&) = takePictures) {
     try {
-        takePictures(folder);
+        take(folder);
         return 0;
     } catch (const std::exception& error) {
         say(QString("The pictures failed: %1").arg(QString::fromUtf8(error.what())));
@@ -89,15 +99,24 @@ static int picturesTaken(const QDir& folder) {
 }
 
 // Each scale in a process of its own: it is fixed when an application starts.
-static int picturesAtBothScales(const QDir& folder) {
-    for (const auto& [scale, part] : {std::pair("1", "1024x768"), std::pair("2", "200%")}) {
+static int picturesAtAllScales(const QDir& folder) {
+    const struct {
+        const char* scale;
+        const char* mode;
+        const char* part;
+    } desks[] = {{"1", "--pictures-as-scaled", "1024x768"},
+                 {"2", "--pictures-as-scaled", "200%"},
+                 {"1", "--pictures-in-the-dark", "dark"},
+                 {"2", "--pictures-in-the-dark", "dark 200%"},
+                 {"1", "--pictures-of-reports", "reports"}};
+    for (const auto& [scale, mode, part] : desks) {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert("QT_SCALE_FACTOR", scale);
         environment.insert("QT_QPA_PLATFORM", "offscreen");
         process.setProcessEnvironment(environment);
         process.setProcessChannelMode(QProcess::ForwardedChannels);
-        process.start(QApplication::applicationFilePath(), {"--pictures-as-scaled", folder.filePath(part)});
+        process.start(QApplication::applicationFilePath(), {mode, folder.filePath(part)});
         if (!process.waitForFinished(-1) || process.exitCode() != 0) return 1;
     }
     return 0;
@@ -114,7 +133,12 @@ int main(int argc, char** argv) {
         say("usage: play_day SCRIPT FOLDER, or play_day --pictures FOLDER");
         return 2;
     }
-    if (arguments[0] == "--pictures") return picturesAtBothScales(QDir(arguments[1]));
+    if (arguments[0] == "--pictures") return picturesAtAllScales(QDir(arguments[1]));
     if (arguments[0] == "--pictures-as-scaled") return picturesTaken(QDir(arguments[1]));
+    if (arguments[0] == "--pictures-of-reports") return picturesTaken(QDir(arguments[1]), takeReports);
+    if (arguments[0] == "--pictures-in-the-dark") {
+        useDarkDesk();
+        return picturesTaken(QDir(arguments[1]));
+    }
     return played(arguments[0], QDir(arguments[1]));
 }

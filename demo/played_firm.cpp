@@ -2,6 +2,7 @@
 
 #include "demo/demo_firm.h"
 #include "foundation/session.h"
+#include "foundation/store_place.h"
 
 #include <stdexcept>
 
@@ -14,6 +15,6 @@ static void clear(const QDir& folder) {
 
 void freshDemoFirm(const QDir& folder) {
     clear(folder);
-    makeDemoStore(folder.filePath(storeFileName));
     setProgramFolder(folder.absolutePath());
+    makeDemoStore(storePlace());
 }

@@ -152,7 +152,7 @@ void KeyedSums::addTerms(QByteArrayView key, std::vector<Term>& terms) {
 }
 
 Sql BalancePass::masters() const {
-    return Sql(QString("SELECT %1, Balance, %2, rowid FROM %3")
+    return Sql(QString("SELECT %1, Balance, %2, RowNo FROM %3")
                    .arg(cached_.key, cached_.ownTerm, cached_.table)) +
            keys_.clause(cached_.key) + Sql(QString(" ORDER BY %1").arg(cached_.key));
 }
@@ -186,7 +186,7 @@ bool BalancePass::collect(const UnitClock& clock, std::vector<Stale>& stale) {
 // store refuses stays as it is.
 bool BalancePass::write(const UnitClock& clock, std::vector<Stale>& stale) {
     std::ranges::sort(stale, {}, &Stale::row);
-    BulkWriter balance(store_, QString("UPDATE %1 SET Balance = ? WHERE rowid = ?").arg(cached_.table));
+    BulkWriter balance(store_, QString("UPDATE %1 SET Balance = ? WHERE RowNo = ?").arg(cached_.table));
     for (const auto& [row, figure] : stale) {
         if (clock.isOver()) return false;
         balance.bind(1, figure);

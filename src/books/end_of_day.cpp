@@ -31,7 +31,7 @@ QList<QueuedDocument> LoadPostingQueue(Connection& store, Progress& progress) {
     return loadList<QueuedDocument>(
         store.execute("SELECT q.BookID, q.Reference, q.TransDate, c.ContactName"
                       " FROM tblForPosting q LEFT JOIN tblContactMaster c ON c.ContactID = q.Contact"
-                      " ORDER BY q.BookID, q.TransDate"),
+                      " ORDER BY q.BookID, q.TransDate, q.RowNo"),
         "Please Wait While System Loads Records for Uploading...", progress, [](const Recordset& row) {
             return QueuedDocument{row.trimmed("BookID"), row.trimmed("Reference"), row.date("TransDate"),
                                   row.trimmed("ContactName")};
@@ -41,7 +41,8 @@ QList<QueuedDocument> LoadPostingQueue(Connection& store, Progress& progress) {
 QList<QueuedItem> LoadPostingItems(Connection& store, Progress& progress) {
     return loadList<QueuedItem>(
         store.execute("SELECT q.ItemID, i.Description"
-                      " FROM tblForPostingItem q LEFT JOIN tblItemMaster i ON i.ItemCode = q.ItemID"),
+                      " FROM tblForPostingItem q LEFT JOIN tblItemMaster i ON i.ItemCode = q.ItemID"
+                      " ORDER BY q.RowNo"),
         "Please Wait While System Loads Records for Processing...", progress, [](const Recordset& row) {
             return QueuedItem{row.text("ItemID"), row.trimmed("Description")};
         });
@@ -64,7 +65,8 @@ static const Book& bookOf(const QString& bookId) {
 
 static Recordset linesOf(Connection& store, const Book& book, const QString& reference) {
     return store.execute(
-        {QString("SELECT ItemID, %1 AS Quantity, UnitPrice, Discount FROM %2 WHERE Reference = ?")
+        {QString(
+             "SELECT ItemID, %1 AS Quantity, UnitPrice, Discount FROM %2 WHERE Reference = ? ORDER BY RowNo")
              .arg(book.quantity, book.details),
          {reference}});
 }

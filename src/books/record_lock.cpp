@@ -1,5 +1,7 @@
 #include "books/record_lock.h"
 
+#include "foundation/shared_routines.h"
+
 namespace {
 QString update(const LockableBook& book, const char* value, const char* condition) {
     return QString("UPDATE %1 SET RecordLock = %2 WHERE %3 = ?%4")
@@ -12,6 +14,14 @@ LockResult takeRecordLock(Connection& store, const LockableBook& book, const QSt
     const Recordset row =
         store.execute({QString("SELECT 1 FROM %1 WHERE %2 = ?").arg(book.table, book.key), {key}});
     return row.eof() ? LockResult::Gone : LockResult::Locked;
+}
+
+HeldLock heldLock(Connection& store, const LockableBook& book, const QString& key) {
+    return {key, FlagFieldSet(store, book.table, book.key, key, "Printed")};
+}
+
+void releaseRecordLock(Connection& store, const LockableBook& book, const HeldLock& lock) {
+    store.run({update(book, "False", lock.wasPrinted ? "" : " AND Printed = False"), {lock.key}});
 }
 
 void setRecordLock(Connection& store, const LockableBook& book, const QString& key, bool locked) {

@@ -43,14 +43,27 @@ void RemoveStockValuation(Connection& store, const QString& bookId, const QStrin
     store.run({"DELETE FROM tblStockValuation WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
 }
 
-// What one row of the walk backwards is worth, of the quantity that remains to be valued.
-static Currency valueOfRow(Currency stockIn, Currency price, Currency& remaining) {
-    if (remaining > stockIn) {
-        remaining -= stockIn.abs();
+namespace {
+// The walk backwards over the rows of one item: its newest layers are on hand, as far as the balance after
+// the last row goes.
+class LayersOnHand {
+  public:
+    explicit LayersOnHand(Currency balance) : remaining_(balance) {}
+    void take(Currency stockIn, Currency price) {
+        if (remaining_ > Currency()) value_ += valueOfRow(stockIn, price);
+    }
+    bool isCovered() const { return remaining_ <= Currency(); }
+    Currency value() const { return value_; }
+
+  private:
+    Currency valueOfRow(Currency stockIn, Currency price) {
+        if (remaining_ <= stockIn) return std::exchange(remaining_, Currency()) * price;
+        remaining_ -= stockIn.abs();
         return price * stockIn;
     }
-    return std::exchange(remaining, Currency()) * price;
-}
+    Currency remaining_, value_;
+};
+}  // namespace
 
 static Currency layersValue(Connection& store, const QDate& from, const QDate& to, const QString& itemCode) {
     BulkReader row(store, {"SELECT v.StockIn, v.InPrice, v.Balance FROM tblStockValuation v"
@@ -58,11 +71,10 @@ static Currency layersValue(Connection& store, const QDate& from, const QDate& t
                            " ORDER BY v.TransDate DESC, v.BookID DESC, v.ZevRef DESC",
                            {itemCode, from, to}});
     if (!row.next()) return {};
-    Currency remaining = row.currency(2);
-    Currency total;
-    for (bool more = true; more && remaining > Currency(); more = row.next())
-        total += valueOfRow(row.currency(0), row.currency(1), remaining);
-    return total;
+    LayersOnHand layers(row.currency(2));
+    for (bool more = true; more && !layers.isCovered(); more = row.next())
+        layers.take(row.currency(0), row.currency(1));
+    return layers.value();
 }
 
 // A figure whose failure is told, and counts 0.
@@ -83,6 +95,31 @@ Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, co
     return toldFigure(boxes, [&] { return layersValue(store, from, to, itemCode); });
 }
 
+// From the last row of one item to that of the next; false: there is none.
+static bool passItem(BulkReader& row, KeyedFigures& values, Boxes& boxes) {
+    const QByteArray item = row.bytes(3).toByteArray();
+    LayersOnHand layers(row.currency(2));
+    bool more = true;
+    for (; more && compareKeys(row.bytes(3), item) == 0; more = row.next()) try {
+            layers.take(row.currency(0), row.currency(1));
+        } catch (const OverflowError& error) {
+            boxes += exclamation("Error!", error.what());
+            layers = LayersOnHand({});
+        }
+    values[item] = layers.value();
+    return more;
+}
+
+KeyedFigures ValuationCosts(Connection& store, const QDate& from, const QDate& to, Boxes& boxes) {
+    KeyedFigures values;
+    BulkReader row(store, {"SELECT v.StockIn, v.InPrice, v.Balance, v.ItemCode FROM tblStockValuation v"
+                           " WHERE v.TransDate BETWEEN ? AND ?"
+                           " ORDER BY v.ItemCode DESC, v.TransDate DESC, v.BookID DESC, v.ZevRef DESC",
+                           {from, to}});
+    for (bool more = row.next(); more;) more = passItem(row, values, boxes);
+    return values;
+}
+
 Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
                          Boxes& boxes) {
     return toldFigure(boxes, [&] {
@@ -95,14 +132,27 @@ Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, 
     });
 }
 
-// The value of all that is on hand.
-static Currency wholeValue(Connection& store, const QString& itemCode, Boxes& boxes) {
-    QDate from, to;
+static std::pair<QDate, QDate> allDays(Connection& store) {
+    std::pair<QDate, QDate> days;
     passOverRead([&] {
-        from = std::min(GetFirstSalesDate(store), GetFirstPurchaseDate(store));
-        to = std::max(GetLastSalesDate(store), GetLastPurchaseDate(store));
+        days = {std::min(GetFirstSalesDate(store), GetFirstPurchaseDate(store)),
+                std::max(GetLastSalesDate(store), GetLastPurchaseDate(store))};
     });
+    return days;
+}
+
+Currency StockValue(Connection& store, const QString& itemCode, Boxes& boxes) {
+    const auto [from, to] = allDays(store);
     return ValuationCost(store, from, to, itemCode, boxes);
+}
+
+Currency StockValueAt(Connection& store, const QDate& day, const QString& itemCode, Boxes& boxes) {
+    return ValuationCost(store, allDays(store).first, day, itemCode, boxes);
+}
+
+KeyedFigures StockValues(Connection& store, Boxes& boxes) {
+    const auto [from, to] = allDays(store);
+    return ValuationCosts(store, from, to, boxes);
 }
 
 static Currency averageCost(Currency value, Currency quantity) {
@@ -114,7 +164,7 @@ static Currency averageCost(Currency value, Currency quantity) {
 }
 
 void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes) {
-    const Currency value = wholeValue(store, itemCode, boxes);
+    const Currency value = StockValue(store, itemCode, boxes);
     const Currency cost = averageCost(value, ItemBalance(store, itemCode));
     if (passOverStatement(store, {"UPDATE tblItemMaster SET CostPrice = ? WHERE ItemCode = ?",
                                   {bound(cost), itemCode}}) == 0)

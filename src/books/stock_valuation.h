@@ -1,4 +1,5 @@
 #pragma once
+#include "books/keyed_figures.h"
 #include "platform/box.h"
 #include "platform/currency.h"
 #include "platform/progress.h"
@@ -25,6 +26,14 @@ void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& prog
 // goes. A failure adds its box, and counts 0; a busy store is thrown.
 Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
                        Boxes& boxes);
+// The same of every item that has rows in the period, by ItemCode, in one pass over the ledger. A value
+// beyond the range adds its box, and counts 0; failures of the store are thrown.
+KeyedFigures ValuationCosts(Connection& store, const QDate& from, const QDate& to, Boxes& boxes);
+// The value of all stock on hand, from the first document's day to the last one's.
+Currency StockValue(Connection& store, const QString& itemCode, Boxes& boxes);
+KeyedFigures StockValues(Connection& store, Boxes& boxes);  // of every item
+// Of what was on hand at the end of this day.
+Currency StockValueAt(Connection& store, const QDate& day, const QString& itemCode, Boxes& boxes);
 // The cost of the sales of the period. Failures as above; a period without rows sums to null, which is one.
 Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
                          Boxes& boxes);

@@ -6,6 +6,7 @@
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
@@ -30,6 +31,7 @@ CheckDialog::CheckDialog(const CheckBook& book, const QString& name, qint64 key)
     txtCheckDate = new TextBox("txtCheckDate");
     txtCheckDate->setKeyFilter(keys::date());
     txtCheckDate->setCapacity(width::date);
+    field_width::fix(txtCheckDate, field_width::date);
     cboCheckStatus = new ComboBox("cboCheckStatus", ComboBox::Open);
     cboCheckStatus->setKeyFilter(keys::freeText());
     cboCheckStatus->addItems(offeredStatuses());

@@ -7,8 +7,10 @@
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/screen_registry.h"
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
@@ -26,7 +28,7 @@ TextBox* dateBox(const char* name, const QString& accessibleName, const QString&
     box->setCapacity(width::date);
     box->setText(text);
     box->setAccessibleName(accessibleName);
-    box->setMaximumWidth(form::charactersWide(box, width::date + 4));
+    field_width::fix(box, field_width::date);
     return box;
 }
 
@@ -54,7 +56,7 @@ CheckList::CheckList(const CheckScreen& words)
 }
 
 QSize CheckList::sizeHint() const {
-    const QSize roomy(form::charactersWide(this, 140), fontMetrics().height() * 32);
+    const QSize roomy(form::charactersWide(this, 175), fontMetrics().height() * 32);
     return roomy.expandedTo(minimumSizeHint());
 }
 
@@ -170,11 +172,13 @@ void CheckList::showRows(const CheckView& view, const QList<CheckRow>& rows) {
     QList<QStringList> texts;
     texts.reserve(rows.size());
     checks_.clear();
+    checks_.reserve(rows.size());
     for (const CheckRow& row : rows) {
         texts += row.texts;
         checks_.insert(row.texts[check_column::control], row.check);
     }
     view_ = &view;
+    list_look::sayWhenEmpty(lvwRecord, QString("Nothing found in the view \"%1\".").arg(view.name));
     lvwRecord->setRows(texts);
     QStringList headings;
     for (const CheckColumn& column : words_.book->columns) headings += column.list.heading;

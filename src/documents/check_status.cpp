@@ -16,9 +16,11 @@ bool isUnchanged(const StoredCheck& now, const StoredCheck& loaded) {
     return now.status == loaded.status && now.number == loaded.number && now.negotiated == loaded.negotiated;
 }
 
+// Names that are made once, not for each of ten thousand rows.
 StoredCheck storedCheck(const Recordset& row) {
-    return {row.integer("ZevRef"), row.trimmed("CheckNo"), row.date("CheckDate"), row.trimmed("CheckStatus"),
-            row.flag("Negotiated")};
+    static const QString key("ZevRef"), number("CheckNo"), date("CheckDate"), status("CheckStatus"),
+        negotiated("Negotiated");
+    return {row.integer(key), row.trimmed(number), row.date(date), row.trimmed(status), row.flag(negotiated)};
 }
 
 QString textOf(const Recordset& row, const CheckColumn& column) {
@@ -174,7 +176,8 @@ const CheckCategory* findCheckCategory(const CheckBook& book, const QString& nam
 }
 
 Sql checksOf(const CheckBook& book, const CheckView& view, const Sql& search) {
-    return Sql{book.select + QString(view.condition).arg(book.table)} + search;
+    return Sql{book.select + QString(view.condition).arg(book.table)} + search +
+           Sql{QString(" ORDER BY %1.ZevRef").arg(book.table)};
 }
 
 std::variant<QList<CheckRow>, Fault> loadChecks(Connection& store, const CheckBook& book, const QString& view,

@@ -30,7 +30,7 @@ struct CheckView {
 
 struct CheckColumn {
     ListColumn list;
-    const char* field;
+    QString field;
 };
 
 struct CheckCategory {

@@ -1,7 +1,10 @@
 #include "documents/document_controls.h"
 
 #include "masters/field_widths.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
+#include "platform/ui/list_look.h"
+#include "platform/ui/total_strip.h"
 
 DocumentControls::DocumentControls(const DocumentScreen& words) : words_(words) {
     makeHead();
@@ -31,6 +34,8 @@ void DocumentControls::makeHead() {
 
 void DocumentControls::makeList() {
     lvwItems = new ListView("lvwItems", words_.columns);
+    list_look::sayWhenEmpty(lvwItems, QString("No lines yet. %1, or Insert in this list, adds one.")
+                                          .arg(QString(words_.addCaption).remove(u'&')));
     cmdAdd = form::button("cmdAdd", words_.addCaption, "new");
     cmdEdit = form::button("cmdEdit", words_.editCaption, "edit");
     cmdRemove = form::button("cmdRemove", words_.removeCaption, "delete");
@@ -41,39 +46,48 @@ void DocumentControls::makeList() {
 }
 
 QGridLayout* DocumentControls::head() const {
-    auto* contact = new QHBoxLayout;
-    contact->addWidget(cboCustomer, 1);
-    contact->addWidget(cmdSearch);
+    field_width::fix(txtCode, field_width::number);
+    field_width::fix(txtRefDate, field_width::date);
+    for (TextBox* figure : {txtTerm, txtCustomerBalance}) field_width::fix(figure, field_width::figure);
     auto* grid = new QGridLayout;
+    grid->setColumnStretch(2, 1);
     form::row(grid, 0, 0, words_.codeLabel, txtCode);
     grid->addWidget(number, 0, 2);
     form::row(grid, 1, 0, words_.dateLabel, txtRefDate);
     grid->addWidget(form::label(words_.contactLabel, cboCustomer), 2, 0);
-    grid->addLayout(contact, 2, 1, 1, 2);
-    form::row(grid, 3, 0, "Remarks :", txtRemarks, 2);
+    grid->addLayout(field_width::upTo(cboCustomer, field_width::name, cmdSearch), 2, 1, 1, 2);
+    grid->addWidget(form::label("Remarks :", txtRemarks), 3, 0);
+    grid->addLayout(field_width::upTo(txtRemarks, field_width::remarks), 3, 1, 1, 2);
     return grid;
 }
 
 QHBoxLayout* DocumentControls::listTitle() const {
     auto* row = new QHBoxLayout;
     row->addWidget(form::label(words_.listLabel, lvwItems));
+    row->addSpacing(lvwItems->fontMetrics().height());
+    row->addWidget(form::label(words_.countLabel, txtCount));
+    field_width::fix(txtCount, 5);
+    row->addWidget(txtCount);
     row->addStretch();
     return row;
 }
 
-QGridLayout* DocumentControls::foot(const QList<QPushButton*>& moreButtons) const {
+QLayout* DocumentControls::foot(const QList<QPushButton*>& moreButtons) const {
+    field_width::fix(txtUpdatedBy, field_width::userCode);
+    field_width::fix(txtLastUpdate, field_width::date);
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : {cmdAdd, cmdEdit, cmdRemove}) buttons->addWidget(button);
     for (QPushButton* button : moreButtons) buttons->addWidget(button);
     buttons->addStretch();
-    auto* grid = new QGridLayout;
-    grid->addLayout(buttons, 0, 0, 1, 4);
-    form::row(grid, 0, 4, "Total :", txtAmount);
-    form::row(grid, 1, 0, "Updated By :", txtUpdatedBy);
-    form::row(grid, 1, 2, "Last Update :", txtLastUpdate);
-    form::row(grid, 1, 4, words_.countLabel, txtCount);
-    for (int column : {1, 3, 5}) grid->setColumnStretch(column, 1);
-    return grid;
+    buttons->addWidget(form::label("Updated By :", txtUpdatedBy));
+    buttons->addWidget(txtUpdatedBy);
+    buttons->addWidget(form::label("Last Update :", txtLastUpdate));
+    buttons->addWidget(txtLastUpdate);
+    auto* foot = new QVBoxLayout;
+    foot->addWidget(
+        new TotalStrip(lvwItems, words_.totalColumn, form::label("Total :", txtAmount), txtAmount));
+    foot->addLayout(buttons);
+    return foot;
 }
 
 QList<QWidget*> DocumentControls::tabStops(const QList<QWidget*>& afterDate,

@@ -17,11 +17,12 @@ class DocumentControls {
     // changed, and are still there to be read.
     void showNewDocument(bool isNew);
 
-    // Number, date, contact and remarks in the rows 0 to 3 of the columns 0 to 2.
+    // Number, date, contact and remarks in the rows 0 to 3 of the columns 0 to 2, of which the last takes the
+    // free width.
     QGridLayout* head() const;
     QHBoxLayout* listTitle() const;
-    // The buttons of the lines, the total, the count, and who saved it.
-    QGridLayout* foot(const QList<QPushButton*>& moreButtons) const;
+    // The total below its column, the buttons of the lines, and who saved it.
+    QLayout* foot(const QList<QPushButton*>& moreButtons) const;
     // The controls in the order of Tab, with what a screen has more after the date and at the end.
     QList<QWidget*> tabStops(const QList<QWidget*>& afterDate, const QList<QWidget*>& atEnd) const;
 

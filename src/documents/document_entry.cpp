@@ -27,6 +27,7 @@ void DocumentEntry::connectHead() {
     connect(ui.number, &NumberEntry::composed, ui.txtCode, &QLineEdit::setText);
     connect(ui.number, &NumberEntry::left, this, [this] { ui.txtRefDate->setFocus(); });
     connect(ui.txtRefDate, &TextBox::entered, this, [this] { ui.cboCustomer->setFocus(); });
+    connect(ui.txtRefDate, &TextBox::focusLost, this, &DocumentEntry::leaveDate);
     connect(ui.cboCustomer, &ComboBox::entered, this, [this] {
         mblnUpdated = true;
         findContact();
@@ -38,13 +39,18 @@ void DocumentEntry::connectHead() {
     ui.cboCustomer->setFiller([this] { QTimer::singleShot(0, this, &DocumentEntry::findContact); });
 }
 
+// What would be refused by the save in the end is told at once: a line is tested as of this date.
+void DocumentEntry::leaveDate() {
+    if (const auto date = parseDate(ui.txtRefDate->text()))
+        ui.txtRefDate->setText(formatDate(*date));
+    else
+        showFault(errorFault(words_.invalidDate, words_.dateName), this);
+}
+
+// Whatever a person types is asked about before it is left, in a combo's box too.
 void DocumentEntry::connectDirtying() {
-    const auto dirty = [this] { mblnUpdated = true; };
-    for (const QString& name : words_.dirtyingFields)
-        if (auto* box = findChild<TextBox*>(name))
-            connect(box, &TextBox::keyTyped, this, dirty);
-        else if (auto* combo = findChild<ComboBox*>(name))
-            connect(combo, &ComboBox::keyTyped, this, dirty);
+    for (TextBox* box : findChildren<TextBox*>())
+        connect(box, &TextBox::keyTyped, this, [this] { mblnUpdated = true; });
 }
 
 void DocumentEntry::connectList() {
@@ -63,7 +69,7 @@ void DocumentEntry::connectList() {
 
 bool DocumentEntry::receive(const ScreenArguments& arguments) {
     if (!leavesDocument()) return false;
-    if (held_ != arguments.key) releaseLock();
+    if (held_.key != arguments.key) releaseLock();
     if (arguments.key.isEmpty())
         startNew();
     else
@@ -93,15 +99,31 @@ void DocumentEntry::startNew() {
 
 void DocumentEntry::openDocument(const QString& key) {
     mblnAddmode = false;
-    mblnUpdated = false;
     mstrPrimary = key;
-    held_ = key;
+    if (held_.key != key) {
+        held_ = {key};
+        guarded([&] { held_ = heldLock(StoreConnection(), words_.master, key); });
+    }
+    showDocument();
+}
+
+void DocumentEntry::showDocument() {
+    mblnUpdated = false;
     ui.showNewDocument(false);
     // Should it not load, what the document before left is not taken for this one's.
-    showHead({.code = key}, {});
+    showHead({.code = mstrPrimary}, {});
     for (LineList* list : lists_) list->clear();
     guarded([this] { loadDocument(); });
     ui.txtRemarks->setFocus();
+}
+
+// Whoever has saved it meanwhile has cleared the lock, too.
+void DocumentEntry::RefreshRecord() {
+    static const Box forget = question(
+        "Refresh?", "What You Have Typed Will Be Gone! Show the Document as It is Stored?", BoxAnswer::No);
+    if (mblnAddmode || popupHolds() || (mblnUpdated && !askYes(forget))) return;
+    guarded([this] { setRecordLock(StoreConnection(), words_.master, mstrPrimary, true); });
+    showDocument();
 }
 
 DocumentHead DocumentEntry::head() const {
@@ -110,14 +132,16 @@ DocumentHead DocumentEntry::head() const {
             .serial = ui.number->serial(),
             .date = ui.txtRefDate->text(),
             .contactName = ui.cboCustomer->text(),
-            .remarks = ui.txtRemarks->text()};
+            .remarks = ui.txtRemarks->text(),
+            .loaded = loaded_};
 }
 
-void DocumentEntry::showHead(const DocumentHead& head, const StoredHead& stored) {
-    ui.txtCode->setText(head.code);
-    ui.txtRefDate->setText(head.date);
-    ui.cboCustomer->setText(head.contactName);
-    ui.txtRemarks->setText(head.remarks);
+void DocumentEntry::showHead(const DocumentHead& document, const StoredHead& stored) {
+    loaded_ = document.loaded;
+    ui.txtCode->setText(document.code);
+    ui.txtRefDate->setText(document.date);
+    ui.cboCustomer->setText(document.contactName);
+    ui.txtRemarks->setText(document.remarks);
     ui.txtUpdatedBy->setText(stored.updatedBy);
     ui.txtLastUpdate->setText(stored.lastUpdate);
     showContact(stored.contact);
@@ -139,6 +163,7 @@ void DocumentEntry::findContact() {
 }
 
 void DocumentEntry::takeContact(const QString& name, const QString& contactId) {
+    mblnUpdated = true;
     ui.cboCustomer->setText(name);
     showNoContact();
     guarded([&] { showContact(contactFigures(StoreConnection(), words_.contactBalance, contactId)); });
@@ -216,9 +241,9 @@ bool DocumentEntry::SaveRecord() {
 
 void DocumentEntry::finishSave() {
     // The save itself has cleared the lock.
-    held_.clear();
+    held_ = {};
     const auto papers = offerPapers();
-    showBox(exclamation("Saved!", words_.saved));
+    showBox(information("Saved!", words_.saved));
     startNew();
     for (const QPointer<ChildScreen>& paper : papers)
         if (paper) ScreenRegistry::instance().show(paper);
@@ -246,7 +271,7 @@ void DocumentEntry::unloading() {
 }
 
 void DocumentEntry::releaseLock() {
-    if (held_.isEmpty()) return;
-    guarded([this] { setRecordLock(StoreConnection(), words_.master, held_, false); });
-    held_.clear();
+    if (held_.key.isEmpty()) return;
+    guarded([this] { releaseRecordLock(StoreConnection(), words_.master, held_); });
+    held_ = {};
 }

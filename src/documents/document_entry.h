@@ -22,6 +22,8 @@ class DocumentEntry : public RecordScreen {
   public slots:
     void NewRecord();
     bool SaveRecord();  // false when the save was refused
+    // Shows the document as it is stored by now. What was typed goes, after a question.
+    void RefreshRecord();
     bool CheckContact();
     void RecomputeTotal();
 
@@ -49,17 +51,19 @@ class DocumentEntry : public RecordScreen {
     bool popupHolds();
 
     DocumentHead head() const;
-    void showHead(const DocumentHead& head, const StoredHead& stored);
+    void showHead(const DocumentHead& document, const StoredHead& stored);
 
     DocumentControls ui;
 
   private:
     void connectHead();
+    void leaveDate();
     void connectDirtying();
     void connectList();
 
     void startNew();
     void openDocument(const QString& key);
+    void showDocument();
     void showNoContact() { showContact({}); }
     void findContact();
     void takeContact(const QString& name, const QString& contactId);
@@ -72,6 +76,7 @@ class DocumentEntry : public RecordScreen {
     const DocumentScreen& words_;
     LineList* lines_ = nullptr;  // of lvwItems
     QList<LineList*> lists_;
-    QString held_;  // the document whose RecordLock is ours
+    HeldLock held_;  // of the document whose RecordLock is ours
+    StoredState loaded_;
     bool canPrint_ = false;
 };

@@ -15,3 +15,7 @@ std::optional<Fault> serialFault(const DocumentHead& document) {
     return Fault{exclamation("Error!", "Invalid Serial No.! Please Enter a Number of up to Nine Digits!"),
                  "txtSerialCode"};
 }
+
+std::optional<Fault> overtakenDocument(Connection& store, const DocumentHead& document) {
+    return document.loaded.overtaken(store, {"Printed", "RecordLock", "Balance"});
+}

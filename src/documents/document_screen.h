@@ -19,6 +19,7 @@ struct DocumentScreen {
     const char* dateName = "txtRefDate";
     const char* searchName = "cmdSearch";
     const char* totalName = "txtAmount";
+    const char* invalidDate = "Invalid Date Value!";  // as the save says it
     const char* codeLabel;
     const char* dateLabel;
     const char* contactLabel;
@@ -53,6 +54,5 @@ struct DocumentScreen {
     QList<Paper> papers;
     const char* saved = "Record Successfully Saved!";
 
-    QStringList dirtyingFields;  // whose key presses raise mblnUpdated
-    bool newShowsUser;           // a new document shows the current user
+    bool newShowsUser;  // a new document shows the current user
 };

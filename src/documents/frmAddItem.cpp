@@ -4,14 +4,19 @@
 #include "masters/field_widths.h"
 #include "masters/frmFound.h"
 #include "masters/unit_field.h"
+#include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QTimer>
+
+static constexpr int figureWidth = 13;  // a price with its four decimals
 
 frmAddItem::frmAddItem(OrderOwner& owner)
     : LinePopupOf(owner.lines(), "frmAddItem", "Order Item"), owner_(owner) {
@@ -58,47 +63,47 @@ void frmAddItem::makeFields() {
     lblPrice = namedLabel("lblPrice", owner_.lineWords().lblPrice, txtCost);
 }
 
-QWidget* frmAddItem::itemRow() {
-    auto* frame = new QWidget;
-    auto* grid = new QGridLayout(frame);
-    grid->setContentsMargins({});
-    form::row(grid, 0, 0, "Item Code :", cboItemCode);
-    grid->addWidget(cmdSearch1, 0, 2);
-    form::row(grid, 1, 0, "Description :", cboDescription);
-    grid->addWidget(cmdSearch2, 1, 2);
-    grid->setColumnStretch(1, 1);
-    return frame;
+QLayout* frmAddItem::itemRow() {
+    field_width::fix(cboItemCode, width::itemCode / 2 + 3);
+    auto* row = new QHBoxLayout;
+    row->addWidget(form::label("Item Code :", cboItemCode));
+    row->addWidget(cboItemCode);
+    row->addWidget(cmdSearch1);
+    row->addWidget(form::label("Description :", cboDescription));
+    row->addWidget(cboDescription, 1);
+    row->addWidget(cmdSearch2);
+    return row;
 }
 
-QWidget* frmAddItem::figures() {
-    auto* frame = new QWidget;
-    auto* grid = new QGridLayout(frame);
-    grid->setContentsMargins({});
-    grid->addWidget(lblPrice, 0, 0);
-    grid->addWidget(txtCost, 0, 1);
-    form::row(grid, 1, 0, "Discount % :", txtDiscount);
-    form::row(grid, 2, 0, "Net Price :", txtNetPrice);
-    form::row(grid, 3, 0, "Unit :", txtUnit);
-    form::row(grid, 0, 2, "Order :", txtOrder);
-    grid->addWidget(lblServe, 1, 2);
-    grid->addWidget(txtServe, 1, 3);
-    form::row(grid, 2, 2, "Total :", txtTotal);
-    form::row(grid, 3, 2, "Inventory :", txtInventory);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(3, 1);
-    return frame;
+// What a line always needs stands in the upper row, the rest below it.
+QLayout* frmAddItem::figures() {
+    auto* grid = new QGridLayout;
+    const auto pair = [grid](int row, int column, QLabel* label, QWidget* field) {
+        field_width::fix(field, figureWidth);
+        grid->addWidget(label, row, 2 * column);
+        grid->addWidget(field, row, 2 * column + 1, Qt::AlignLeft);
+    };
+    pair(0, 0, lblPrice, txtCost);
+    pair(0, 1, form::label("Order :", txtOrder), txtOrder);
+    pair(0, 2, lblServe, txtServe);
+    pair(0, 3, form::label("Total :", txtTotal), txtTotal);
+    pair(1, 0, form::label("Discount % :", txtDiscount), txtDiscount);
+    pair(1, 1, form::label("Unit :", txtUnit), txtUnit);
+    pair(1, 2, form::label("Net Price :", txtNetPrice), txtNetPrice);
+    pair(1, 3, form::label("Inventory :", txtInventory), txtInventory);
+    form::setFont(txtTotal, 1, true);
+    return grid;
 }
 
 void frmAddItem::layOut() {
     auto* column = new QVBoxLayout(this);
-    column->addWidget(itemRow());
-    column->addWidget(figures());
+    column->addLayout(itemRow());
+    column->addLayout(figures());
     column->addLayout(buttons());
-    const QList<QWidget*> order{cboItemCode, cmdSearch1, cboDescription, cmdSearch2, txtCost,  txtDiscount,
-                                txtUnit,     txtOrder,   txtServe,       cmdSave,    cmdCancel};
+    const QList<QWidget*> order{cboItemCode, cmdSearch1,  cboDescription, cmdSearch2, txtCost,  txtOrder,
+                                txtServe,    txtDiscount, txtUnit,        cmdSave,    cmdCancel};
     for (qsizetype i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
     form::setAccessibleFromTexts(this);
-    setMinimumWidth(form::charactersWide(this, 72));
 }
 
 void frmAddItem::connectCode() {
@@ -123,6 +128,9 @@ void frmAddItem::connectFigures() {
     }
     connect(txtServe, &TextBox::focusGained, this, [this] { computeOrTell(computeLineTotal); });
     connect(txtServe, &TextBox::keyReleased, this, &frmAddItem::typeServed);
+    // Enter goes by what a line always needs.
+    connect(txtCost, &TextBox::entered, this, &frmAddItem::leavePrice);
+    connect(txtOrder, &TextBox::entered, this, [this] { txtServe->setFocus(Qt::TabFocusReason); });
     connect(txtServe, &TextBox::entered, this, &frmAddItem::pressSave);
     connect(txtUnit, &TextBox::focusLost, this, &frmAddItem::leaveUnit);
 }
@@ -164,12 +172,15 @@ void frmAddItem::showEntry(const LineEntry& entry) {
 }
 
 void frmAddItem::clearFields() {
+    hasQuantity_ = false;
     showEntry({});
     cboItemCode->setFocus();
 }
 
 void frmAddItem::showLine(const OrderLine& line) {
+    hasQuantity_ = false;
     showEntry(entryOf(line));
+    guarded([&] { txtInventory->setText(inventoryOf(StoreConnection(), line.itemCode)); });
     txtCost->setFocus();
 }
 
@@ -200,8 +211,29 @@ bool frmAddItem::CheckCode() {
 
 void frmAddItem::leaveCode() {
     if (isClosing() || isTelling() || CheckCode() || cboItemCode->text().isEmpty()) return;
+    if (takeQuantity() && CheckCode()) return;
     // Who leaves for the button that closes does not look for an item.
     if (!cmdCancel->hasFocus()) findItem(cboItemCode->text(), "P");
+}
+
+// "6*1000000059": six of that item, ordered and served.
+bool frmAddItem::takeQuantity() {
+    const QString typed = cboItemCode->text();
+    const qsizetype times = typed.indexOf(u'*');
+    const auto quantity = parseNumber(typed.left(std::max<qsizetype>(times, 0)));
+    if (!quantity) return false;
+    cboItemCode->setText(trim(typed.mid(times + 1)));
+    for (TextBox* box : {txtOrder, txtServe}) box->setText(quantity->toPlainText());
+    hasQuantity_ = true;
+    return true;
+}
+
+// With its quantities in place a line is complete.
+void frmAddItem::leavePrice() {
+    if (hasQuantity_)
+        cmdSave->click();
+    else
+        txtOrder->setFocus(Qt::TabFocusReason);
 }
 
 void frmAddItem::compute(const std::function<void(LineEntry&)>& rule) {

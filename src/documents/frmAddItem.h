@@ -4,6 +4,7 @@
 
 class ComboBox;
 class QLabel;
+class QLayout;
 class QToolButton;
 class TextBox;
 
@@ -25,8 +26,8 @@ class frmAddItem : public LinePopupOf<OrderLine> {
   private:
     void makeFields();
     void layOut();
-    QWidget* itemRow();
-    QWidget* figures();
+    QLayout* itemRow();
+    QLayout* figures();
     void connectCode();
     void connectFigures();
 
@@ -35,6 +36,8 @@ class frmAddItem : public LinePopupOf<OrderLine> {
     void compute(const std::function<void(LineEntry&)>& rule);
     void computeOrTell(const std::function<std::optional<Fault>(LineEntry&)>& rule);
     void leaveCode();
+    bool takeQuantity();
+    void leavePrice();
     void typeServed();
     void leaveUnit();
 
@@ -42,7 +45,8 @@ class frmAddItem : public LinePopupOf<OrderLine> {
     void takeItem(const QString& code, const QString& description);
 
     OrderOwner& owner_;
-    LineEntry checked_;  // as the checks have left it
+    LineEntry checked_;         // as the checks have left it
+    bool hasQuantity_ = false;  // it came in front of the code
 
     ComboBox* cboItemCode;
     ComboBox* cboDescription;

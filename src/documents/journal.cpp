@@ -7,6 +7,7 @@
 #include "platform/ui/combo_box.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/screen_registry.h"
 #include "platform/ui/search_keys.h"
 #include "platform/ui/text_box.h"
@@ -47,6 +48,7 @@ Journal::Journal(const JournalBook& book)
     top->addWidget(sortFrame());
     dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", book.columns);
     dbgMyGrid->setAccessibleName("Documents");
+    dbgMyGrid->followOwnChanges();
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(top);
     layout->addWidget(dbgMyGrid, 1);
@@ -54,11 +56,11 @@ Journal::Journal(const JournalBook& book)
     form::setAccessibleFromTexts(this);
     connectControls();
     fitKeyFilter();
-    RefreshRecord();
+    sortByOption();
 }
 
 QSize Journal::sizeHint() const {
-    const QSize roomy(form::charactersWide(this, 150), fontMetrics().height() * 36);
+    const QSize roomy(form::charactersWide(this, 175), fontMetrics().height() * 36);
     return roomy.expandedTo(minimumSizeHint());
 }
 
@@ -138,8 +140,8 @@ QLayout* Journal::commandRow() {
 void Journal::connectControls() {
     connect(cboSearch, &QComboBox::currentTextChanged, this, &Journal::fitKeyFilter);
     connect(txtSearch, &TextBox::entered, cmdSearch, &QPushButton::click);
-    connect(cmdSearch, &QPushButton::clicked, this, &Journal::searchJournal);
-    connect(sortOptions_, &QButtonGroup::buttonClicked, this, &Journal::RefreshRecord);
+    connect(cmdSearch, &QPushButton::clicked, this, [this] { searchJournal(); });
+    connect(sortOptions_, &QButtonGroup::buttonClicked, this, &Journal::sortByOption);
     connect(dbgMyGrid, &DataGrid::headerClicked, this, &Journal::sortByHeader);
     connect(dbgMyGrid, &DataGrid::picked, this, &Journal::EditRecord);
     connect(cmdNew, &QPushButton::clicked, this, &Journal::NewRecord);
@@ -161,43 +163,67 @@ void Journal::fitKeyFilter() {
     txtSearch->setKeyFilter(searchKeys(findField(book_.tables.fields, trim(cboSearch->text()))));
 }
 
-void Journal::refreshGrid() {
-    guarded([this] {
-        dbgMyGrid->setSource(StoreConnection(), {query_.columns(), query_.from(), book_.tables.table,
-                                                 query_.where(), query_.order()});
+QString Journal::whyEmpty() const {
+    if (searching()) return list_look::nothingFound(trim(txtSearch->text()), trim(cboSearch->text()));
+    if (optUnPrinted->isChecked()) return "Every document is printed. Printed, or an order, lists them.";
+    return optPrinted->isChecked() ? "No document is printed yet." : "No documents yet. New enters one.";
+}
+
+void Journal::refreshGrid(Place place) {
+    list_look::sayWhenEmpty(dbgMyGrid, whyEmpty());
+    guarded([&] {
+        dbgMyGrid->setSource(
+            StoreConnection(),
+            {query_.columns(), query_.from(), book_.tables.table, query_.where(), query_.order()}, place);
     });
 }
 
 bool Journal::searching() const { return !trim(txtSearch->text()).isEmpty(); }
 
-void Journal::searchJournal() {
+void Journal::searchJournal(Place place) {
     if (const auto fault = query_.search(cboSearch->text(), txtSearch->text(), optExact->isChecked()))
         showFault(*fault, this);
     else
-        refreshGrid();
+        refreshGrid(place);
 }
 
-void Journal::searchOrRefresh() {
+void Journal::searchOrRefresh(Place place) {
     if (searching())
-        searchJournal();
+        searchJournal(place);
     else
-        refreshGrid();
+        refreshGrid(place);
 }
 
 void Journal::applyOption() {
+    if (!sortOptions_->checkedButton()) return;  // a heading gave the order
+    dbgMyGrid->showOrder({});
     for (qsizetype i = 0; i < sorts_.size(); ++i)
         if (sorts_[i]->isChecked()) return query_.setOrder(book_.sorts[i].order);
     query_.setPrintedFilter(optPrinted->isChecked(), searching());
 }
 
-void Journal::RefreshRecord() {
+void Journal::sortByOption() {
     applyOption();
     searchOrRefresh();
 }
 
+void Journal::RefreshRecord() {
+    applyOption();
+    searchOrRefresh(Place::Kept);
+}
+
+// None of them holds any longer.
+void Journal::clearOptions() {
+    sortOptions_->setExclusive(false);
+    for (QAbstractButton* option : sortOptions_->buttons()) option->setChecked(false);
+    sortOptions_->setExclusive(true);
+}
+
 void Journal::sortByHeader(int column) {
     query_.setOrder(book_.columns[column].order);
+    clearOptions();
     searchOrRefresh();
+    dbgMyGrid->showOrder(query_.order());
 }
 
 ChildScreen* Journal::openEntry(const ScreenArguments& arguments) {
@@ -277,7 +303,7 @@ void Journal::deleteCurrent() {
     frmStatus status;
     const Outcome outcome = deleteDocument(StoreConnection(), book_.deletion, key, status);
     if (const auto* fault = std::get_if<Fault>(&outcome)) return showFault(*fault, this);
-    refreshGrid();
+    refreshGrid(Place::Kept);
 }
 
 void Journal::PrintRecord() {

@@ -12,7 +12,8 @@ class TextBox;
 
 // The browse screen of a book: a grid over its documents with search, sort, a filter on what has been
 // printed, and the commands new, edit, delete and print. It opens on what has not been printed yet. The grid
-// is a snapshot: what another workstation changes appears after a refresh.
+// is a snapshot: what another workstation changes appears after a refresh, what this one does at once and in
+// its row.
 class Journal : public ChildScreen {
     Q_OBJECT
   public:
@@ -39,13 +40,17 @@ class Journal : public ChildScreen {
                             const QString& caption);
     void connectControls();
 
-    void refreshGrid();
-    void searchJournal();
+    using Place = DataGrid::Place;
+    void refreshGrid(Place place = Place::Top);
+    QString whyEmpty() const;
+    void searchJournal(Place place = Place::Top);
     // Through the search when there is a search text, else as it stands.
-    void searchOrRefresh();
+    void searchOrRefresh(Place place = Place::Top);
+    void sortByOption();
     bool searching() const;
     void applyOption();
     void sortByHeader(int column);
+    void clearOptions();
     void fitKeyFilter();
 
     ChildScreen* openEntry(const ScreenArguments& arguments);

@@ -51,8 +51,11 @@ class LinesOf : public LineList, public LineOwner<Line> {
     bool hasLine(const QString& key) const override { return view()->findRow(0, trim(key)) >= 0; }
     Line lineAt(int row) const override { return Line::fromTexts(view()->row(row)); }
 
-    void addLine(const Line& line) override {
-        view()->addRow(line.texts());
+    void addLine(const Line& line) override { insertLine(count(), line); }
+
+    void insertLine(int row, const Line& line) override {
+        view()->insertRow(row, line.texts());
+        view()->scrollTo(view()->model()->index(row, 0));
         emit changed();
     }
 
@@ -94,6 +97,6 @@ class LinesOf : public LineList, public LineOwner<Line> {
         hold(popup);
         takeOut(row);
         showPopup();
-        popup->changeLine(line);
+        popup->changeLine(line, row);
     }
 };

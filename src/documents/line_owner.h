@@ -11,5 +11,6 @@ class LineOwner {
     virtual bool hasLine(const QString& key) const = 0;
     virtual Line lineAt(int row) const = 0;
     virtual void addLine(const Line& line) = 0;
+    virtual void insertLine(int row, const Line& line) = 0;  // before that row
     virtual void replaceLine(int row, const Line& line) = 0;
 };

@@ -3,9 +3,11 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 #include "platform/ui/grid_picker.h"
+#include "platform/ui/list_view.h"
 #include "platform/ui/settled.h"
 
 #include <QKeyEvent>
+#include <QShortcut>
 
 LinePopup::LinePopup(const QString& name, const QString& caption, const LineHabits& habits)
     : ChildScreen(name, caption, Centred, Popup),
@@ -14,9 +16,20 @@ LinePopup::LinePopup(const QString& name, const QString& caption, const LineHabi
       habits_(habits) {
     connect(cmdSave, &QPushButton::clicked, this, &LinePopup::leaveFieldAndSave);
     connect(cmdCancel, &QPushButton::clicked, this, &LinePopup::cancel);
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter})
+        connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, cmdSave, &QPushButton::click);
 }
 
 QHBoxLayout* LinePopup::buttons() const { return form::buttonsAtRight({cmdSave, cmdCancel}); }
+
+// Above the list that the lines go to, so that those just typed stay in sight.
+void LinePopup::showEvent(QShowEvent* event) {
+    ChildScreen::showEvent(event);
+    const auto* list = opener() ? opener()->findChild<ListView*>("lvwItems") : nullptr;
+    if (!list) return;
+    const int above = list->mapToGlobal(QPoint(0, 0)).y() - height();
+    move(x(), std::max(above, opener()->window()->y()));
+}
 
 void LinePopup::startLine() {
     mblnAddmode = true;

@@ -45,6 +45,7 @@ class LinePopup : public ChildScreen {
     void activated() override;
     void deactivated() override;
     void unloading() override;
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
     // cmdSave and cmdCancel at the right end.
@@ -84,10 +85,11 @@ class LinePopupOf : public LinePopup {
                 const LineHabits& habits = {})
         : LinePopup(name, caption, habits), lines_(lines) {}
 
-    // Sets the popup up for this line, which has left the list.
-    void changeLine(const Line& line) {
+    // Sets the popup up for this line, which has left the list at this row.
+    void changeLine(const Line& line, int row) {
         mblnAddmode = false;
         changed_ = line;
+        row_ = row;
         showLine(line);
     }
 
@@ -98,9 +100,16 @@ class LinePopupOf : public LinePopup {
     const LineOwner<Line>& lines() const { return lines_; }
 
   private:
-    void addTyped() override { lines_.addLine(typedLine()); }
-    void putBack() override { lines_.addLine(changed_); }
+    // A line that was changed comes back to its place.
+    void addTyped() override {
+        if (mblnAddmode)
+            lines_.addLine(typedLine());
+        else
+            lines_.insertLine(row_, typedLine());
+    }
+    void putBack() override { lines_.insertLine(row_, changed_); }
 
     LineOwner<Line>& lines_;
     Line changed_;
+    int row_ = 0;
 };

@@ -6,6 +6,7 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 
 #include <QHBoxLayout>
@@ -16,6 +17,7 @@ namespace {
 constexpr int monthWidth = 2;
 constexpr int yearWidth = 4;
 constexpr int dashes = 2;
+constexpr int serialWidth = 9;  // a counter has no more digits
 
 // A peeked serial in three boxes: month - serial - year.
 class SerialEntry : public NumberEntry {
@@ -75,8 +77,9 @@ void SerialEntry::layOut() {
     txtMonthCode->setAccessibleName("Month of the number");
     txtSerialCode->setAccessibleName("Serial of the number");
     txtYearCode->setAccessibleName("Year of the number");
-    txtMonthCode->setMaximumWidth(form::charactersWide(txtMonthCode, 5));
-    txtYearCode->setMaximumWidth(form::charactersWide(txtYearCode, 7));
+    field_width::fix(txtMonthCode, monthWidth);
+    field_width::fix(txtSerialCode, serialWidth);
+    field_width::fix(txtYearCode, yearWidth);
     QLabel* lblReference = form::label("Reference :", txtMonthCode);
     lblReference->setObjectName("lblReference");
     auto* row = new QHBoxLayout(this);
@@ -84,10 +87,11 @@ void SerialEntry::layOut() {
     row->addWidget(lblReference);
     row->addWidget(txtMonthCode);
     row->addWidget(form::label("-"));
-    row->addWidget(txtSerialCode, 1);
+    row->addWidget(txtSerialCode);
     row->addWidget(form::label("-"));
     row->addWidget(txtYearCode);
     row->addWidget(cmdIncrement);
+    row->addStretch();
 }
 
 void SerialEntry::propose() {

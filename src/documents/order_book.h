@@ -18,7 +18,6 @@ struct OrderBook {
     bool sells;       // goods leave: stock is tested, prices go to the customer's side
     bool stampsTime;  // DateUpdate holds the time of day too
 
-    Currency (*balance)(Connection&, const QString& key);
     void (*updateBalance)(Connection&, const QString& key, Boxes&);
     ContactBalance contactBalance;
 

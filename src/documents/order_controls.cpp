@@ -1,5 +1,6 @@
 #include "documents/order_controls.h"
 
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 
 static TextBox* amountShown(const char* name) { return readOnlyBox(name, Qt::AlignRight); }
@@ -11,8 +12,6 @@ OrderControls::OrderControls(const OrderScreen& words, const DocumentControls& c
       cmdServe(form::button(words.serveName, words.serveCaption, "item")),
       arrow_(new SortArrow(common.lvwItems)) {
     if (chkWholesale) chkWholesale->setObjectName("chkWholesale");
-    common.lvwItems->header()->setStretchLastSection(false);
-    common.lvwItems->header()->setSectionResizeMode(OrderLine::Description, QHeaderView::Stretch);
     auto* column = new QVBoxLayout(screen);
     column->addLayout(head(words, common));
     column->addLayout(listTitle(common));
@@ -23,17 +22,12 @@ OrderControls::OrderControls(const OrderScreen& words, const DocumentControls& c
     form::setAccessibleFromTexts(screen);
 }
 
-QStringList orderFields() {
-    return {"txtCode",    "txtMonthCode", "txtSerialCode", "txtYearCode",
-            "txtRefDate", "cboCustomer",  "txtRemarks"};
-}
-
 QList<ListColumn> orderColumns(const char* quantityHeading, const char* lastHeading) {
-    QList<ListColumn> columns{{"Item Code", 12, ListColumn::Text}, {"Description", 28, ListColumn::Text},
-                              {"Order", 8, ListColumn::Number},    {quantityHeading, 9, ListColumn::Number},
-                              {"Unit", 7, ListColumn::Text},       {"Unit Price", 12, ListColumn::Number},
-                              {"Discount", 9, ListColumn::Number}, {"Net Price", 12, ListColumn::Number},
-                              {"Total", 13, ListColumn::Number}};
+    QList<ListColumn> columns{{"Item Code", 11, ListColumn::Text}, {"Description", 36, ListColumn::Text},
+                              {"Order", 6, ListColumn::Number},    {quantityHeading, 6, ListColumn::Number},
+                              {"Unit", 6, ListColumn::Text},       {"Unit Price", 11, ListColumn::Number},
+                              {"Discount", 7, ListColumn::Number}, {"Net Price", 11, ListColumn::Number},
+                              {"Total", 12, ListColumn::Number}};
     if (lastHeading) columns.append({lastHeading, 12, ListColumn::Number});
     return columns;
 }
@@ -42,12 +36,11 @@ QGridLayout* OrderControls::head(const OrderScreen& words, const DocumentControl
     QGridLayout* grid = common.head();
     if (chkWholesale) grid->addWidget(chkWholesale, 1, 2);
     form::row(grid, 0, 3, "Term :", common.txtTerm);
+    field_width::fix(txtBalance, field_width::figure);
     form::row(grid, 1, 3, "Book Balance :", txtBalance);
     form::row(grid, 2, 3, words.document.balanceLabel, common.txtCustomerBalance);
+    if (txtCreditLimit) field_width::fix(txtCreditLimit, field_width::figure);
     if (txtCreditLimit) form::row(grid, 3, 3, "Credit Limit :", txtCreditLimit);
-    grid->setColumnStretch(1, 2);
-    grid->setColumnStretch(2, 3);
-    grid->setColumnStretch(4, 2);
     return grid;
 }
 

@@ -52,6 +52,7 @@ class OrderSave {
     Outcome run() {
         try {
             Transaction unit(store_);
+            if (auto fault = overtakenDocument(store_, document_)) return *fault;
             if (auto fault = overtaken()) return *fault;
             writeMaster();
             duplicateText_ = {};
@@ -89,8 +90,6 @@ class OrderSave {
 
     void writeMaster() {
         RemoveForPosting(store_, book_.bookId, code_);
-        // A new one has none yet; an old one's is still that of its old total. The end of the save mends it.
-        const Currency balance = document_.addMode ? Currency() : book_.balance(store_, code_);
         const QString contactId = contactIdOf(store_, document_.contactName);
         Recordset row = masterRow();
         row.set(book_.dateColumn, date_);
@@ -99,7 +98,6 @@ class OrderSave {
         row.set("Remarks", trim(document_.remarks));
         row.set("Printed", false);
         row.set("RecordLock", false);
-        row.set("Balance", balance);
         row.set("UpdatedBy", session().CurrentUserCode);
         row.set("DateUpdate", book_.stampsTime ? QVariant(Clock::now()) : QVariant(Clock::today()));
         row.update();
@@ -175,10 +173,12 @@ LineOrder lineOrder(const OrderDocument& document) {
 }
 
 LoadedOrder loadOrder(Connection& store, const OrderBook& book, const QString& key) {
+    LoadedOrder loaded;
+    loaded.document.loaded =
+        StoredState(store, {book.master, {book.detailTable, "Reference"}}, trimRight(key));
     const Recordset row = store.execute(
         {QString("SELECT * FROM %1 WHERE %2 = ?").arg(book.master.table, book.master.key), {trimRight(key)}});
     const QString contactId = row.trimmed("ContactNo");
-    LoadedOrder loaded;
     loaded.document.addMode = false;
     loaded.document.code = row.trimmed(book.master.key);
     loaded.document.date = formatDate(row.date(book.dateColumn));
@@ -196,7 +196,7 @@ QList<OrderLine> loadOrderLines(Connection& store, const OrderBook& book, const 
                                 Progress& progress) {
     const QString select = QString(
         "SELECT %1.*, tblItemMaster.Description FROM %1 LEFT JOIN tblItemMaster"
-        " ON %1.ItemID = tblItemMaster.ItemCode WHERE %1.Reference = ?");
+        " ON %1.ItemID = tblItemMaster.ItemCode WHERE %1.Reference = ? ORDER BY %1.RowNo");
     Recordset rows = store.execute({select.arg(book.detailTable), {trimRight(key)}});
     progress.begin(
         QString("Please Wait While System is Loading %1 Details...").arg(book.sells ? "Sales" : "Purchase"),

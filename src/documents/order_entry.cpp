@@ -19,9 +19,9 @@ OrderLine OrderLines::lineAt(int row) const {
     return line;
 }
 
-void OrderLines::addLine(const OrderLine& line) {
+void OrderLines::insertLine(int row, const OrderLine& line) {
     remember(line);
-    LinesOf::addLine(line);
+    LinesOf::insertLine(row, line);
 }
 
 void OrderLines::replaceLine(int row, const OrderLine& line) {
@@ -61,7 +61,7 @@ void OrderEntry::loadDocument() {
     try {
         showLoaded(loadOrder(store, orderBook(), mstrPrimary));
     } catch (const StoreError& failure) {
-        showBox(exclamation("Error Loading", "Error loading record.  " + failure.text()));
+        return void(showBox(exclamation("Error Loading", "Error loading record.  " + failure.text())));
     }
     lines_.setAll(loadOrderLines(store, orderBook(), mstrPrimary, status));
 }

@@ -11,7 +11,7 @@ class OrderLines : public LinesOf<OrderLine> {
     OrderLines(ListView* view, RecordScreen* screen);
 
     OrderLine lineAt(int row) const override;
-    void addLine(const OrderLine& line) override;
+    void insertLine(int row, const OrderLine& line) override;
     void replaceLine(int row, const OrderLine& line) override;
 
   private:

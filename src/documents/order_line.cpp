@@ -213,6 +213,11 @@ bool CheckCode(Connection& store, const OrderBook& book, const LineOrder& order,
     return true;
 }
 
+QString inventoryOf(Connection& store, const QString& itemCode) {
+    const Recordset item = itemRow(store, itemCode);
+    return item.eof() ? QString("0") : item.currency("Balance").toPlainText();
+}
+
 void computeNetPrice(LineEntry& entry) {
     const Currency discount = numberOrZero(entry.discount);
     if (discount.isZero()) {

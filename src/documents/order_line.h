@@ -68,6 +68,9 @@ struct LineOrder {
 // added gets the item's price and the contact's discount; a line being changed loses its discount.
 bool CheckCode(Connection& store, const OrderBook& book, const LineOrder& order, LineEntry& entry);
 
+// The stock of an item, as the dialog shows it; "0" of one that is not there.
+QString inventoryOf(Connection& store, const QString& itemCode);
+
 // With no discount the net price is the cost's text as it stands.
 void computeNetPrice(LineEntry& entry);
 // Net price x served. A quantity that is no number is a fault of its field.

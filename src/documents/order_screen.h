@@ -13,7 +13,5 @@ struct OrderScreen {
     bool sortDirties;  // a click on a column header raises mblnUpdated
 };
 
-// The fields of an order that a person types in: what is typed is asked about before it is left.
-QStringList orderFields();
 // The columns of an order's list. The last heading is of a column that stays empty; null: there is none.
 QList<ListColumn> orderColumns(const char* quantityHeading, const char* lastHeading = nullptr);

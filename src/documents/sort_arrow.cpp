@@ -1,10 +1,10 @@
 #include "documents/sort_arrow.h"
 
+#include "platform/ui/column_header.h"
 #include "platform/ui/form.h"
 #include "platform/ui/icons.h"
 #include "platform/ui/list_view.h"
 
-#include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
 
@@ -44,11 +44,5 @@ void SortArrow::hide() {
 // At the end of its heading that the text leaves free.
 void SortArrow::place() {
     if (column_ < 0) return;
-    const QHeaderView* header = list_->header();
-    imgArrow->adjustSize();
-    const int left = header->sectionViewportPosition(column_);
-    const auto alignment = list_->model()->headerData(column_, Qt::Horizontal, Qt::TextAlignmentRole);
-    const bool textStandsRight = alignment.value<Qt::Alignment>() & Qt::AlignRight;
-    const int free = header->sectionSize(column_) - imgArrow->width() - 2;
-    imgArrow->move(textStandsRight ? left + 2 : left + free, (header->height() - imgArrow->height()) / 2);
+    imgArrow->setGeometry(static_cast<const ColumnHeader*>(list_->header())->arrowRect(column_));
 }

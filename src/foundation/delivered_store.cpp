@@ -1,13 +1,11 @@
 #include "foundation/encryption.h"
+#include "foundation/new_store.h"
 #include "foundation/schema.h"
 #include "foundation/session.h"
 #include "platform/clock.h"
 #include "platform/parsing.h"
-#include "platform/store/schema_steps.h"
-#include "platform/store/transaction.h"
+#include "platform/store/connection.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QRandomGenerator>
 
 const std::vector<MenuRight>& menuRights() {
@@ -100,37 +98,14 @@ void addUser(Connection& store, const QString& code, const QString& description,
     user.update();
     store.run({"INSERT INTO tblUserDetails (UserID, MenuID) SELECT ?, MenuCode FROM tblUserMenu", {code}});
 }
+}  // namespace
 
-void fill(const QString& path) {
-    Connection store;
-    store.create(path, storePassword);
-    applySchemaSteps(store);
-    Transaction unit(store);
+void fillDeliveredStore(Connection& store) {
     addProfile(store);
     addMenuRights(store);
     addUnits(store);
     addUser(store, "ADMIN", "System Administrator", "admin", true);
     addUser(store, masterUserCode, "Master Login", randomPassword(), false);
-    unit.commit();
 }
 
-[[noreturn]] void refuse(const QString& path, const char* reason) {
-    throw StoreError(StoreError::general, QString("The store \"%1\" cannot be made: %2").arg(path, reason));
-}
-}  // namespace
-
-// Made under another name, so that the store is there whole or not at all.
-void makeDeliveredStore(const QString& path) {
-    if (QFileInfo::exists(path)) refuse(path, "the file already exists.");
-    registerSchema();
-    const QString draft = path + ".new";
-    QFile::remove(draft);
-    try {
-        fill(draft);
-        QFile::remove(draft + "-journal");  // an empty one
-        if (!QFile::rename(draft, path)) refuse(path, "the file cannot be given its name.");
-    } catch (...) {
-        QFile::remove(draft);
-        throw;
-    }
-}
+void makeDeliveredStore(const QString& place) { makeStore(place, fillDeliveredStore); }

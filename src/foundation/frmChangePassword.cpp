@@ -8,8 +8,6 @@
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 
-#include <QVBoxLayout>
-
 namespace {
 
 TextBox* passwordBox(const QString& name) {
@@ -40,14 +38,7 @@ void frmChangePassword::build() {
     QPushButton* cancel = form::button("cmdCancel", "&Cancel");
     connect(ok, &QPushButton::clicked, this, &frmChangePassword::cmdOK_Click);
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(16, 16, 16, 12);
-    layout->setSpacing(12);
-    layout->addLayout(fields);
-    layout->addStretch();
-    layout->addLayout(form::buttonsAtRight({ok, cancel}));
-    form::setAccessibleFromTexts(this);
+    layOut(fields, {ok, cancel});
 }
 
 void frmChangePassword::cmdOK_Click() {

@@ -97,7 +97,7 @@ QWidget* frmOpening::makePicture() {
     auto* strip = new QFrame;
     strip->setObjectName("picture");
     strip->setStyleSheet(
-        "#picture { background: qlineargradient(x1:0, y1:0, x2:0.6, y2:1, stop:0 #1f4e79, stop:1 #2e8b8b); "
+        "#picture { background: qlineargradient(x1:0, y1:0, x2:0.6, y2:1, stop:0 #1f4e79, stop:1 #257272); "
         "}");
     const int size = pixels(this, birdSize * 15);
     strip->setFixedWidth(size * 5 / 3);

@@ -152,11 +152,22 @@ QString typeOf(const QString& kind) {
     return types[kind];
 }
 
-QString createTable(const Table& table) {
+// The columns by name, and with their types.
+QStringList columnsOf(const Table& table) {
+    QStringList names;
+    for (const QString& column : QString(table.columns).split(", ")) names += column.section(u' ', 0, 0);
+    return names;
+}
+
+QStringList typedColumns(const Table& table) {
     QStringList columns;
     for (const QString& column : QString(table.columns).split(", "))
         columns += column.section(u' ', 0, 0) + u' ' + typeOf(column.section(u' ', 1));
-    return QString("CREATE TABLE %1 (%2)").arg(table.name, columns.join(", "));
+    return columns;
+}
+
+QString createTable(const QString& name, const QStringList& columns) {
+    return QString("CREATE TABLE %1 (%2)").arg(name, columns.join(", "));
 }
 
 QString createIndex(const Table& index) {
@@ -172,45 +183,119 @@ QStringList flagColumns(const Table& table) {
 }
 
 // A true that is written as another number than -1 becomes -1: statements compare with that.
-QString keepFlagsTrue(const Table& table, const QString& event) {
+QString keepFlagsTrue(const Table& table, const QString& event, const QString& change, const QString& key) {
     QStringList others;
     QStringList changes;
     for (const QString& flag : flagColumns(table)) {
         others += QString("NEW.%1 NOT IN (0, -1)").arg(flag);
-        changes += QString("%1 = -(NEW.%1 <> 0)").arg(flag);
+        changes += change.arg(flag);
     }
     return QString(
-               "CREATE TRIGGER %1_%2 AFTER %3 ON %1 WHEN %4 BEGIN UPDATE %1 SET %5 WHERE rowid = NEW.rowid; "
+               "CREATE TRIGGER %1_%2 AFTER %3 ON %1 WHEN %4 BEGIN UPDATE %1 SET %5 WHERE %6 = NEW.%6; "
                "END")
-        .arg(table.name, event.section(u' ', 0, 0), event, others.join(" OR "), changes.join(", "));
+        .arg(table.name, event.section(u' ', 0, 0), event, others.join(" OR "), changes.join(", "), key);
 }
 
-QStringList flagTriggers(const Table& table) {
+QStringList flagTriggers(const Table& table, const QString& change, const QString& key) {
     const QStringList flags = flagColumns(table);
     if (flags.isEmpty()) return {};
-    return {keepFlagsTrue(table, "INSERT"), keepFlagsTrue(table, "UPDATE OF " + flags.join(", "))};
+    return {keepFlagsTrue(table, "INSERT", change, key),
+            keepFlagsTrue(table, "UPDATE OF " + flags.join(", "), change, key)};
 }
 
 QStringList firstStatements() {
     QStringList statements;
-    for (const Table& table : tables) statements += createTable(table);
-    for (const Table& table : tables) statements += flagTriggers(table);
+    for (const Table& table : tables) statements += createTable(table.name, typedColumns(table));
+    for (const Table& table : tables) statements += flagTriggers(table, "%1 = -(NEW.%1 <> 0)", "rowid");
     for (const Table& index : indexes) statements += createIndex(index);
     return statements;
 }
+
+constexpr const char* cashierDay = "CREATE UNIQUE INDEX tblPOS_CashierDay ON tblPOS (Cashier, SalesDate)";
+
+QStringList touchTriggers(const QString& insert) {
+    const QString trigger =
+        "CREATE TRIGGER StockTouched_%1 AFTER %2 ON tblStockValuation BEGIN " + insert + "; END";
+    const QString update = "UPDATE OF ZevRef, ItemCode, BookID, TransDate, StockIn, InPrice, StockOut";
+    return {trigger.arg("INSERT", "INSERT", "NEW"), trigger.arg("DELETE", "DELETE", "OLD"),
+            trigger.arg("FROM", update, "OLD"), trigger.arg("TO", update, "NEW")};
+}
+
+const QStringList touchTables{
+    "CREATE TABLE StockPass (Nr INTEGER NOT NULL PRIMARY KEY, Began DATE)",
+    "CREATE TABLE StockTouched (Pass INTEGER NOT NULL, ItemCode TEXT COLLATE NOCASE NOT NULL,"
+    " PRIMARY KEY (Pass, ItemCode)) WITHOUT ROWID"};
+
 // Who costs all items must know which of them other workstations touch meanwhile (books/touched_items).
 QStringList touchedItemsStatements() {
-    const QString trigger =
-        "CREATE TRIGGER StockTouched_%1 AFTER %2 ON tblStockValuation BEGIN"
-        " INSERT OR IGNORE INTO StockTouched SELECT Nr, %3.ItemCode FROM StockPass; END";
-    const QString update = "UPDATE OF ZevRef, ItemCode, BookID, TransDate, StockIn, InPrice, StockOut";
-    return {"CREATE TABLE StockPass (Nr INTEGER NOT NULL PRIMARY KEY, Began DATE)",
-            "CREATE TABLE StockTouched (Pass INTEGER NOT NULL, ItemCode TEXT COLLATE NOCASE NOT NULL,"
-            " PRIMARY KEY (Pass, ItemCode)) WITHOUT ROWID",
-            trigger.arg("INSERT", "INSERT", "NEW"),
-            trigger.arg("DELETE", "DELETE", "OLD"),
-            trigger.arg("FROM", update, "OLD"),
-            trigger.arg("TO", update, "NEW")};
+    return touchTables +
+           touchTriggers("INSERT OR IGNORE INTO StockTouched SELECT Nr, %3.ItemCode FROM StockPass");
+}
+
+// ---- every table with a key of its own
+
+// A table without a number for its rows gets one, in its last column.
+QString keyOf(const Table& table) {
+    const QStringList columns = QString(table.columns).split(", ");
+    return columns[0].endsWith(" numberkey") ? columns[0].section(u' ', 0, 0) : "RowNo";
+}
+
+bool isKeyed(const Table& table) { return keyOf(table) != "RowNo"; }
+
+QStringList keyedColumns(const Table& table) {
+    QStringList columns = typedColumns(table);
+    if (isKeyed(table)) return columns;
+    columns.replaceInStrings("PRIMARY KEY", "UNIQUE");
+    return columns + QStringList{"RowNo INTEGER NOT NULL PRIMARY KEY"};
+}
+
+QStringList keyedTriggers(const Table& table) {
+    return flagTriggers(table, "%1 = CASE WHEN NEW.%1 = 0 THEN 0 ELSE -1 END", keyOf(table));
+}
+
+QStringList keyedTouchTriggers() {
+    return touchTriggers(
+        "INSERT INTO StockTouched (Pass, ItemCode) SELECT Nr, %3.ItemCode FROM StockPass WHERE 1 = 1"
+        " ON CONFLICT DO NOTHING");
+}
+
+// The rows go over into a table of the new form, with the numbers that they have had so far.
+QStringList rebuild(const Table& table) {
+    const QString columns = columnsOf(table).join(", ");
+    const QString name = table.name;
+    QStringList statements{
+        createTable(name + "_new", keyedColumns(table)),
+        QString("INSERT INTO %1_new (%2, RowNo) SELECT %2, rowid FROM %1").arg(name, columns),
+        "DROP TABLE " + name, QString("ALTER TABLE %1_new RENAME TO %1").arg(name)};
+    for (const Table& index : indexes)
+        if (name == index.name) statements += createIndex(index);
+    return statements;
+}
+
+QStringList dropFlagTriggers(const Table& table) {
+    if (flagColumns(table).isEmpty()) return {};
+    return {QString("DROP TRIGGER %1_INSERT").arg(table.name),
+            QString("DROP TRIGGER %1_UPDATE").arg(table.name)};
+}
+
+QStringList keyStatements() {
+    QStringList statements;
+    for (const Table& table : tables) {
+        statements += isKeyed(table) ? dropFlagTriggers(table) : rebuild(table);
+        statements += keyedTriggers(table);
+    }
+    for (const char* trigger : {"INSERT", "DELETE", "FROM", "TO"})
+        statements += QString("DROP TRIGGER StockTouched_%1").arg(trigger);
+    return statements + keyedTouchTriggers();
+}
+
+// All of it at once.
+QStringList wholeSchema() {
+    QStringList statements;
+    for (const Table& table : tables) statements += createTable(table.name, keyedColumns(table));
+    for (const Table& table : tables) statements += keyedTriggers(table);
+    for (const Table& index : indexes) statements += createIndex(index);
+    return statements + QStringList{cashierDay} + touchTables + keyedTouchTriggers();
 }
 }  // namespace
 
@@ -242,8 +327,9 @@ QStringList schemaFaults(Connection& store) {
 }
 
 void registerSchema() {
-    setSchemaSteps({{"The tables and indexes of the first version.", firstStatements()},
-                    {"The day of a cashier is opened once.",
-                     {"CREATE UNIQUE INDEX tblPOS_CashierDay ON tblPOS (Cashier, SalesDate)"}},
-                    {"The items that a costing of all finds touched by others.", touchedItemsStatements()}});
+    setSchemaSteps(
+        {{"The tables and indexes of the first version.", firstStatements()},
+         {"The day of a cashier is opened once.", {cashierDay}},
+         {"The items that a costing of all finds touched by others.", touchedItemsStatements()},
+         {"Every table has a key of its own, which no engine renumbers.", keyStatements(), wholeSchema()}});
 }

@@ -8,9 +8,11 @@ class Connection;
 void registerSchema();
 
 // Writes the delivered store: schema, indexes, the profile row with the company name "Zevrin", the catalogue
-// of rights, a few units, the user ADMIN and the row for the master login. Throws StoreError; the file must
-// not exist.
-void makeDeliveredStore(const QString& path);
+// of rights, a few units, the user ADMIN and the row for the master login, whole or not at all. Throws
+// StoreError; the file must not exist, and a database of a server must be empty.
+void makeDeliveredStore(const QString& place);
+// Fills the tables of a new store.
+void fillDeliveredStore(Connection& store);
 
 // What of the store's tables, indexes and triggers is missing or other than this program makes them.
 QStringList schemaFaults(Connection& store);

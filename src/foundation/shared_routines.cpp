@@ -104,12 +104,6 @@ bool UserHasAccess(Connection& store, const QString& column) {
     return FlagFieldSet(store, "tblUserMaster", "UserCode", session().CurrentUserCode, column);
 }
 
-bool UserHasMenu(Connection& store, int menuCode) {
-    const Sql right{"SELECT 1 FROM tblUserDetails WHERE UserID = ? AND MenuID = ?",
-                    {trimRight(session().CurrentUserCode), menuCode}};
-    return !store.execute(right).eof();
-}
-
 QDate GetFirstPurchaseDate(Connection& store) {
     return documentDate(store, "tblPurchaseMaster", "PurchaseDate", "MIN");
 }

@@ -59,8 +59,6 @@ QString GetApprovedBy(Connection& store);
 
 // A flag column of the current user's row in tblUserMaster; false with no row.
 bool UserHasAccess(Connection& store, const QString& column);
-// True when the current user has a row of tblUserDetails with this menu code.
-bool UserHasMenu(Connection& store, int menuCode);
 
 // The first and last document dates; today with no document.
 QDate GetFirstPurchaseDate(Connection& store);

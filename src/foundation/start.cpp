@@ -1,8 +1,11 @@
 #include "foundation/start.h"
 
+#include "foundation/frmServerPassword.h"
 #include "foundation/schema.h"
 #include "foundation/session.h"
 #include "foundation/setting_files.h"
+#include "foundation/store_place.h"
+#include "platform/store/place.h"
 #include "platform/store/store_care.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/frmStatus.h"
@@ -46,9 +49,21 @@ bool hasUsers() {
 
 }  // namespace
 
+// A server that lacks a password: the person is asked for it, once.
+static void openPlace(Connection& store, const QString& place) {
+    try {
+        store.open(place, passwordFor(place));
+    } catch (const StoreError& error) {
+        if (error.number() != needsPassword) throw;
+        const auto password = frmServerPassword::ask();
+        if (!password) throw;
+        store.open(place, *password);
+    }
+}
+
 // Damage after a sudden end is found here, and not by a save in the middle of the day.
 static void openSound(Connection& store) {
-    store.open(programFolder().filePath(storeFileName), storePassword);
+    openPlace(store, storePlace());
     if (!store.wasLeftOpen()) return;
     frmStatus progress;
     checkStore(store, progress);
@@ -68,9 +83,11 @@ bool OpenDatabase() {
 bool Main() {
     registerSchema();
     if (!OpenDatabase()) {
-        showBox(exclamation(
-            "Database Not Found!",
-            "Database not found!, Please Place the Database with the Same Path as the .EXE File"));
+        // A server has its own box, which told all.
+        if (!isServer(storePlace()))
+            showBox(exclamation(
+                "Database Not Found!",
+                "Database not found!, Please Place the Database with the Same Path as the .EXE File"));
         return false;
     }
     if (!hasUsers()) {

@@ -44,7 +44,8 @@ Outcome writeContact(Connection& store, const ContactEntry& entry, bool addMode,
             return errorFault("Contact Name Already Exist!", "txtName");
     }
     const QString id = trim(contactId);
-    writeRecord(store, contactMaster, addMode, id, columnsOf(entry, id), entry.changed);
+    if (const Check fault = writeRecord(store, contactMaster, addMode, id, columnsOf(entry, id), entry.edit))
+        return *fault;
     save.commit();
     return Done{};
 }

@@ -17,13 +17,13 @@ struct ContactEntry {
     QString Discount = {};
     bool IsCustomer = false;
     bool IsSupplier = false;
-    QSet<QString> changed = {};  // of an old contact: the columns that are written
+    MasterEdit edit = {};  // of an old contact
 };
 
 // Checks, in the system's order, and writes: a new contact, or what of the one of contactId was changed. All
-// or nothing. For a
-// new one the id is drawn here and put into contactId, the duplicate test coming after. An edit with an empty
-// id passes the checks and writes nothing. A failing store is a Fault.
+// or nothing. For a new one the id is drawn here and put into contactId, the duplicate test coming after. An
+// edit with an empty id passes the checks and writes nothing. One of a contact that someone else has changed
+// meanwhile, in any column, is a Fault. A failing store is a Fault.
 Outcome SaveContact(Connection& store, const ContactEntry& entry, bool addMode, QString& contactId);
 
 // Fault when a document, a check or an item refers to the contact.

@@ -37,7 +37,7 @@ DataGrid::Source contactFoundSource(const QString& search, const QString& filter
 frmContactFound* openContactFound(Connection& store, const QString& search, const QString& filter,
                                   GridPicker::Pick pick) {
     auto picker = std::make_unique<frmContactFound>(std::move(pick));
-    if (!guarded([&] { picker->list(store, contactFoundSource(search, filter)); })) return nullptr;
+    if (!guarded([&] { picker->list(store, contactFoundSource(search, filter), search); })) return nullptr;
     ScreenRegistry::instance().show(picker.get());
     return picker.release();
 }

@@ -11,19 +11,19 @@ using F = MasterField;
 QList<MasterField> contactFields() {
     return {
         {"txtName", "&Name :", "ContactName", F::Text, width::contactName, F::Open, "", false, 0, 0, 2},
-        {"txtTelNo", "Tele&phone No. :", "TelNo", F::Text, width::telNo, F::Open, "", false, 0, 2},
-        {"txtAddress", "Addre&ss :", "Address", F::Text, width::address, F::Open, "", false, 1, 0, 2},
-        {"txtEmail", "Ema&il :", "eMail", F::Text, width::eMail, F::Open, "", false, 1, 2},
-        {"txtTerm", "Terms (da&ys) :", "Terms", F::Days, width::number, F::Open, "0", false, 2, 0},
+        {"txtAddress", "Addre&ss :", "Address", F::Text, width::address, F::Open, "", false, 1, 0, 3},
+        {"txtTelNo", "Tele&phone No. :", "TelNo", F::Text, width::telNo, F::Open, "", false, 2, 0},
+        {"txtEmail", "Ema&il :", "eMail", F::Text, width::eMail, F::Open, "", false, 2, 1, 2},
+        {"txtTerm", "Terms (da&ys) :", "Terms", F::Days, width::number, F::Open, "0", false, 3, 0},
         {"txtCreditLimit", "&Credit Limit :", "CreditLimit", F::Amount, width::number, F::Open, "0.00", false,
-         2, 1},
+         3, 1},
         {"txtDiscount", "Discount, Percenta&ge :", "Discount", F::Percent, width::number, F::Open, "0", false,
-         2, 2},
-        {"chkCustomer", "C&ustomer", "IsCustomer", F::Flag, 0, F::Open, "", false, 3, 0},
-        {"chkSupplier", "Supp&lier", "IsSupplier", F::Flag, 0, F::Open, "", false, 3, 1},
-        {"txtLastUpdate", "Last Update :", "DateUpdate", F::Date, width::date, F::Never, "", false, 3, 2},
-        {"txtRemarks", "Remar&ks :", "Remarks", F::Text, width::remarks, F::Open, "", false, 4, 0, 2},
-        {"txtUpdatedBy", "Updated By :", "UpdatedBy", F::Text, width::userCode, F::Never, "", false, 4, 2},
+         3, 2},
+        {"chkCustomer", "C&ustomer", "IsCustomer", F::Flag, 0, F::Open, "", false, 4, 0},
+        {"chkSupplier", "Supp&lier", "IsSupplier", F::Flag, 0, F::Open, "", false, 4, 1},
+        {"txtLastUpdate", "Last Update :", "DateUpdate", F::Date, width::date, F::Never, "", false, 4, 2},
+        {"txtRemarks", "Remar&ks :", "Remarks", F::Text, width::remarks, F::Open, "", false, 5, 0, 2},
+        {"txtUpdatedBy", "Updated By :", "UpdatedBy", F::Text, width::userCode, F::Never, "", false, 5, 2},
     };
 }
 
@@ -77,7 +77,7 @@ ContactEntry frmContacts::entry() const {
         .Discount = typed("txtDiscount"),
         .IsCustomer = fields().flag("chkCustomer"),
         .IsSupplier = fields().flag("chkSupplier"),
-        .changed = fields().changedColumns(),
+        .edit = edit(),
     };
 }
 

@@ -35,7 +35,7 @@ DataGrid::Source itemFoundSource(const QString& search, const QString& kind) {
 frmFound* openItemFound(Connection& store, const QString& search, const QString& kind,
                         GridPicker::Pick pick) {
     auto picker = std::make_unique<frmFound>(std::move(pick));
-    if (!guarded([&] { picker->list(store, itemFoundSource(search, kind)); })) return nullptr;
+    if (!guarded([&] { picker->list(store, itemFoundSource(search, kind), search); })) return nullptr;
     ScreenRegistry::instance().show(picker.get());
     return picker.release();
 }

@@ -98,7 +98,7 @@ ItemEntry frmItem::entry() const {
         .DateAquired = typed("txtDateAquired"),
         .OrderLevel = typed("txtReorder"),
         .InventoryBalance = typed("txtInventoryBalance"),
-        .changed = fields().changedColumns(),
+        .edit = edit(),
     };
 }
 

@@ -5,6 +5,7 @@
 #include "masters/unit_master.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
@@ -35,6 +36,7 @@ QLabel* heading(const QString& text) {
 frmUnitGrid::frmUnitGrid() : RecordScreen("frmUnitGrid", "Unit Maintenance") {
     lvwRecord = new ListView("lvwRecord", {{"Unit Code", 24}});
     lvwRecord->setAccessibleName("Units");
+    list_look::sayWhenEmpty(lvwRecord, "No units yet. New Record (Ctrl+N) enters one.");
     txtUnit = new TextBox("txtUnit");
     txtUnit->setKeyFilter(keys::freeText());
     txtUnit->setCapacity(typedRoom);

@@ -91,7 +91,7 @@ Check storedPricesFault(Connection& store, const ItemEntry& entry) {
     for (auto [column, price] : {std::pair{"CostPrice", &prices.CostPrice},
                                  {"SellingPrice", &prices.SellingPrice},
                                  {"WholesalePrice", &prices.WholesalePrice}}) {
-        const bool changed = entry.changed.contains(column);
+        const bool changed = entry.edit.changed.contains(column);
         anyChanged |= changed;
         if (!changed && !row.eof()) *price = row.currency(column).toPlainText();
     }
@@ -104,7 +104,10 @@ Outcome writeItem(Connection& store, const ItemEntry& entry, bool addMode) {
     if (const Check found = addMode ? duplicateFault(store, entry) : storedPricesFault(store, entry))
         return *found;
     const QString code = trim(entry.ItemCode);
-    writeRecord(store, itemMaster, addMode, code, columnsOf(store, entry), entry.changed);
+    const QSet<QString> ordersWrite{"CostPrice", "SellingPrice", "WholesalePrice"};
+    if (const Check fault = writeRecord(store, itemMaster, addMode, code, columnsOf(store, entry), entry.edit,
+                                        ordersWrite - entry.edit.changed + QSet<QString>{"Balance"}))
+        return *fault;
     Done done;
     StoreItemBalance(store, code, done.boxes);
     if (addMode) StoreLastItemCode(store, code);

@@ -19,13 +19,14 @@ struct ItemEntry {
     QString DateAquired = {};
     QString OrderLevel = {};
     QString InventoryBalance = {};
-    QSet<QString> changed = {};  // of an old item: the columns that are written
+    MasterEdit edit = {};  // of an old item
 };
 
 // Checks, in the system's order, and writes: a new item, or what of the one of the entry's code was changed.
-// All or nothing. The
-// balance is recomputed from the books, whatever was typed; the code of a new item is the base of the next.
-// An edit with an empty currentCode passes the checks and writes nothing. A failing store is a Fault.
+// All or nothing. The balance is recomputed from the books, whatever was typed; the code of a new item is the
+// base of the next. An edit with an empty currentCode passes the checks and writes nothing. One of an item
+// that someone else has changed meanwhile is a Fault. Of the prices only those count that this edit changes
+// too: orders write them beside. The balance never counts. A failing store is a Fault.
 Outcome SaveItem(Connection& store, const ItemEntry& entry, bool addMode, const QString& currentCode);
 
 // Fault when a sales or a purchase line holds the item.

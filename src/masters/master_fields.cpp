@@ -6,6 +6,7 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
 
@@ -23,6 +24,22 @@ KeyFilter keysOf(MasterField::Kind kind) {
             return keys::date();
         default:
             return keys::freeText();
+    }
+}
+
+// In characters, as far as there is room.
+int widthOf(const MasterField& field) {
+    switch (field.kind) {
+        case MasterField::Days:
+        case MasterField::Percent:
+            return field_width::count;
+        case MasterField::Amount:
+        case MasterField::Price:
+            return field_width::figure;
+        case MasterField::Date:
+            return field_width::date;
+        default:
+            return std::min(field.capacity, field_width::remarks);
     }
 }
 
@@ -101,10 +118,9 @@ MasterFields::MasterFields(const QList<MasterField>& fields, QGridLayout* layout
 void MasterFields::add(const MasterField& field, QGridLayout* layout) {
     QWidget* made = makeControl(field);
     const int column = 2 * field.pair, span = 2 * field.pairs - 1;
-    if (field.kind == MasterField::Flag)
-        layout->addWidget(made, field.line, column + 1);
-    else
-        form::row(layout, field.line, column, field.label, made, span);
+    if (field.kind == MasterField::Flag) return layout->addWidget(made, field.line, column + 1);
+    layout->addWidget(form::label(field.label, made), field.line, column);
+    layout->addLayout(field_width::upTo(made, widthOf(field)), field.line, column + 1, 1, span);
 }
 
 QWidget* MasterFields::makeControl(const MasterField& field) {

@@ -49,8 +49,6 @@ Sql valueCondition(const SearchField& field, const QString& value) {
 }
 }  // namespace
 
-Fault errorFault(const QString& text, const QString& focus) { return {exclamation("Error!", text), focus}; }
-
 QString firstRecord(Connection& store, const MasterTable& master) {
     return keyOf(store.execute(about("SELECT <key> FROM <table> ORDER BY <key> ASC LIMIT 1", master)),
                  master);
@@ -80,21 +78,25 @@ bool nameFound(Connection& store, const char* table, const char* column, const Q
     return false;
 }
 
-void writeRecord(Connection& store, const MasterTable& master, bool addMode, const QString& key,
-                 const ColumnValues& values, const QSet<QString>& changed) {
+std::optional<Fault> writeRecord(Connection& store, const MasterTable& master, bool addMode,
+                                 const QString& key, const ColumnValues& values, const MasterEdit& edit,
+                                 const QSet<QString>& keptByProgram) {
     const Sql where{about("WHERE <key> = ?", master), {key}};
     Recordset row = store.openTable(master.table, addMode ? Sql{} : where);
     if (addMode)
         row.addNew();
     else if (row.eof())
         throw StoreError(StoreError::noCurrentRow, "The row has been deleted by another user.");
-    else if (changed.isEmpty())
-        return;
+    else if (edit.changed.isEmpty())
+        return std::nullopt;
+    else if (auto fault = edit.loaded.overtaken(store, keptByProgram))
+        return fault;
     for (const auto& [column, value] : values)
-        if (addMode || changed.contains(column)) row.set(column, value);
+        if (addMode || edit.changed.contains(column)) row.set(column, value);
     row.set("UpdatedBy", trim(session().CurrentUserCode));
     row.set("DateUpdate", Clock::today());
     row.update();
+    return std::nullopt;
 }
 
 Outcome deleteRecord(Connection& store, const MasterTable& master, const QList<DeleteGuard>& guards,

@@ -1,19 +1,16 @@
 #pragma once
+#include "foundation/stored_state.h"
 #include "platform/outcome.h"
 #include "platform/search_field.h"
 #include "platform/store/connection.h"
 
 #include <QList>
-#include <QSet>
 #include <optional>
 #include <variant>
 
 // What the item and the contact master do alike with their tables. Without a window; failures are StoreError.
 
-struct MasterTable {
-    const char* table;
-    const char* key;
-};
+using MasterTable = KeyedTable;
 
 // The walk through the whole table in the order of its keys. First and last: empty for an empty table. Next
 // and previous: none at the end; StoreError noCurrentRow when the key is not there.
@@ -22,18 +19,22 @@ QString lastRecord(Connection& store, const MasterTable& master);
 std::optional<QString> nextRecord(Connection& store, const MasterTable& master, const QString& key);
 std::optional<QString> previousRecord(Connection& store, const MasterTable& master, const QString& key);
 
-// Refused with the box "Error!"; the focus goes to the control of this name, or stays.
-Fault errorFault(const QString& text, const QString& focus = {});
-
 // Whether a row has this name: all letters alike, Ñ and ñ too, blanks at the ends left out.
 bool nameFound(Connection& store, const char* table, const char* column, const QString& name);
 
+// What a person has done to a stored record.
+struct MasterEdit {
+    QSet<QString> changed = {};  // the columns that are written
+    StoredState loaded = {};     // the record as it was when it was shown
+};
+
 // Writes a record: a new one whole, an old one in the columns that a person changed, and then who did it and
-// when. So what another workstation has stored meanwhile stays, and nothing changed is nothing written.
-// StoreError noCurrentRow when an old one has gone.
+// when. So what the program keeps by itself stays as it is by then, and nothing changed is nothing written.
+// An old one that someone else has changed meanwhile is refused. StoreError noCurrentRow when it has gone.
 using ColumnValues = QList<std::pair<const char*, QVariant>>;
-void writeRecord(Connection& store, const MasterTable& master, bool addMode, const QString& key,
-                 const ColumnValues& values, const QSet<QString>& changed);
+std::optional<Fault> writeRecord(Connection& store, const MasterTable& master, bool addMode,
+                                 const QString& key, const ColumnValues& values, const MasterEdit& edit,
+                                 const QSet<QString>& keptByProgram = {});
 
 // A table that may refer to the record, and what is said when it does.
 struct DeleteGuard {

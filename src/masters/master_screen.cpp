@@ -8,17 +8,16 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/form.h"
+#include "platform/ui/hourglass.h"
+#include "platform/ui/list_look.h"
+#include "platform/ui/named_control.h"
 #include "platform/ui/search_keys.h"
 #include "platform/ui/text_box.h"
 
-namespace {
-// The hourglass while a list is read.
-struct Hourglass {
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-    Q_DISABLE_COPY_MOVE(Hourglass)
-};
+#include <QItemSelectionModel>
+#include <QKeyEvent>
 
+namespace {
 bool hasField(const QList<SearchField>& fields, SearchField::Kind kind) {
     return std::ranges::any_of(fields, [kind](const SearchField& field) { return field.kind == kind; });
 }
@@ -54,6 +53,7 @@ void MasterScreen::DisplayRecord(const QString& key) {
     if (currentKey_.isEmpty()) return;
     try {
         const MasterTable& master = descriptor_.master;
+        loaded_ = StoredState(StoreConnection(), {master}, currentKey_);
         const Recordset row = StoreConnection().execute(
             {QString("SELECT * FROM %1 WHERE %2 = ?").arg(master.table, master.key), {currentKey_}});
         if (row.eof()) return;
@@ -86,17 +86,17 @@ void MasterScreen::compose(bool duplicate) {
         UnlockFields();
         if (!duplicate) fields_->blankForNew();
         fields_->blankStamps();
-        findChild<QWidget*>(descriptor_.firstField)->setFocus();
+        namedControl<QWidget>(this, descriptor_.firstField)->setFocus();
         currentKey_ = drawKey(duplicate);
     });
 }
 
 // It is the grid's row that is edited, not the record on show.
 void MasterScreen::EditRecord() {
-    DisplayRecord(gridKey());
+    DisplayRecord(keyToEdit());
     mblnUpdated = !descriptor_.editShowsLast;
     UnlockFields();
-    findChild<QWidget*>(descriptor_.firstField)->setFocus();
+    namedControl<QWidget>(this, descriptor_.firstField)->setFocus();
 }
 
 void MasterScreen::SaveRecord() {
@@ -118,7 +118,16 @@ void MasterScreen::finishSave(const QString& key) {
     if (descriptor_.listsAfterSave) listAll();
     LockFields();
     UpdateRecordCount();
+    markSaved(key);
 }
+
+// The grid stands on what was saved where it lists it, and an edit takes that in any case.
+void MasterScreen::markSaved(const QString& key) {
+    dbgMyGrid->selectKey(descriptor_.master.key, key);
+    savedKey_ = key;
+}
+
+QString MasterScreen::keyToEdit() const { return savedKey_.isEmpty() ? gridKey() : savedKey_; }
 
 void MasterScreen::DeleteRecord() {
     if (!askYes(confirmDeleteBox())) return;
@@ -138,6 +147,7 @@ void MasterScreen::DeleteRecord() {
 void MasterScreen::RefreshRecord() {
     guarded([this] {
         listAll();
+        dbgMyGrid->selectKey(descriptor_.master.key, currentKey_);
         ClearRecord();
         DisplayRecord(gridKey());
     });
@@ -190,6 +200,8 @@ void MasterScreen::pickFromGrid() {
 
 void MasterScreen::LoadGrid(const Sql& where, const QString& order) {
     const Hourglass hourglass;
+    savedKey_.clear();
+    dbgMyGrid->showOrder({});
     const QString table = descriptor_.master.table;
     dbgMyGrid->setSource(StoreConnection(),
                          {"*", table, table, where, order.isEmpty() ? descriptor_.defaultOrder : order});
@@ -237,6 +249,20 @@ void MasterScreen::search() {
     });
 }
 
+// In an empty grid: what fills it, or what a search has not found.
+void MasterScreen::sayWhatFills() {
+    const QString all = QString(descriptor_.allCaption).remove(u'&');
+    list_look::sayWhenEmpty(dbgMyGrid, QString("Search, or press %1, to list records here.").arg(all));
+}
+
+void MasterScreen::sayWhatWasSought() {
+    QStringList typed{trim(cboType && cboType->isVisible() ? cboType->text() : txtSearch->text())};
+    if (txtSecondSearch && txtSecondSearch->isVisible()) typed += trim(txtSecondSearch->text());
+    typed.removeAll({});
+    if (typed.isEmpty()) return sayWhatFills();
+    list_look::sayWhenEmpty(dbgMyGrid, list_look::nothingFound(typed.join(" - "), cboSearchBy->text()));
+}
+
 void MasterScreen::searchType() {
     ClearRecord();
     guarded([this] { listCondition(typeCondition(cboType->text())); });
@@ -248,6 +274,7 @@ void MasterScreen::listCondition(const SearchCondition& condition) {
         return;
     }
     mblnUpdated = false;
+    sayWhatWasSought();
     LoadGrid(std::get<Sql>(condition), {});
 }
 
@@ -320,6 +347,7 @@ QGroupBox* MasterScreen::gridHalf() {
     auto* box = new QVBoxLayout(fraCount);
     dbgMyGrid = new DataGrid("dbgMyGrid", "adcMyControl", descriptor_.columns);
     dbgMyGrid->setAccessibleName("Records");
+    sayWhatFills();
     box->addWidget(dbgMyGrid);
     return fraCount;
 }
@@ -333,12 +361,31 @@ void MasterScreen::connectControls() {
     onClick("cmdAll", &MasterScreen::reloadAll);
     onClick("cmdNewDuplicate", &MasterScreen::duplicateRecord);
     connect(dbgMyGrid, &DataGrid::picked, this, &MasterScreen::pickFromGrid);
-    connect(dbgMyGrid, &DataGrid::headerClicked, this,
-            [this](int column) { guarded([&] { listAll(descriptor_.columns.at(column).order); }); });
+    connect(dbgMyGrid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { savedKey_.clear(); });
+    connect(dbgMyGrid, &DataGrid::headerClicked, this, [this](int column) {
+        guarded([&] {
+            const QString& order = descriptor_.columns.at(column).order;
+            listAll(order);
+            dbgMyGrid->showOrder(order);
+        });
+    });
     if (cboSearchBy) connectSearch();
 }
 
+// Down leads from the search to what it has found.
+bool MasterScreen::eventFilter(QObject* watched, QEvent* event) {
+    const bool isDown = event->type() == QEvent::KeyPress &&
+                        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Down &&
+                        (watched == txtSearch || watched == txtSecondSearch);
+    if (!isDown) return RecordScreen::eventFilter(watched, event);
+    dbgMyGrid->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
 void MasterScreen::connectSearch() {
+    for (TextBox* box : {txtSearch, txtSecondSearch})
+        if (box) box->installEventFilter(this);
     onClick("cmdSearch", &MasterScreen::search);
     connect(txtSearch, &TextBox::entered, this, &MasterScreen::search);
     if (txtSecondSearch) connect(txtSecondSearch, &TextBox::entered, this, &MasterScreen::search);

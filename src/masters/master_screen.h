@@ -59,7 +59,9 @@ class MasterScreen : public RecordScreen {
     void RefreshRecord();
 
   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
     const MasterFields& fields() const { return *fields_; }
+    MasterEdit edit() const { return {fields_->changedColumns(), loaded_}; }
     MasterFields& fields() { return *fields_; }
 
     // The key of a new record, also written to the screen where it shows there; may be empty until the save.
@@ -90,6 +92,8 @@ class MasterScreen : public RecordScreen {
     void finishSave(const QString& key);
     void pickFromGrid();
     QString gridKey() const;
+    QString keyToEdit() const;
+    void markSaved(const QString& key);
     void setCount(qint64 count, const QString& none, const QString& some);
 
     template <typename Step>
@@ -100,6 +104,8 @@ class MasterScreen : public RecordScreen {
     void fieldChosen();
     void search();
     void searchType();
+    void sayWhatFills();
+    void sayWhatWasSought();
     void listCondition(const SearchCondition& condition);
     void listAll(const QString& order = {});
     void reloadAll();
@@ -107,6 +113,8 @@ class MasterScreen : public RecordScreen {
     const MasterDescriptor descriptor_;
     MasterFields* fields_ = nullptr;
     QString currentKey_;  // CurrentCode, CurrentID
+    StoredState loaded_;  // of the record on show
+    QString savedKey_;    // of the last save, until a person moves in the grid or lists anew
 
     DataGrid* dbgMyGrid;
     QGroupBox* fraCount;

@@ -55,9 +55,9 @@ DataGrid::Source sourceOf(const OrderPicker& picker, const QString& search, cons
 }
 
 GridPicker* open(Connection& store, const OrderPicker& picker, const DataGrid::Source& source,
-                 GridPicker::Pick pick) {
+                 const QString& search, GridPicker::Pick pick) {
     auto popup = std::make_unique<GridPicker>(picker.name, picker.caption, picker.columns, std::move(pick));
-    if (!guarded([&] { popup->list(store, source); })) return nullptr;
+    if (!guarded([&] { popup->list(store, source, search); })) return nullptr;
     ScreenRegistry::instance().show(popup.get());
     return popup.release();
 }
@@ -65,12 +65,13 @@ GridPicker* open(Connection& store, const OrderPicker& picker, const DataGrid::S
 
 GridPicker* openSalesFound(Connection& store, const QString& search, const QString& contactId,
                            const QString& purpose, GridPicker::Pick pick) {
-    return open(store, salesPicker(), salesFoundSource(search, contactId, purpose), std::move(pick));
+    return open(store, salesPicker(), salesFoundSource(search, contactId, purpose), search, std::move(pick));
 }
 
 GridPicker* openDisbursementFound(Connection& store, const QString& search, const QString& contactId,
                                   const QString& mode, GridPicker::Pick pick) {
-    return open(store, purchasePicker(), disbursementFoundSource(search, contactId, mode), std::move(pick));
+    return open(store, purchasePicker(), disbursementFoundSource(search, contactId, mode), search,
+                std::move(pick));
 }
 
 DataGrid::Source salesFoundSource(const QString& search, const QString& contactId, const QString& purpose) {

@@ -61,6 +61,7 @@ Outcome SaveUnit(Connection& store, const QString& typed, bool addMode, const QS
             return unitFault("Error!", "System Cannot Accept Duplicate Unit!");
         writeUnit(store, code, addMode, currentUnit);
     } catch (const StoreError& error) {
+        if (error.number() == StoreError::noCurrentRow) return unitFault("Error!", error.text());
         if (error.number() == StoreError::busy) throw;
     }
     return Done{};

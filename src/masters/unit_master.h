@@ -18,9 +18,9 @@ Box unknownUnit();
 // Adds the code, upper-cased and trimmed, unless it is there. Gives the code.
 QString AddUnitCode(Connection& store, const QString& text);
 
-// Saves what was typed: a new code, or the new text of currentUnit; one that is there already is a fault.
-// Faults send the focus to "txtUnit". What
-// the store refuses is passed over, and only a busy store is thrown.
+// Saves what was typed: a new code, or the new text of currentUnit; one that is there already is a fault, and
+// so is a currentUnit that someone else has renamed or deleted meanwhile. Faults send the focus to "txtUnit".
+// What else the store refuses is passed over, and only a busy store is thrown.
 Outcome SaveUnit(Connection& store, const QString& typed, bool addMode, const QString& currentUnit);
 // Items that carry the unit keep it.
 void DeleteUnit(Connection& store, const QString& code);

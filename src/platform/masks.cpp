@@ -1,6 +1,11 @@
 #include "platform/masks.h"
 
+#include <QDate>
+#include <QHash>
 #include <QLocale>
+
+#include <cstring>
+#include <iterator>
 
 namespace {
 // One section of a number mask, read once: "(#,##0.00)" is "(", grouped, at least one digit, 2 decimals, ")".
@@ -56,9 +61,9 @@ quint64 roundedTo(quint64 tenThousandths, int decimals) {
 
 // With commas between the thousands.
 QString grouped(quint64 whole) {
-    QLocale locale = QLocale::c();
-    locale.setNumberOptions({});
-    return locale.toString(whole);
+    QString text = QString::number(whole);
+    for (qsizetype at = text.size() - 3; at > 0; at -= 3) text.insert(at, u',');
+    return text;
 }
 
 QString wholePart(quint64 whole, const NumberMask& mask) {
@@ -77,6 +82,31 @@ QString applied(quint64 rounded, const NumberMask& mask) {
     return mask.prefix + wholePart(rounded / unit, mask) + decimalPart(rounded % unit, mask) + mask.suffix;
 }
 
+// The sections of a mask, read once.
+const QList<NumberMask>& sectionsOf(const char* numberMask) {
+    static thread_local QHash<QByteArray, QList<NumberMask>> known;
+    QList<NumberMask>& sections = known[numberMask];
+    if (sections.isEmpty())
+        for (const QString& section : QString::fromLatin1(numberMask).split(u';'))
+            sections += readMask(section);
+    return sections;
+}
+
+// The mask of nearly every date, written without a locale: lists and reports have many of them.
+bool isUsual(const QDate& date, const char* dateMask) {
+    return std::strcmp(dateMask, mask::date) == 0 && date.year() > 0 && date.year() < 10'000;
+}
+
+QString usualDate(const QDate& date) {
+    const auto digit = [](int number) { return QChar(u'0' + number % 10); };
+    const int month = date.month(), day = date.day(), year = date.year();
+    const QChar text[] = {digit(month / 10),  digit(month),      u'/',
+                          digit(day / 10),    digit(day),        u'/',
+                          digit(year / 1000), digit(year / 100), digit(year / 10),
+                          digit(year)};
+    return QString(text, std::size(text));
+}
+
 // The mask as Qt reads it: months are capitals, minutes stand behind the hours.
 QString qtDateMask(const char* dateMask) {
     return QString::fromLatin1(dateMask).replace(u'm', u'M').replace("hh:MM", "hh:mm");
@@ -84,13 +114,13 @@ QString qtDateMask(const char* dateMask) {
 }  // namespace
 
 QString formatNumber(Currency value, const char* numberMask) {
-    const QStringList sections = QString::fromLatin1(numberMask).split(u';');
-    const NumberMask positive = readMask(sections.first());
+    const QList<NumberMask>& sections = sectionsOf(numberMask);
+    const NumberMask& positive = sections.first();
     const quint64 count = magnitude(value.tenThousandths());
     // What rounds to nothing has no sign.
     const bool negative = value.isNegative() && roundedTo(count, positive.decimals) != 0;
     if (negative && sections.size() > 1) {
-        const NumberMask mask = readMask(sections[1]);
+        const NumberMask& mask = sections[1];
         return applied(roundedTo(count, mask.decimals), mask);
     }
     const QString text = applied(roundedTo(count, positive.decimals), positive);
@@ -103,7 +133,8 @@ QString formatCount(qint64 value) {
 }
 
 QString formatDate(const QDate& date, const char* dateMask) {
-    return date.isValid() ? QLocale::c().toString(date, qtDateMask(dateMask)) : QString();
+    if (!date.isValid()) return {};
+    return isUsual(date, dateMask) ? usualDate(date) : QLocale::c().toString(date, qtDateMask(dateMask));
 }
 
 QString formatDateTime(const QDateTime& moment, const char* dateMask) {

@@ -13,6 +13,11 @@ struct Fault {
     QString focus;
 };
 
+// Refused with the box "Error!"; the focus goes to the control of this name, or stays.
+inline Fault errorFault(const QString& text, const QString& focus = {}) {
+    return {exclamation("Error!", text), focus};
+}
+
 // Undecided: show the box and call again with the answer under this key.
 struct Question {
     QString key;

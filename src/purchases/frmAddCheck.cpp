@@ -5,6 +5,7 @@
 #include "masters/frmContactFound.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
 
@@ -31,6 +32,8 @@ void frmAddCheck::makeFields() {
     txtDate = box("txtDate", keys::date(), width::date);
     txtCheckAmount = box("txtCheckAmount", keys::amount(), width::number);
     txtCheckAmount->setAlignment(Qt::AlignRight);
+    field_width::fix(txtDate, field_width::date);
+    field_width::fix(txtCheckAmount, field_width::figure);
     chkCross = new QCheckBox("&Payee's Account Only");
     chkCross->setObjectName("chkCross");
     txtPayee = box("txtPayee", keys::freeText(), width::contactName);

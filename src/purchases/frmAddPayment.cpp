@@ -7,6 +7,7 @@
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
 
@@ -30,10 +31,12 @@ void frmAddPayment::makeFields() {
     txtDate = new TextBox("txtDate");
     txtDate->setKeyFilter(keys::date());
     txtDate->setCapacity(width::date);
+    field_width::fix(txtDate, field_width::date);
     txtAmount = new TextBox("txtAmount");
     txtAmount->setAlignment(Qt::AlignRight);
     txtAmount->setKeyFilter(keys::amount());
     txtAmount->setCapacity(width::number);
+    field_width::fix(txtAmount, field_width::figure);
     txtParticulars = new TextBox("txtParticulars");
     txtParticulars->setKeyFilter(keys::freeText());
     txtParticulars->setCapacity(width::remarks);
@@ -54,7 +57,7 @@ void frmAddPayment::layOut() {
     grid->addWidget(cmdSearch, 0, 2);
     grid->addWidget(chkDirect, 0, 3);
     grid->addWidget(lblDate, 1, 0);
-    grid->addWidget(txtDate, 1, 1);
+    grid->addWidget(txtDate, 1, 1, Qt::AlignLeft);
     form::row(grid, 2, 0, "Amount :", txtAmount);
     form::row(grid, 3, 0, "Particulars :", txtParticulars, 3);
     grid->setColumnStretch(1, 1);
@@ -87,17 +90,19 @@ void frmAddPayment::showKind(PaymentKind kind) {
     lblDate->setText(isDirect ? "Reference Date :" : "Purchase Date :");
     txtDate->setReadOnly(!isDirect);
     txtDate->setFocusPolicy(isDirect ? Qt::StrongFocus : Qt::NoFocus);
-    txtDate->setBackgroundRole(isDirect ? QPalette::Base : QPalette::Window);
+    QPalette colours;
+    if (!isDirect) colours.setColor(QPalette::Base, palette().color(QPalette::Window));
+    txtDate->setPalette(colours);
     cmdSearch->setEnabled(!isDirect);
     form::setAccessibleFromTexts(this);
 }
 
-PaymentEntry frmAddPayment::entry() const {
+VoucherPaymentEntry frmAddPayment::entry() const {
     return {isPayable() ? PaymentKind::Payable : PaymentKind::Direct, cboCode->text(), txtDate->text(),
             txtAmount->text(), txtParticulars->text()};
 }
 
-void frmAddPayment::showEntry(const PaymentEntry& entry) {
+void frmAddPayment::showEntry(const VoucherPaymentEntry& entry) {
     cboCode->setText(entry.code);
     txtDate->setText(entry.date);
     txtAmount->setText(entry.amount);
@@ -106,7 +111,7 @@ void frmAddPayment::showEntry(const PaymentEntry& entry) {
 }
 
 void frmAddPayment::clearFields() {
-    PaymentEntry empty;
+    VoucherPaymentEntry empty;
     empty.kind = entry().kind;
     showEntry(empty);
     cboCode->setFocus();
@@ -121,7 +126,7 @@ void frmAddPayment::showLine(const PaymentLine& line) {
 // The purchase order
 
 bool frmAddPayment::CheckCode() {
-    PaymentEntry typed = entry();
+    VoucherPaymentEntry typed = entry();
     bool found = false;
     guarded([&] { found = ::CheckCode(StoreConnection(), typed); });
     showEntry(typed);

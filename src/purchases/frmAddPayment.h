@@ -30,8 +30,8 @@ class frmAddPayment : public LinePopupOf<PaymentLine> {
     void layOut();
     void connectFields();
     void showKind(PaymentKind kind);
-    PaymentEntry entry() const;
-    void showEntry(const PaymentEntry& entry);
+    VoucherPaymentEntry entry() const;
+    void showEntry(const VoucherPaymentEntry& entry);
     bool isPayable() const;
     void leaveCode();
     void enterCode();

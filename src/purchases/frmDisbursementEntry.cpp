@@ -45,7 +45,6 @@ const DocumentScreen& words() {
         .printRight = "PrintCVAccess",
         .papers = {{"Do you want to Print Voucher for this Transaction?", PrintVoucher},
                    {"Do you want to Print Check for this Transaction?", PrintVoucherChecks}},
-        .dirtyingFields = {"cboCustomer"},
         .newShowsUser = true};
     return screen;
 }

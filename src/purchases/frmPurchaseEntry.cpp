@@ -33,7 +33,6 @@ const OrderScreen& purchaseScreen() {
                      .printRight = "PrintPOAccess",
                      .papers = {{"Do you want to Print Purchase Order for this Purchase Transaction?",
                                  PrintPurchaseOrder}},
-                     .dirtyingFields = orderFields(),
                      .newShowsUser = true},
         .book = &purchaseOrders,
         .words = {.lblServe = "Delivered", .lblPrice = "Cost Price", .lblServed = "Delivered :"},

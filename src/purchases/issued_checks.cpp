@@ -12,7 +12,7 @@ const CheckBook issuedChecks{
         "tblDisbursementMaster WHERE VoucherNo = tblChecks.VoucherID) AS VoucherDate FROM "
         "tblContactMaster INNER JOIN tblChecks ON tblContactMaster.ContactID = tblChecks.ContactNo",
     .views = commonCheckViews(),
-    .columns = {{{"Voucher No.", 15}, "VoucherID"},
+    .columns = {{{"Voucher No.", 19}, "VoucherID"},
                 {{"Control", 12}, "ZevRef"},
                 {{"Date", 11, ListColumn::Date}, "VoucherDate"},
                 {{"Customer Name", 26}, "ContactName"},

@@ -12,7 +12,6 @@ const OrderBook purchaseOrders{
     .serial = numbering::purchase,
     .sells = false,
     .stampsTime = false,
-    .balance = PurchaseBalance,
     .updateBalance = UpdatePurchaseBalance,
     .contactBalance = SupplierBalance,
     .noCode = "Please enter Purchase No.!",

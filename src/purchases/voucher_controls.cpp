@@ -1,6 +1,8 @@
 #include "purchases/voucher_controls.h"
 
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
+#include "platform/ui/list_look.h"
 #include "purchases/issued_check.h"
 #include "purchases/voucher_payment.h"
 
@@ -21,8 +23,7 @@ VoucherControls::VoucherControls(const DocumentControls& common, QWidget* screen
       cmdEditCheck(form::button("cmdEditCheck", "Edit Cheque", "edit")),
       cmdDeleteCheck(form::button("cmdDeleteCheck", "Delete Cheque", "delete")) {
     chkCash->setObjectName("chkCash");
-    common.lvwItems->header()->setSectionResizeMode(PaymentLine::Particulars, QHeaderView::Stretch);
-    lvwCheck->header()->setSectionResizeMode(CheckLine::PayeeName, QHeaderView::Stretch);
+    list_look::sayWhenEmpty(lvwCheck, "No checks yet. Add Cheque enters one.");
     auto* column = new QVBoxLayout(screen);
     column->addLayout(head(common));
     column->addLayout(common.listTitle());
@@ -40,10 +41,8 @@ QGridLayout* VoucherControls::head(const DocumentControls& common) const {
     QGridLayout* grid = common.head();
     form::row(grid, 0, 3, "Term :", common.txtTerm);
     form::row(grid, 1, 3, "Supplier Balance :", common.txtCustomerBalance);
+    field_width::fix(txtCreditLimit, field_width::figure);
     form::row(grid, 2, 3, "Credit Limit :", txtCreditLimit);
-    grid->setColumnStretch(1, 2);
-    grid->setColumnStretch(2, 3);
-    grid->setColumnStretch(4, 2);
     return grid;
 }
 

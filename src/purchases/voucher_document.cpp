@@ -9,6 +9,7 @@
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/store/place.h"
 #include "platform/store/transaction.h"
 
 namespace {
@@ -174,7 +175,8 @@ class VoucherSave {
 // In the order that they were written in, which is that of the lists.
 Recordset rowsOf(Connection& store, const char* table, const char* column, const QString& key) {
     return store.execute(
-        {QString("SELECT * FROM %1 WHERE %2 = ? ORDER BY rowid").arg(table, column), {trimRight(key)}});
+        {QString("SELECT * FROM %1 WHERE %2 = ? ORDER BY %3").arg(table, column, keyOf(store, table)),
+         {trimRight(key)}});
 }
 
 PaymentLine paymentOfRow(const Recordset& row) {
@@ -213,9 +215,12 @@ VoucherDocument newVoucher(Connection& store) {
 }
 
 LoadedVoucher loadVoucher(Connection& store, const QString& key) {
+    LoadedVoucher loaded;
+    loaded.document.loaded = StoredState(
+        store, {disbursementBook, {"tblDisbursementDetails", "VoucherID"}, {"tblChecks", "VoucherID"}},
+        trimRight(key));
     const Recordset row = rowsOf(store, disbursementBook.table, disbursementBook.key, key);
     const QString contactId = row.trimmed("ContactNo");
-    LoadedVoucher loaded;
     loaded.document.addMode = false;
     loaded.document.code = row.trimmed(disbursementBook.key);
     loaded.document.date = formatDate(row.date("VoucherDate"));
@@ -250,6 +255,7 @@ Outcome saveVoucher(Connection& store, const VoucherDocument& voucher) {
         // Checked with the write lock held: of two clerks with one number the second is told so.
         Transaction unit(store);
         if (auto fault = checkVoucher(store, voucher)) return *fault;
+        if (auto fault = overtakenDocument(store, voucher)) return *fault;
         const Boxes boxes = VoucherSave(store, voucher).run();
         unit.commit();
         return Done{boxes};

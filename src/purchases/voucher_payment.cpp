@@ -14,14 +14,15 @@ Recordset orderRow(Connection& store, const QString& code) {
     return store.execute({"SELECT * FROM tblPurchaseMaster WHERE PurchaseNo = ?", {trim(code)}});
 }
 
-std::optional<Fault> typedFault(const PaymentEntry& entry) {
+std::optional<Fault> typedFault(const VoucherPaymentEntry& entry) {
     if (trim(entry.code).isEmpty()) return errorFault("Please Enter Reference for This Payment!", "cboCode");
     if (!isNumeric(entry.amount)) return errorFault("Invalid Amount Entered!", "txtAmount");
     if (!isDate(entry.date)) return errorFault("Invalid Date Entered!", "txtDate");
     return std::nullopt;
 }
 
-std::optional<Fault> payableFault(const Recordset& order, const Payee& payee, const PaymentEntry& entry) {
+std::optional<Fault> payableFault(const Recordset& order, const Payee& payee,
+                                  const VoucherPaymentEntry& entry) {
     if (order.eof())
         return errorFault("This Purchase Order No. Does Not Exist! Please Select Proper P.O. to Post!",
                           "cboCode");
@@ -65,17 +66,17 @@ bool PaymentsAreOfOneKind(const QList<PaymentLine>& payments) {
     });
 }
 
-PaymentEntry entryOf(const PaymentLine& payment) {
+VoucherPaymentEntry entryOf(const PaymentLine& payment) {
     return {payment.kind(), payment.reference, payment.date, payment.amount, payment.particulars};
 }
 
-PaymentLine lineOf(const PaymentEntry& entry) {
+PaymentLine lineOf(const VoucherPaymentEntry& entry) {
     const auto date = parseDate(entry.date);
     return {trim(entry.code), date ? formatDate(*date) : QString(), asAmount(numberOrZero(entry.amount)),
             trim(entry.particulars), entry.kind == PaymentKind::Direct ? "1" : "0"};
 }
 
-bool CheckCode(Connection& store, PaymentEntry& entry) {
+bool CheckCode(Connection& store, VoucherPaymentEntry& entry) {
     if (trim(entry.code).isEmpty()) {
         entry.amount = "0.00";
         entry.date.clear();
@@ -90,7 +91,7 @@ bool CheckCode(Connection& store, PaymentEntry& entry) {
     return true;
 }
 
-Outcome checkPayment(Connection& store, const Payee& payee, const PaymentEntry& entry,
+Outcome checkPayment(Connection& store, const Payee& payee, const VoucherPaymentEntry& entry,
                      const IsEntered& isEntered) {
     if (auto fault = typedFault(entry)) return *fault;
     const Recordset order = orderRow(store, entry.code);

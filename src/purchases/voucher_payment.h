@@ -37,19 +37,19 @@ Currency paymentTotal(const QList<PaymentLine>& payments);
 bool PaymentsAreOfOneKind(const QList<PaymentLine>& payments);
 
 // What the payment dialog holds, as typed.
-struct PaymentEntry {
+struct VoucherPaymentEntry {
     PaymentKind kind = PaymentKind::Payable;
     QString code;
     QString date;
     QString amount = "0.00";
     QString particulars;
 };
-PaymentEntry entryOf(const PaymentLine& payment);
-PaymentLine lineOf(const PaymentEntry& entry);
+VoucherPaymentEntry entryOf(const PaymentLine& payment);
+PaymentLine lineOf(const VoucherPaymentEntry& entry);
 
 // Looks the purchase order up and fills the entry with it: the amount is all that is still owed. False, with
 // nothing filled, when there is no such order; an empty code empties the date and the amount.
-bool CheckCode(Connection& store, PaymentEntry& entry);
+bool CheckCode(Connection& store, VoucherPaymentEntry& entry);
 
 // The checks of a payment to this payee, in their order. Done: it may become a line of the voucher. What is
 // owed is no limit: part payments and overpayments pass.
@@ -58,5 +58,5 @@ struct Payee {
     QString name;
 };
 using IsEntered = std::function<bool(const QString& code)>;
-Outcome checkPayment(Connection& store, const Payee& payee, const PaymentEntry& entry,
+Outcome checkPayment(Connection& store, const Payee& payee, const VoucherPaymentEntry& entry,
                      const IsEntered& isEntered);

@@ -4,7 +4,9 @@
 #include "foundation/shared_routines.h"
 #include "platform/masks.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/frmStatus.h"
 #include "platform/ui/screen_registry.h"
+#include "reports/audit/prtDiscrepancy.h"
 #include "reports/checks/due_checks.h"
 #include "reports/frame/report_start.h"
 #include "reports/lists/prtContactList.h"
@@ -26,6 +28,11 @@ std::optional<ReportJobParts> contacts(Connection& store) {
         "Total No. of Records = " + formatCount(CountRecords(store, "tblContactMaster")));
 }
 
+std::optional<ReportJobParts> discrepancies(Connection& store) {
+    frmStatus status;
+    return discrepancyReport(store, status);
+}
+
 void show(List list) {
     guarded([list] { previewFromEntry(list(StoreConnection())); });
 }
@@ -34,7 +41,8 @@ void show(List list) {
 void registerMenuLists() {
     const std::pair<const char*, List> lists[] = {{"prtReceivableDueChecks", receivableDueChecks},
                                                   {"prtPayableDueChecks", payableDueChecks},
-                                                  {"prtContactList", contacts}};
+                                                  {"prtContactList", contacts},
+                                                  {"prtDiscrepancy", discrepancies}};
     for (const auto& [name, list] : lists)
         ScreenRegistry::instance().addWindow(name, [list = list](const ScreenArguments&) { show(list); });
 }

@@ -6,6 +6,7 @@
 #include "masters/field_widths.h"
 #include "masters/order_pickers.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
 
@@ -52,6 +53,10 @@ void frmAddReceipt::makeFields() {
     chkCash->setObjectName("chkCash");
     txtCheckNo = fieldBox("txtCheckNo", keys::freeText(), width::documentNo);
     txtCheckDate = fieldBox("txtCheckDate", keys::date(), width::date);
+    field_width::fix(txtCheckDate, field_width::date);
+    for (TextBox* figure :
+         {txtDiscount, txtPayment, txtJournalAmount, txtBalance, txtTotalDiscount, txtRequired})
+        field_width::fix(figure, field_width::figure);
 }
 
 void frmAddReceipt::layOut() {
@@ -78,7 +83,6 @@ void frmAddReceipt::layOut() {
     setTabStops(
         {txtSANo, cmdSearch, txtDiscount, txtPayment, chkCash, txtCheckNo, txtCheckDate, cmdSave, cmdCancel});
     form::setAccessibleFromTexts(this);
-    setMinimumWidth(form::charactersWide(this, 76));
 }
 
 void frmAddReceipt::connectOrder() {

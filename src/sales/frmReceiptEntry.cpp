@@ -17,6 +17,7 @@ const DocumentScreen& words() {
         .dateName = "txtPayDate",
         .searchName = "cmdCustomer",
         .totalName = "txtNetAmount",
+        .invalidDate = "Invalid Payment Date Value!",
         .codeLabel = "Payment No. :",
         .dateLabel = "Payment Date :",
         .contactLabel = "Customer :",
@@ -46,7 +47,6 @@ const DocumentScreen& words() {
         .printRight = "PrintSIAccess",
         .papers = {{"Do you want to Print Invoice for this Payment Transaction?", PrintPaymentInvoice}},
         .saved = "Payment Successfully Posted!",
-        .dirtyingFields = {"cboCustomer", "txtCode", "txtRemarks", "txtPayDate"},
         .newShowsUser = false,
     };
     return screen;
@@ -66,9 +66,6 @@ void frmReceiptEntry::layOut() {
     QGridLayout* grid = ui.head();
     form::row(grid, 0, 3, "Term :", ui.txtTerm);
     form::row(grid, 1, 3, words().balanceLabel, ui.txtCustomerBalance);
-    grid->setColumnStretch(1, 2);
-    grid->setColumnStretch(2, 3);
-    grid->setColumnStretch(4, 2);
     auto* column = new QVBoxLayout(this);
     column->addLayout(grid);
     column->addLayout(ui.listTitle());

@@ -32,7 +32,6 @@ const OrderScreen& salesScreen() {
                      .printRight = "PrintDRAccess",
                      .papers = {{"Do you want to Print Delivery Receipt for this Sales Transaction?",
                                  PrintDeliveryReceipt}},
-                     .dirtyingFields = orderFields(),
                      .newShowsUser = false},
         .book = &salesOrders,
         .words = {.lblServe = "Served", .lblPrice = "Selling Price", .lblServed = "Served :"},

@@ -2,6 +2,7 @@
 
 #include "books/balances.h"
 #include "books/numbering.h"
+#include "books/record_lock.h"
 #include "documents/check_status.h"
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
@@ -42,6 +43,7 @@ class ReceiptSave {
 
     Outcome run() {
         Transaction unit(store_);
+        if (auto overtaken = overtakenDocument(store_, receipt_)) return *overtaken;
         if (auto refused = writeMaster()) return *refused;
         if (auto overtaken = writeDetails()) return *overtaken;
         unit.commit();
@@ -159,9 +161,10 @@ ReceiptDocument newReceipt(Connection& store) {
 
 LoadedReceipt loadReceipt(Connection& store, const QString& code) {
     const qint64 number = numberOf(code);
+    LoadedReceipt loaded;
+    loaded.document.loaded = StoredState(store, {receiptBook, {"tblReceiptDetails", "PayCode"}}, number);
     const Recordset row = store.execute({"SELECT * FROM tblReceiptMaster WHERE PayNo = ?", {number}});
     const QString contactId = row.trimmed("CustomerNo");
-    LoadedReceipt loaded;
     loaded.document.addMode = false;
     loaded.document.code = QString::number(row.integer("PayNo"));
     loaded.document.date = formatDate(row.date("PaymentDate"));

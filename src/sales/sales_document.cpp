@@ -12,7 +12,6 @@ const OrderBook salesOrders{
     .serial = numbering::sales,
     .sells = true,
     .stampsTime = true,
-    .balance = SalesBalance,
     .updateBalance = UpdateSalesBalance,
     .contactBalance = CustomerBalance,
     .noCode = "Please Enter Reference No.!",

@@ -1,5 +1,6 @@
 #include "shell/child_area.h"
 
+#include "platform/ui/desk_memory.h"
 #include "platform/ui/icons.h"
 #include "shell/window_arrangement.h"
 
@@ -53,14 +54,26 @@ void ChildArea::host(ChildScreen* screen) {
     // Told when it has gone, not while it goes.
     connect(screen, &ChildScreen::unloaded, this, &ChildArea::childrenChanged, Qt::QueuedConnection);
     place(window, placeFor(screen, window->sizeHint()));
+    connect(screen, &ChildScreen::unloaded, this,
+            [this, given = window->geometry()](ChildScreen* left) { keepPlace(left, given); });
     window->show();
     setActiveSubWindow(window);
     ensureFocusIn(screen);
     emit childrenChanged();
 }
 
+// A window that a person has moved or sized comes back to where it was left.
+void ChildArea::keepPlace(ChildScreen* screen, const QRect& given) {
+    const QMdiSubWindow* window = windowOf(screen);
+    const bool isPlain = window && !window->isMaximized() && !window->isMinimized();
+    if (isPlain && window->geometry() != given && window->geometry() != viewport()->rect())
+        desk_memory::keep("Windows/" + screen->objectName(), window->geometry());
+}
+
 QRect ChildArea::placeFor(const ChildScreen* screen, const QSize& wanted) const {
     const QRect room = viewport()->rect();
+    const QRect kept = desk_memory::kept("Windows/" + screen->objectName()).toRect();
+    if (room.contains(kept) && !kept.isEmpty()) return kept;
     if (screen->placement() == ChildScreen::FillsFrame) return room;
     QRect place(QPoint(0, 0), wanted.boundedTo(room.size()));
     place.moveCenter(room.center());

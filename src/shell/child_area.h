@@ -26,6 +26,7 @@ class ChildArea : public QMdiArea {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void keepPlace(ChildScreen* screen, const QRect& given);
     QRect placeFor(const ChildScreen* screen, const QSize& wanted) const;
     QList<QMdiSubWindow*> shown(bool minimized) const;
 };

@@ -1,20 +1,21 @@
 #include "shell/company_document.h"
 
+#include "masters/field_widths.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
 
 const std::vector<CompanyField>& companyFields() {
     static const std::vector<CompanyField> fields{
-        {"txtCompanyName", "Company &Name :", "CompanyName"},
-        {"txtCompanyAddress", "Company A&ddress :", "CompanyAddress"},
-        {"txtCompanyTelNo", "Company Te&l. No. :", "CompanyTelNo"},
-        {"txtCompanyEmail", "Company eMa&il :", "CompanyEmail"},
+        {"txtCompanyName", "Company &Name :", "CompanyName", width::contactName},
+        {"txtCompanyAddress", "Company A&ddress :", "CompanyAddress", width::address},
+        {"txtCompanyTelNo", "Company Te&l. No. :", "CompanyTelNo", width::telNo},
+        {"txtCompanyEmail", "Company eMa&il :", "CompanyEmail", width::eMail},
         {"txtCompanyLogo", "Company Lo&go :", "CompanyLogo"},
-        {"txtTIN", "Compan&y TIN No. :", "CompanyTIN"},
-        {"txtPrepare", "&Prepared By :", "Prepared"},
-        {"txtChecked", "Chec&ked By :", "Checked"},
-        {"txtApproved", "Approved &By :", "Approved"},
+        {"txtTIN", "Compan&y TIN No. :", "CompanyTIN", width::documentNo},
+        {"txtPrepare", "&Prepared By :", "Prepared", width::contactName},
+        {"txtChecked", "Chec&ked By :", "Checked", width::contactName},
+        {"txtApproved", "Approved &By :", "Approved", width::contactName},
     };
     return fields;
 }
@@ -30,10 +31,9 @@ CompanyProfile loadCompany(Connection& store) {
 
 Outcome saveCompany(Connection& store, const CompanyProfile& profile) {
     if (profile.texts["CompanyName"].isEmpty())
-        return Fault{exclamation("Error!", "Please Enter Company Name!"), "txtCompanyName"};
+        return errorFault("Please Enter Company Name!", "txtCompanyName");
     const auto tax = parseNumber(profile.tax);
-    if (!tax)
-        return Fault{exclamation("Error!", "Please Enter Numeric Value for Value Added Tax!"), "txtTax"};
+    if (!tax) return errorFault("Please Enter Numeric Value for Value Added Tax!", "txtTax");
     Transaction save(store);
     Recordset row = store.openTable("tblSystemProfile", "WHERE 1 = 1");
     if (row.eof()) row.addNew();

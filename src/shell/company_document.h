@@ -11,6 +11,7 @@ struct CompanyField {
     const char* control;
     const char* label;
     const char* column;
+    int capacity = 0;  // in letters; 0: that of any box
 };
 const std::vector<CompanyField>& companyFields();
 

@@ -6,11 +6,26 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QToolButton>
 
 namespace {
 
 bool isSeparator(const MenuItem& row) { return QString(row.caption) == "-"; }
 
+// Of the tool's own command, or that of the item that it stands for; null: it needs no screen.
+const char* routineOf(const ToolRow& tool) {
+    if (*tool.command.routine) return tool.command.routine;
+    for (const MenuTable& table : menuCatalogue())
+        for (const MenuItem& row : table.rows)
+            if (QString("%1_%2").arg(table.items).arg(row.index) == tool.item)
+                if (const auto* command = std::get_if<RecordCommand>(&row.action)) return command->routine;
+    return nullptr;
+}
+
+QString tipOf(const ToolRow& tool, const QAction* item) {
+    const QString key = item ? item->shortcut().toString(QKeySequence::NativeText) : QString();
+    return key.isEmpty() ? QString(tool.toolTip) : QString("%1 (%2)").arg(tool.toolTip, key);
+}
 }  // namespace
 
 FrameMenus::FrameMenus(QMenuBar* bar, QToolBar* tools) : QObject(bar) {
@@ -53,7 +68,10 @@ void FrameMenus::makeTool(QToolBar* tools, const ToolRow& row) {
     if (row.startsGroup) tools->addSeparator();
     QAction* tool = tools->addAction(bundledIcon(row.icon), row.toolTip);
     tool->setObjectName(QString("tbrMain_%1").arg(row.key));
-    tools->widgetForAction(tool)->setObjectName(tool->objectName());
+    QWidget* button = tools->widgetForAction(tool);
+    button->setObjectName(tool->objectName());
+    if (const char* routine = routineOf(row)) commands_[button] = routine;
+    tool->setToolTip(tipOf(row, item(row.item)));
     if (QAction* stands = item(row.item))
         keepWithItem(tool, stands);
     else
@@ -64,6 +82,15 @@ void FrameMenus::makeTool(QToolBar* tools, const ToolRow& row) {
 void FrameMenus::keepWithItem(QAction* tool, QAction* stands) {
     connect(tool, &QAction::triggered, stands, &QAction::trigger);
     connect(stands, &QAction::changed, tool, [tool, stands] { tool->setEnabled(stands->isEnabled()); });
+}
+
+void FrameMenus::showCommandsOf(const QObject* child) {
+    for (auto command = commands_.cbegin(); command != commands_.cend(); ++command) {
+        const QByteArray routine = QByteArray(command.value()) + "()";
+        const bool has = child && child->metaObject()->indexOfMethod(routine.constData()) >= 0;
+        const auto* button = qobject_cast<const QToolButton*>(command.key());
+        command.key()->setEnabled(has && button->defaultAction()->isEnabled());
+    }
 }
 
 void FrameMenus::showRecordLock() {

@@ -23,6 +23,8 @@ class FrameMenus : public QObject {
     QList<int> rights() const { return rights_.uniqueKeys(); }
     // Gives item 2 of Administration the caption of the record lock, and shows it with its separator.
     void showRecordLock();
+    // Greys the buttons of the commands that this screen does not have; without one, of all that need one.
+    void showCommandsOf(const QObject* child);
 
   signals:
     void chosen(const MenuAction& action, const QString& caption);
@@ -33,6 +35,7 @@ class FrameMenus : public QObject {
     void makeTool(QToolBar* tools, const ToolRow& row);
     void keepWithItem(QAction* tool, QAction* item);
 
+    QHash<QWidget*, const char*> commands_;  // the routines of tool buttons
     QHash<QString, QAction*> items_;
     QHash<QString, QMenu*> menus_;
     QMultiHash<int, QAction*> rights_;

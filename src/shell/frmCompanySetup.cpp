@@ -4,6 +4,7 @@
 #include "foundation/shared_routines.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/closing_question.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/form.h"
 #include "platform/ui/settled.h"
@@ -40,7 +41,6 @@ void frmCompanySetup::build() {
     grid->setVerticalSpacing(8);
     for (const CompanyField& field : companyFields()) makeField(grid, field);
     txtTax->setAlignment(Qt::AlignRight);
-    txtTax->setMaximumWidth(form::charactersWide(txtTax, 18));
     boxes_[logoColumn]->setReadOnly(true);
 
     auto* columns = new QHBoxLayout;
@@ -53,14 +53,21 @@ void frmCompanySetup::build() {
     layout->addStretch();
 }
 
+static void addField(QGridLayout* grid, const QString& label, TextBox* box, int characters) {
+    const int row = grid->rowCount();
+    grid->addWidget(form::label(label, box), row, 0);
+    grid->addLayout(field_width::upTo(box, characters), row, 1);
+}
+
 void frmCompanySetup::makeField(QGridLayout* grid, const CompanyField& field) {
     // The tax stands in front of the signature lines.
     if (field.column == QLatin1StringView("Prepared"))
-        form::row(grid, grid->rowCount(), 0, "Value Added Ta&x :", txtTax);
+        addField(grid, "Value Added Ta&x :", txtTax, field_width::count);
     TextBox* box = makeBox(field.control);
     box->setMinimumWidth(form::charactersWide(box, 30));
+    box->setCapacity(field.capacity);
     boxes_[field.column] = box;
-    form::row(grid, grid->rowCount(), 0, field.label, box);
+    addField(grid, field.label, box, field_width::remarks);
 }
 
 QLayout* frmCompanySetup::makeLogo() {

@@ -7,6 +7,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/list_view.h"
 
 #include <QEventLoop>
@@ -25,6 +26,23 @@ QList<QStringList> itemRows(const QList<QueuedItem>& items) {
     QList<QStringList> rows;
     for (const QueuedItem& item : items) rows += {item.itemCode, item.description, "Ready for Processing"};
     return rows;
+}
+
+QString counted(qsizetype count, const char* one, const char* many) {
+    return QString("%1 %2").arg(formatCount(count), count == 1 ? one : many);
+}
+
+QString waiting(qsizetype documents, qsizetype items) {
+    const bool one = documents + items == 1;
+    return QString("%1 and %2 %3 for the end of day.")
+        .arg(counted(documents, "document", "documents"), counted(items, "item", "items"),
+             one ? "waits" : "wait");
+}
+
+QToolButton* captioned(QToolButton* button, const char* caption) {
+    button->setText(caption);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    return button;
 }
 
 Box alreadyUploaded() { return information("Zevrin!", "Transactions Already Uploaded!"); }
@@ -47,24 +65,31 @@ frmForUpload::frmForUpload() : ChildScreen("frmForUpload", "End of Day Transacti
         "lvwTransaction",
         {{"Book ID", 9}, {"Reference", 16}, {"Date", 12, ListColumn::Date}, {"Contact Name", 40}}, this);
     lvwItems = new ListView("lvwItems", {{"Item Code", 16}, {"Description", 40}, {"Status", 24}}, this);
+    list_look::sayWhenEmpty(lvwTransaction, "No documents wait. What is saved in the day stands here.");
+    list_look::sayWhenEmpty(lvwItems, "No items wait.");
     lblStatus = form::label(QString());
     lblStatus->setObjectName("lblStatus");
     pbrStatus = new QProgressBar;
     pbrStatus->setObjectName("pbrStatus");
     pbrStatus->setAccessibleName("Progress");
-    imgRefresh = form::imageButton("imgRefresh", "refresh", "Refresh");
-    imgUpload = form::imageButton("imgUpload", "upload", "Process End of Day Transactions");
-    imgExit = form::imageButton("imgExit", "exit", "Exit");
+    pbrStatus->setValue(0);
+    imgUpload = captioned(form::imageButton("imgUpload", "upload", "Process End of Day Transactions"),
+                          "&Process End of Day");
+    imgRefresh = captioned(form::imageButton("imgRefresh", "refresh", "Refresh"), "&Refresh");
+    imgExit = captioned(form::imageButton("imgExit", "exit", "Exit"), "E&xit");
 
     auto* bottom = new QHBoxLayout;
-    bottom->addWidget(lblStatus, 1);
-    bottom->addWidget(pbrStatus, 1);
-    for (QToolButton* button : {imgRefresh, imgUpload, imgExit}) bottom->addWidget(button);
+    bottom->addWidget(imgUpload);
+    bottom->addWidget(imgRefresh);
+    bottom->addStretch(1);
+    bottom->addWidget(imgExit);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(form::label("&Documents waiting :", lvwTransaction));
     layout->addWidget(lvwTransaction, 3);
     layout->addWidget(form::label("&Items waiting :", lvwItems));
     layout->addWidget(lvwItems, 2);
+    layout->addWidget(lblStatus);
+    layout->addWidget(pbrStatus);
     layout->addLayout(bottom);
     form::setAccessibleFromTexts(this);
     connect(imgRefresh, &QToolButton::clicked, this, &frmForUpload::RefreshRecord);
@@ -106,8 +131,7 @@ void frmForUpload::showLists() {
     lvwItems->setRows(itemRows(items_));
     lvwTransaction->setEnabled(!nothingQueued());
     lvwItems->setEnabled(!nothingQueued());
-    // The count of the list that was loaded last.
-    lblStatus->setText(QString::number(items_.size()));
+    lblStatus->setText(waiting(documents_.size(), items_.size()));
 }
 
 void frmForUpload::upload() {

@@ -76,7 +76,7 @@ QLabel* heading(const QString& text, double size, bool bold) {
 
 constexpr const char* panelStyle =
     "frmShortcuts { background: palette(base); }"
-    "#banner { background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 #1f4e79, stop:1 #2e8b8b); }"
+    "#banner { background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 #1f4e79, stop:1 #257272); }"
     "#banner QLabel { color: white; background: transparent; }"
     "#lvMenu { background: transparent; border: none; }"
     "#lvMenu::item { border: 2px solid transparent; border-radius: 8px; padding: 10px 6px 6px 6px; "

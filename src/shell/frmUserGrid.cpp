@@ -3,6 +3,7 @@
 #include "foundation/session.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/screen_registry.h"
 #include "platform/ui/settled.h"
@@ -15,6 +16,7 @@ frmUserGrid::frmUserGrid()
       lvwRecord(
           new ListView("lvwRecord", {{"User Code", 16}, {"Full Name", 32}, {"Description", 40}}, this)) {
     lvwRecord->setAccessibleName("Users");
+    list_look::sayWhenEmpty(lvwRecord, "No users. New Record (Ctrl+N) enters one.");
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(lvwRecord);
     connect(lvwRecord, &ListView::rowDoubleClicked, this, &frmUserGrid::EditRecord);

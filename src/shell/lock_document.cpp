@@ -41,8 +41,7 @@ Outcome changeLock(Connection& store, LockChange change, const QString& journalN
                                                      : "Please Select a Record to UnLock!"),
                      "cboSelection"};
     const LockJournal* journal = findLockJournal(journalName);
-    if (!journal)
-        return Fault{exclamation("Error!", "Please Select Transaction Journal First!"), "cboJournal"};
+    if (!journal) return errorFault("Please Select Transaction Journal First!", "cboJournal");
     if (documentLock(store, *journal, number) == DocumentLock::Missing)
         return Fault{missingDocument(*journal), "cboSelection"};
     if (!answers.contains("lock"))

@@ -5,6 +5,7 @@
 #include "foundation/shared_routines.h"
 #include "foundation/start.h"
 #include "platform/parsing.h"
+#include "platform/ui/desk_memory.h"
 #include "platform/ui/editing.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/icons.h"
@@ -28,6 +29,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QUrl>
 #include <QVBoxLayout>
 
 namespace {
@@ -52,6 +54,12 @@ QStatusBar* makeStatusBar(QMainWindow* frame) {
 
 QString userCaption() {
     return "Current User : " + trim(session().CurrentUserCode) + " - " + trim(session().CurrentUserName);
+}
+
+// Each user has a desk of their own. The code may hold signs that no file name takes.
+QString deskFile() {
+    const QByteArray user = QUrl::toPercentEncoding(trim(session().CurrentUserCode));
+    return programFolder().filePath(QString("Desk-%1.ini").arg(QString::fromLatin1(user)));
 }
 
 void restorePointer() {
@@ -84,6 +92,7 @@ mdiMain::mdiMain()
 // What its children tell on their way out reaches a frame that is no longer one.
 mdiMain::~mdiMain() {
     area_->disconnect(this);
+    desk_memory::close();
     if (ScreenRegistry::instance().host() == this) ScreenRegistry::instance().setHost(nullptr);
 }
 
@@ -105,6 +114,7 @@ void mdiMain::build() {
 
 bool mdiMain::load() {
     session().CurrentUserCaption = userCaption();
+    desk_memory::open(deskFile());
     state_.setUserName(session().CurrentUserCaption);
     openIfKnown("frmDateChecker");
     if (!LoadUserMenus(*menus_, StoreConnection())) return false;
@@ -169,6 +179,7 @@ void mdiMain::readActiveChild() {
     const bool hidden = std::any_of(screens.begin(), screens.end(),
                                     [](const ChildScreen* screen) { return screen->hidesReportMenu(); });
     menus_->menu("mnuReport")->menuAction()->setVisible(!hidden);
+    menus_->showCommandsOf(active);
 }
 
 void mdiMain::run(const MenuAction& action, const QString& caption) {

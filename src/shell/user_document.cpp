@@ -44,8 +44,6 @@ Check typedFault(const UserProfile& user) {
     return passwordFault(user);
 }
 
-Fault errorFault(const char* text, const char* focus) { return {exclamation("Error!", text), focus}; }
-
 bool mayInquire(const UserProfile& user) {
     return user.flags.intersects({"InqContactAccess", "InqItemAccess", "InqJournalAccess"});
 }

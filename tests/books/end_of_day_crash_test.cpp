@@ -1,5 +1,6 @@
 #include "books/posting_queue.h"
 #include "books_test.h"
+#include "foundation/store_place.h"
 #include "support/crash_runner.h"
 
 #include <gtest/gtest.h>
@@ -50,28 +51,26 @@ class EndOfDayCrash : public SessionTest {
 };
 
 TEST_F(EndOfDayCrash, KilledAnywhereASecondRunCompletesIt) {
-    const QString path = storePath();
+    const QString place = storePlace();
     const QTemporaryDir folder;
-    const QString whole = folder.filePath("whole.mdb");
     store().close();
-    ASSERT_TRUE(QFile::copy(path, whole));
-    store().open(whole, storePassword);
+    const QString whole = copyOfStore(place, folder.path());
+    store().open(whole, passwordFor(whole));
     endTheDay(store());
     const QStringList expectedLedger = ledger(store());
     const QStringList expectedCosts = costPrices(store());
     ASSERT_EQ(expectedLedger.size(), 5);
     store().close();
 
-    const int statements =
-        crashAtEveryStatement(path, endTheDay, [&](Connection& left, const CrashPoint& point) {
-            EXPECT_EQ(documentsInNeitherPlace(left), QStringList());
-            EXPECT_EQ(HasPendingPosting(left), !point.acknowledged);
-            endTheDay(left);
-            EXPECT_FALSE(HasPendingPosting(left));
-            EXPECT_EQ(ledger(left), expectedLedger);
-            EXPECT_EQ(costPrices(left), expectedCosts);
-        });
+    const int statements = crashAtEveryStatement(endTheDay, [&](Connection& left, const CrashPoint& point) {
+        EXPECT_EQ(documentsInNeitherPlace(left), QStringList());
+        EXPECT_EQ(HasPendingPosting(left), !point.acknowledged);
+        endTheDay(left);
+        EXPECT_FALSE(HasPendingPosting(left));
+        EXPECT_EQ(ledger(left), expectedLedger);
+        EXPECT_EQ(costPrices(left), expectedCosts);
+    });
     EXPECT_GT(statements, 20);
-    store().open(path, storePassword);
+    store().open(place, passwordFor(place));
 }
 }  // namespace

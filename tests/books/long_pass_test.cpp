@@ -1,6 +1,7 @@
 #include "books/balances.h"
 #include "books/books_test.h"
 #include "books/stock_valuation.h"
+#include "foundation/store_place.h"
 #include "platform/store/transaction.h"
 
 #include <QThread>
@@ -79,7 +80,7 @@ TEST_F(LongPassTest, AnItemThatAnotherWorkstationTouchesMeanwhileIsCostedAnew) {
     });
     std::thread other([&] {
         Connection theirs;
-        theirs.open(store.path(), storePassword);
+        theirs.open(store.path(), passwordFor(store.path()));
         while (updates == 0) QThread::msleep(1);
         Transaction unit(theirs);
         AddStockValuation(theirs, "S", "new", "C1", "k5", day(2), amount(2), amount(1));
@@ -90,8 +91,10 @@ TEST_F(LongPassTest, AnItemThatAnotherWorkstationTouchesMeanwhileIsCostedAnew) {
     });
     RecomputeStockValuation(store, Progress::none());
     other.join();
-    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'K5'"), "50000 30000");
-    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'K399'"), "10000 4000000");
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'K5' ORDER BY TransDate"),
+              "50000 30000");
+    EXPECT_EQ(column("SELECT Balance AS v FROM tblStockValuation WHERE ItemCode = 'K399' ORDER BY TransDate"),
+              "10000 4000000");
     updates = 0;
     RecomputeStockValuation(store, Progress::none());
     EXPECT_EQ(updates, 0);

@@ -1,4 +1,5 @@
 #include "documents/check_books.h"
+#include "foundation/store_place.h"
 #include "support/crash_runner.h"
 
 using ::testing::ElementsAre;
@@ -106,13 +107,13 @@ TEST_P(Checks, AreTaggedAllOrNone) {
     for (int key = 1; key <= 4; ++key) add({key, QString("B%1").arg(key), check::pending, false});
     const QList<StoredCheck> marked = loaded("Pending Checks");
     store.close();
-    const int statements = crashAtEveryStatement(
-        storePath(), [&](Connection&) { tagged(marked); },
-        [&](Connection&, const CrashPoint& at) {
-            EXPECT_EQ(keys("Pending Checks"), at.acknowledged ? "" : "1234");
-        });
+    const int statements =
+        crashAtEveryStatement([&](Connection&) { tagged(marked); },
+                              [&](Connection&, const CrashPoint& at) {
+                                  EXPECT_EQ(keys("Pending Checks"), at.acknowledged ? "" : "1234");
+                              });
     EXPECT_GE(statements, 5);
-    store.open(storePath(), storePassword);
+    store.open(storePlace(), passwordFor(storePlace()));
 }
 
 // Each row mends the fault of the row before.

@@ -1,12 +1,14 @@
 #include "books/posting_queue.h"
 #include "documents/journal.h"
 #include "foundation/shared_routines.h"
+#include "platform/store/transaction.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/screen_registry.h"
 #include "platform/ui/text_box.h"
 #include "purchases/frmPurchaseGrid.h"
 #include "sales/frmSalesGrid.h"
 #include "support/box_script.h"
+#include "support/test_server.h"
 #include "support/test_store.h"
 
 #include <QAbstractButton>
@@ -199,6 +201,39 @@ TEST_F(JournalScreen, KeysOfTheSearchText) {
     journal->setAttribute(Qt::WA_DeleteOnClose, false);
     QTest::keyClick(text, Qt::Key_Escape);
     EXPECT_EQ(closed.size(), 1);
+}
+
+TEST_F(JournalScreen, ShowsAtOnceAndInItsRowWhatItsOwnProgramDoes) {
+    SKIP_ON_SERVER();
+    const auto cell = [this](int row, const char* column) {
+        QTest::qWait(60);  // a unit that has ended is looked at again after fifty milliseconds
+        const int place =
+            static_cast<int>(std::ranges::find(salesJournal().columns, column, &GridColumn::column) -
+                             salesJournal().columns.begin());
+        return grid()->model()->index(row, place).data().toString();
+    };
+    select("1");
+    store().run("UPDATE tblSalesMaster SET Printed = True, RecordLock = True WHERE RefNo = '3'");
+    EXPECT_EQ(cell(0, "Printed") + cell(0, "RecordLock") + listed(), "YesYes31");
+    {
+        const Transaction undone(store());
+        store().run("UPDATE tblSalesMaster SET RecordLock = True WHERE RefNo = '1'");
+        EXPECT_EQ(cell(1, "RecordLock"), "No") << "not before it is in the store";
+    }
+    EXPECT_EQ(cell(1, "RecordLock"), "No");
+    Connection other;
+    other.open(storePath(), storePassword);
+    setRecordLock(other, salesBook, "1", true);
+    EXPECT_EQ(cell(1, "RecordLock"), "No");
+    journal->RefreshRecord();
+    EXPECT_EQ(cell(0, "RecordLock") + listed(), "Yes1") << "with a refresh, which drops what is printed";
+    emit grid()->headerClicked(0);
+    select("2");
+    sale("4", "C1", QDate(2026, 3, 4), 400, false);
+    EXPECT_EQ(cell(3, "RefNo") + grid()->currentText("RefNo"), "42") << "in its place of the sort";
+    store().run("DELETE FROM tblSalesMaster WHERE RefNo = '2'");
+    QTest::qWait(0);
+    EXPECT_EQ(listed() + grid()->currentText("RefNo"), "1343") << "the next one takes the mark";
 }
 
 TEST_F(JournalScreen, EditTakesTheLockAndOpensTheDocument) {

@@ -71,10 +71,10 @@ class Notes : public OrderBooks {
 };
 
 TEST_F(Notes, UnderChangeComeBackOrGoByTheHabitsOfTheirPopup) {
-    EXPECT_THAT(change({}, "three", "cmdCancel"), ElementsAre("two", "three"));
+    EXPECT_THAT(change({}, "three", "cmdCancel"), ElementsAre("three", "two"));
     EXPECT_THAT(change({.keepsLine = false}, "three", "cmdCancel"), ElementsAre("two"));
     EXPECT_FALSE(popup());
-    EXPECT_THAT(change({.staysOpen = false}, "three", "cmdSave"), ElementsAre("two", "three"));
+    EXPECT_THAT(change({.staysOpen = false}, "three", "cmdSave"), ElementsAre("three", "two"));
     EXPECT_FALSE(popup());
     EXPECT_TRUE(screen.mblnUpdated);
 }
@@ -83,7 +83,7 @@ TEST_F(Notes, ThatAreRefusedAreLostAndThoseNotCheckedComeBack) {
     boxes.expect("Error!", "Bad.");
     EXPECT_THAT(change({}, "bad", "cmdCancel"), ElementsAre("two"));
     boxes.expect("Error...", "Held.");
-    EXPECT_THAT(change({}, "broken", "cmdCancel"), ElementsAre("two", "one"));
+    EXPECT_THAT(change({}, "broken", "cmdCancel"), ElementsAre("one", "two"));
     boxes.expect("Error!", "Twice.");
     EXPECT_THAT(change({}, "two", "cmdSave"), ElementsAre("two"));
     EXPECT_FALSE(popup()) << "there is nothing to mend";
@@ -91,7 +91,7 @@ TEST_F(Notes, ThatAreRefusedAreLostAndThoseNotCheckedComeBack) {
 
 TEST_F(Notes, HoldTheirScreenWhileThePopupIsOpen) {
     EXPECT_FALSE(notes.popupHolds());
-    EXPECT_THAT(change({}, "three", "cmdSave"), ElementsAre("two", "three"));
+    EXPECT_THAT(change({}, "three", "cmdSave"), ElementsAre("three", "two"));
     EXPECT_TRUE(popup()) << "for the next line";
     boxes.expect("Lost Focus!", "Please Click on Close Button to Exit!");
     EXPECT_TRUE(notes.popupHolds());

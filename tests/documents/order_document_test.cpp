@@ -1,5 +1,6 @@
 #include "books/posting_queue.h"
 #include "documents/order_books.h"
+#include "foundation/store_place.h"
 #include "support/crash_runner.h"
 
 using ::testing::ElementsAre;
@@ -196,7 +197,7 @@ TEST_P(Order, OfTwoClerksWithOneNumberIsRefusedToTheSecond) {
     second.lines = {line("I2", "9", "9", "9")};
     second.serial = "7777";
     Connection other;
-    other.open(storePath(), storePassword);
+    other.open(storePlace(), passwordFor(storePlace()));
     ASSERT_EQ(said(saveOrder(other, book(), first)), "done");
     const auto before = everything();
     EXPECT_EQ(said(save(second)), std::string("Error!: ") + GetParam().duplicate);
@@ -254,14 +255,13 @@ TEST_P(Order, SurvivesASuddenEndAtEveryStatement) {
         const auto before = everything();
         store.close();
         const auto save = [&](Connection& own) { EXPECT_TRUE(isDone(saveOrder(own, book(), document))); };
-        const int statements =
-            crashAtEveryStatement(storePath(), save, [&](Connection&, const CrashPoint& point) {
-                EXPECT_EQ(everything() != before, point.acknowledged) << "at " << point.statement;
-                if (point.acknowledged) return;
-                EXPECT_EQ(said(saveOrder(store, book(), document)), "done") << "a second try goes through";
-            });
+        const int statements = crashAtEveryStatement(save, [&](Connection&, const CrashPoint& point) {
+            EXPECT_EQ(everything() != before, point.acknowledged) << "at " << point.statement;
+            if (point.acknowledged) return;
+            EXPECT_EQ(said(saveOrder(store, book(), document)), "done") << "a second try goes through";
+        });
         EXPECT_GT(statements, 10);
-        store.open(storePath(), storePassword);
+        store.open(storePlace(), passwordFor(storePlace()));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "foundation/shared_routines.h"
 #include "platform/store/transaction.h"
 #include "support/crash_runner.h"
+#include "support/test_server.h"
 #include "support/test_store.h"
 
 // A store that is full enough to be written in the middle of a unit of work.
@@ -16,7 +17,8 @@ class Crash : public SessionTest {
 };
 
 static void changeEverything(Connection& store) {
-    store.run("PRAGMA cache_size = 10");  // changed pages reach the file before the commit
+    if (!onTestServer())
+        store.run("PRAGMA cache_size = 10");  // changed pages reach the file before the commit
     Transaction unit(store);
     store.run("UPDATE tblItemMaster SET Remarks = 'changed'");
     store.run("DELETE FROM tblUnitMaster");
@@ -26,8 +28,8 @@ static void changeEverything(Connection& store) {
 
 TEST_F(Crash, AUnitOfWorkIsThereWholeOrNotAtAll) {
     int before = 0;
-    const int statements = crashAtEveryStatement(
-        storePath(), changeEverything, [&before](Connection& store, const CrashPoint& point) {
+    const int statements =
+        crashAtEveryStatement(changeEverything, [&before](Connection& store, const CrashPoint& point) {
             const bool changed = RecordFound(store, "tblUnitMaster", "UnitCode", "NEW");
             EXPECT_EQ(changed, point.acknowledged);
             EXPECT_EQ(CountRecords(store, "tblUnitMaster"), changed ? 1 : 8);
@@ -42,7 +44,6 @@ TEST_F(Crash, AUnitOfWorkIsThereWholeOrNotAtAll) {
 TEST_F(Crash, SeparateStatementsShowThatTheToolFindsAHalfDoneSave) {
     int halves = 0;
     crashAtEveryStatement(
-        storePath(),
         [](Connection& store) {
             store.run("DELETE FROM tblUnitMaster");
             store.run("INSERT INTO tblUnitMaster (UnitCode) VALUES ('NEW')");

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/ui/combo_box.h"
 #include "support/box_script.h"
+#include "support/test_server.h"
 #include "support/test_store.h"
 
 class SharedRoutines : public SessionTest {
@@ -30,7 +31,8 @@ TEST_F(SharedRoutines, AComboThatCannotBeFilledTellsItsStatement) {
     ComboBox combo("cboTest", ComboBox::Open);
     combo.addItem("old");
     boxes.expect("Load Combo Box - Error",
-                 "Err.Desctiption = no such column: Colour\nCombo SQL = SELECT Colour FROM tblTemp");
+                 QString("Err.Desctiption = %1\nCombo SQL = SELECT Colour FROM tblTemp")
+                     .arg(onTestServer() ? "column \"colour\" does not exist" : "no such column: Colour"));
     LoadComboBox("Colour", "tblTemp", &combo, false);
     boxes.expect("LoadComboBox - UDF Error");
     LoadComboBoxUDF("Colour", "tblTemp", &combo, {"Server = ?", {"x"}}, false);
@@ -89,8 +91,6 @@ TEST_F(SharedRoutines, PercentsGoThroughDoubleOnce) {
 TEST_F(SharedRoutines, RightsAreThoseOfTheCurrentUser) {
     session().CurrentUserCode = "admin ";
     EXPECT_TRUE(UserHasAccess(store(), "EndofDay"));
-    EXPECT_TRUE(UserHasMenu(store(), 302));
-    EXPECT_FALSE(UserHasMenu(store(), 999));
     session().CurrentUserCode = masterUserCode;
     EXPECT_FALSE(UserHasAccess(store(), "EndofDay"));
     session().CurrentUserCode = "nobody";

@@ -42,3 +42,21 @@ TEST(House, IncludesOnlyPointDown) {
     EXPECT_GT(files, 50);
     EXPECT_TRUE(faults.isEmpty()) << qPrintable(faults.join('\n'));
 }
+
+// One program has one class of a name: of two the linker takes the parts of either for both.
+TEST(House, NoTwoHeadersNameOneClass) {
+    static const QRegularExpression declared("^(?:class|struct) (\\w+)(?: final)?(?: : [^;{]+)? \\{",
+                                             QRegularExpression::MultilineOption);
+    QHash<QString, QString> headers;
+    for (QDirIterator it(QString(ZEVRIN_SOURCE_DIR) + "/src", {"*.h"}, QDir::Files,
+                         QDirIterator::Subdirectories);
+         it.hasNext();) {
+        const QString path = it.next();
+        for (auto found = declared.globalMatch(QString::fromUtf8(contentOf(path))); found.hasNext();) {
+            const QString name = found.next().captured(1);
+            EXPECT_EQ(headers.value(name, path), path) << qPrintable(name + ": " + headers.value(name));
+            headers.insert(name, path);
+        }
+    }
+    EXPECT_GT(headers.size(), 100);
+}

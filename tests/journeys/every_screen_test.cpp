@@ -1,13 +1,17 @@
 #include "journeys/journey.h"
 
+#include "documents/document_entry.h"
+#include "foundation/start.h"
 #include "platform/ui/screen_registry.h"
+#include "support/contrast_check.h"
+#include "support/dark_desk.h"
 #include "support/growth.h"
 #include "support/screen_checks.h"
 #include "support/screen_tour.h"
 
 namespace {
 
-// The firm has a document in every journal, one of them waiting.
+// The firm has a document in every journal, one of them waiting, and a pending check of each side.
 class EveryScreen : public Journey {
   protected:
     void SetUp() override {
@@ -21,6 +25,14 @@ class EveryScreen : public Journey {
                           .date = today,
                           .contactId = "1000000002",
                           .lines = {{.item = "1001", .quantity = amount(1), .price = amount(10)}}});
+        insertRow(store(), "tblReceiptMaster", "PayNo, CustomerNo, PaymentDate", {1, "1000000002", today});
+        insertRow(store(), "tblReceiptDetails",
+                  "ZevRef, PayCode, Reference, Amount, CheckNo, CheckDate, CheckStatus",
+                  {1, 1, "03-1001-2026", bound(amount(1)), "BPI 000451", today, "Pending"});
+        insertRow(store(), "tblDisbursementMaster", "VoucherNo, VoucherDate, ContactNo",
+                  {"03-1001-2026", today, "1000000001"});
+        insertRow(store(), "tblChecks", "ZevRef, VoucherID, CheckNo, CheckDate, ContactNo, CheckStatus",
+                  {1, "03-1001-2026", "000123", today, "1000000001", "Pending"});
     }
 
     void TearDown() override {
@@ -43,7 +55,41 @@ TEST_F(EveryScreen, IsReadableNamedAndWalkedAsTheEyeGoes) {
         QMetaObject::invokeMethod(screen, "NewRecord");
         expectNoFaults(" with a new record");
     });
-    EXPECT_GT(seen.size(), 18) << qPrintable(seen.join(' '));
+    for (const char* popup :
+         {"frmFound", "frmSalesFound", "frmDisbursementFound", "frmAddItem", "frmAddReceipt", "frmAddPayment",
+          "frmAddCheck", "frmNegReceivableStatus", "frmNegPayableStatus"})
+        EXPECT_TRUE(seen.contains(popup)) << popup << " is not in the tour";
+}
+
+TEST_F(EveryScreen, IsReadableInDarkColours) {
+    closeProgram();
+    useDarkDesk();
+    ASSERT_TRUE(Main());
+    tourScreens("ADMIN", "admin", [](const QString& name, QWidget* screen) {
+        person::settle();
+        EXPECT_EQ(check::weakTexts(screen).join('\n').toStdString(), "") << qPrintable(name);
+    });
+    useLightDesk();
+}
+
+TEST_F(EveryScreen, OfADocumentAsksAboutWhateverWasTyped) {
+    play("log in ADMIN admin");
+    BoxScript boxes;
+    boxes.record([](const Box&) { return BoxAnswer::No; });
+    int typed = 0;
+    for (const QString& name : ScreenRegistry::instance().names()) {
+        auto* entry = qobject_cast<DocumentEntry*>(openRegistered(name));
+        for (TextBox* box : entry ? entry->findChildren<TextBox*>() : QList<TextBox*>()) {
+            if (box->isReadOnly() || !box->isEnabled()) continue;
+            entry->mblnUpdated = false;
+            box->setFocus();
+            person::type("1");
+            EXPECT_TRUE(entry->mblnUpdated) << qPrintable(name + ' ' + box->objectName());
+            ++typed;
+        }
+        closeOpenScreens();
+    }
+    EXPECT_GT(typed, 20);
 }
 
 TEST_F(EveryScreen, LeavesNothingBehind) {

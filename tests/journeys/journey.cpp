@@ -2,18 +2,20 @@
 
 #include "demo/day_player.h"
 #include "foundation/start.h"
+#include "foundation/store_place.h"
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/ui/data_grid.h"
 #include "platform/ui/screen_registry.h"
 #include "program.h"
 #include "support/screen_tour.h"
+#include "support/test_server.h"
 
 #include <QApplication>
 
-static void fillFirm(const QString& path) {
+static void fillFirm(const QString& place) {
     Connection store;
-    store.open(path, storePassword);
+    store.open(place, passwordFor(place));
     store.run({"UPDATE tblSystemProfile SET CompanyName = ?", {"Talisay Trading"}});
     addContact(store, {.id = "1000000001", .name = "Rizal Mill", .customer = false});
     addContact(store, {.id = "1000000002", .name = "Cora Store", .supplier = false});
@@ -26,8 +28,7 @@ static void fillFirm(const QString& path) {
 void Journey::SetUp() {
     static const bool once = (setUpProgram(), true);
     ASSERT_TRUE(once);
-    copyDeliveredStore(folder_.filePath(storeFileName));
-    fillFirm(folder_.filePath(storeFileName));
+    fillFirm(newStoreIn(folder_.path()));
     setProgramFolder(folder_.path());
     onDay(1);
     failOnUnexpectedBoxes();

@@ -1,8 +1,12 @@
 #include "journeys/journey.h"
 
+#include "platform/ui/file_dialogs.h"
 #include "platform/ui/screen_registry.h"
 #include "shell/menu_catalogue.h"
+#include "support/screen_tour.h"
 #include "support/users.h"
+
+#include <QAbstractButton>
 
 // A clerk who may sell and keep contacts, print delivery receipts, and nothing else.
 class ClerkJourney : public Journey {
@@ -44,4 +48,41 @@ TEST_F(ClerkJourney, DeletesNothing) {
     EXPECT_EQ(figure("TotalAmount", "tblSalesMaster", "RefNo", "03-1001-2026"), "0.00");
     person::press(Qt::Key_Escape);
     EXPECT_TRUE(person::isOffered("mnuRecordItem_3"));
+}
+
+// The screens that the menus open: those whose rights the user has, or those whose rights are another's.
+static QStringList screensOf(const QList<int>& rights, bool granted) {
+    QStringList screens;
+    for (const MenuTable& menu : menuCatalogue())
+        for (const MenuItem& item : menu.rows)
+            if (const auto* open = std::get_if<OpenScreen>(&item.action))
+                if (item.right != 0 && rights.contains(item.right) == granted) screens += open->screen;
+    return screens;
+}
+
+// Whatever a clerk presses on the screens that are theirs, no other menu's screen opens.
+TEST_F(ClerkJourney, ReachesNothingElseByAScreensOwnButtons) {
+    const QList<int> rights{100, 101, 200, 202};
+    const QStringList own = screensOf(rights, true), others = screensOf(rights, false);
+    ASSERT_TRUE(own.contains("frmSalesGrid") && others.contains("frmPurchaseGrid"));
+    int presses = 0;
+    BoxScript boxes;
+    boxes.record();
+    desk::setDoors({.saveFile = [](const QString&) { return QString(); }});
+    for (const QString& name : own) {
+        QStringList buttons;
+        for (const auto* button : openRegistered(name)->findChildren<QAbstractButton*>())
+            if (button->isEnabled() && !button->objectName().isEmpty()) buttons += button->objectName();
+        closeOpenScreens();
+        for (const QString& button : buttons) {
+            ++presses;
+            person::click(openRegistered(name), button);
+            for (const ChildScreen* opened : ScreenRegistry::instance().openScreens())
+                EXPECT_FALSE(others.contains(opened->objectName()))
+                    << qPrintable(name + " " + button + ": " + opened->objectName());
+            closeOpenScreens();
+        }
+    }
+    desk::setDoors({});
+    EXPECT_GT(presses, 12);
 }

@@ -76,7 +76,7 @@ TEST_F(ContactDocument, AnEditTestsNoName) {
     ASSERT_TRUE(isDone(save(goodContact())));
     ContactEntry entry = goodContact();
     entry.ContactName = "MABUHAY TRADING";
-    entry.changed = {"ContactName"};
+    entry.edit.changed = {"ContactName"};
     EXPECT_TRUE(isDone(SaveContact(store(), entry, false, id_)));
     EXPECT_EQ(count("tblContactMaster WHERE ContactName = 'mabuhay trading'"), 2);
     entry.ContactName = "";

@@ -128,7 +128,7 @@ TEST_F(ItemDocument, AnEditRunsNoDuplicateTest) {
     ItemEntry entry = goodItem();
     entry.ItemCode = "1000000002";
     entry.Description = "STEEL NAIL";
-    entry.changed = {"Description"};
+    entry.edit.changed = {"Description"};
     EXPECT_TRUE(isDone(edit(entry)));
     EXPECT_EQ(count("tblItemMaster WHERE Description = 'STEEL NAIL'"), 2);
     EXPECT_EQ(count("tblServer WHERE Server = '1000000002'"), 1) << "an edit leaves the counter";
@@ -143,7 +143,7 @@ TEST_F(ItemDocument, AnEditWritesWhatWasChangedAndHoldsItAgainstWhatIsStored) {
     EXPECT_TRUE(isDone(edit(entry)));
     EXPECT_EQ(count("tblItemMaster WHERE Description = 'STEEL NAIL' AND UpdatedBy = 'CLERK'"), 1);
     entry.WholesalePrice = "14.50";
-    entry.changed = {"WholesalePrice"};
+    entry.edit.changed = {"WholesalePrice"};
     EXPECT_EQ(faultOf(edit(entry)).focus, "txtWholesale");
     entry.WholesalePrice = "13";
     EXPECT_TRUE(isDone(edit(entry)));

@@ -2,9 +2,9 @@
 #include "masters_screen_fixture.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/data_grid.h"
+#include "support/statement_count.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 
 using person::focusName;
 using person::press;
@@ -161,9 +161,9 @@ TEST_F(ItemScreen, SearchesNarrowTheGrid) {
 TEST_F(ItemScreen, HeadersSortByTheSystemsMappingAndDropTheSearch) {
     // Descriptions, prices, locators and balances each in another order.
     store().run(
-        "UPDATE tblItemMaster SET Locator = SUBSTR('CBA', ItemCode % 10, 1),"
-        " Balance = 10000 * SUBSTR('213', ItemCode % 10, 1),"
-        " WholesalePrice = SUBSTR('312', ItemCode % 10, 1)");
+        "UPDATE tblItemMaster SET Locator = SUBSTR('CBA', CAST(ItemCode AS INTEGER) % 10, 1),"
+        " Balance = 10000 * CAST(SUBSTR('213', CAST(ItemCode AS INTEGER) % 10, 1) AS INTEGER),"
+        " WholesalePrice = CAST(SUBSTR('312', CAST(ItemCode AS INTEGER) % 10, 1) AS INTEGER)");
     const std::pair<int, const char*> rows[] = {
         {1, "1000000003"}, {4, "1000000003"}, {5, "1000000002"}, {6, "1000000001"}};
     for (const auto& [column, first] : rows) {
@@ -234,16 +234,16 @@ TEST_F(ItemScreen, TenThousandItemsGiveNoPause) {
         rows.push_back({QString::number(1'000'000'000 + i), QString("PIPE %1 FEET").arg(i)});
     store().runMany("INSERT INTO tblItemMaster (ItemCode, Description, CostPrice) VALUES (?, ?, 10000)",
                     rows);
-    QElapsedTimer timer;
-    timer.start();
     person::click(screen, "cmdAll");
     person::clickHeader(grid(), 1);
     search("Description", "pipe", "999");
     command("LastRecord");
-    for (int i = 0; i < 100; ++i) command("PrevRecord");
+    // Of a hundred steps back only a few read another page of the grid.
+    EXPECT_LT(statementsOf(store(), [&] {
+                  for (int i = 0; i < 100; ++i) command("PrevRecord");
+              }),
+              400);
     command("RefreshRecord");
-    // A hundred and five acts; reading the table for each would take many seconds.
-    EXPECT_LT(timer.elapsed(), 2000);
     EXPECT_EQ(countText(), "There are 10,000 Records in the Item Master File Database...");
 }
 
@@ -260,7 +260,7 @@ class ContactScreen : public ScreenTest {
 TEST_F(ContactScreen, EnterInTheRemarksSaves) {
     command("NewRecord");
     EXPECT_EQ(text("txtTerm") + '|' + text("txtDiscount") + '|' + text("txtCreditLimit"), "0|0|0.00");
-    type("Ben' Cruz\r555'1\r1' Road\rb'@c\r15\r2500\r5");
+    type("Ben' Cruz\r1' Road\r555'1\rb'@c\r15\r2500\r5");
     EXPECT_EQ(text("txtCreditLimit"), "2,500.00");
     person::find<QCheckBox>(screen, "chkCustomer")->setChecked(true);
     person::goTo(screen, "txtRemarks");
@@ -287,8 +287,8 @@ TEST_F(ContactScreen, AnEditClearsItsOwnFlagsAndFollowsTheGrid) {
     EXPECT_TRUE(enabledFields().contains("txtName"));
     set("txtTelNo", "555-0101");
     command("SaveRecord");
-    EXPECT_EQ(valueOf(store(), "SELECT group_concat(ContactName) FROM tblContactMaster WHERE TelNo <> ''"),
-              "Mabuhay Trading");
+    EXPECT_EQ(valueOf(store(), "SELECT MAX(ContactName) || COUNT(*) FROM tblContactMaster WHERE TelNo <> ''"),
+              "Mabuhay Trading1");
 }
 
 TEST_F(ContactScreen, ASaveChangesOnlyWhatAPersonDid) {
@@ -296,11 +296,28 @@ TEST_F(ContactScreen, ASaveChangesOnlyWhatAPersonDid) {
     person::click(screen, "cmdAll");
     command("EditRecord");
     set("txtTelNo", "555-0101");
-    store().run("UPDATE tblContactMaster SET CreditLimit = 77");
     command("SaveRecord");
-    EXPECT_EQ(count("tblContactMaster WHERE TelNo = '555-0101' AND Discount = 333333 AND CreditLimit = 77 "
+    EXPECT_EQ(count("tblContactMaster WHERE TelNo = '555-0101' AND Discount = 333333 "
                     "AND Address = ' 1 Road'"),
               1);
+}
+
+TEST_F(ContactScreen, AChangeOfSomeoneElseIsShownByARefreshBeforeItCanBeChanged) {
+    person::click(screen, "cmdAll");
+    grid()->selectKey("ContactName", "Mabuhay Trading");
+    command("EditRecord");
+    set("txtTelNo", "555-0101");
+    store().run("UPDATE tblContactMaster SET CreditLimit = 770000, UpdatedBy = 'CLERK'");
+    boxes.expect("Record Changed!");
+    command("SaveRecord");
+    EXPECT_EQ(text("txtTelNo"), "555-0101");
+    EXPECT_TRUE(enabledFields().contains("txtTelNo"));
+    command("RefreshRecord");
+    EXPECT_EQ(text("txtName") + text("txtCreditLimit") + text("txtTelNo"), "Mabuhay Trading77.00");
+    command("EditRecord");
+    set("txtTelNo", "555-0101");
+    command("SaveRecord");
+    EXPECT_EQ(count("tblContactMaster WHERE TelNo = '555-0101' AND CreditLimit = 770000"), 1);
 }
 
 TEST_F(ContactScreen, AClearedFormEndsTheEdit) {

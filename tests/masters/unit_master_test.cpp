@@ -46,8 +46,10 @@ TEST_F(UnitMaster, ARenamedUnitLeavesTheItemsAlone) {
     EXPECT_EQ(one("SELECT Unit FROM tblItemMaster").text("Unit"), "PC");
 }
 
-TEST_F(UnitMaster, WhatTheStoreRefusesIsPassedOver) {
-    EXPECT_TRUE(isDone(SaveUnit(store(), "NEW", false, "GONE")));
+TEST_F(UnitMaster, AUnitThatHasGoneIsToldAndOtherRefusalsArePassedOver) {
+    EXPECT_EQ(faultOf(SaveUnit(store(), "NEW", false, "GONE")).focus, "txtUnit");
+    store().run("CREATE TRIGGER Refusal BEFORE UPDATE ON tblUnitMaster BEGIN SELECT RAISE(ABORT, 'no'); END");
+    EXPECT_TRUE(isDone(SaveUnit(store(), "NEW", false, "PC")));
     EXPECT_EQ(UnitCodes(store()), (QStringList{"BOX", "PC", "PCS"}));
 }
 }  // namespace

@@ -12,6 +12,7 @@
 #include <qabstractitemmodeltester.h>
 #include <QAbstractItemModelTester>
 #include <QAccessible>
+#include <QScrollBar>
 #include <QSet>
 #include <QSignalSpy>
 #include <QStyleOptionViewItem>
@@ -100,6 +101,26 @@ TEST_F(UiGrid, RowsWrittenWhileAPersonScrollsAreNeitherRepeatedNorLeftOut) {
     EXPECT_EQ(codes.count("NEW"), 1);
     EXPECT_EQ(codes.first(), shownFirst) << "what was on show stays until the list is read again";
     EXPECT_EQ(QSet<QString>(codes.begin(), codes.end()).size(), 351);
+}
+
+TEST_F(UiGrid, KeepsItsPlaceWhenItIsAskedTo) {
+    open(1000);
+    grid.resize(600, 300);
+    person::look(&grid);
+    grid.selectKey("ItemCode", codeOf(703));
+    grid.verticalScrollBar()->setValue(450);
+    const auto top = [this] { return grid.indexAt({0, 0}).data().toString(); };
+    person::settle();
+    const QString before = top();
+    grid.setSource(store.connection(), itemSource(), DataGrid::Place::Kept);
+    person::settle();
+    EXPECT_EQ(grid.currentText("ItemCode"), codeOf(703));
+    EXPECT_EQ(top(), before);
+    const int row = grid.currentIndex().row();
+    store.connection().run({"DELETE FROM tblItemMaster WHERE ItemCode = ?", {codeOf(703)}});
+    grid.setSource(store.connection(), itemSource(), DataGrid::Place::Kept);
+    EXPECT_EQ(grid.currentIndex().row(), row) << "the next one";
+    EXPECT_NE(grid.currentText("ItemCode"), codeOf(703));
 }
 
 TEST_F(UiGrid, ShowsValuesByTheirKindAndNumbersAtTheRight) {
@@ -196,7 +217,7 @@ class UiPicker : public UiGrid {
                 person::settle();
             });
         QObject::connect(picker, &ChildScreen::unloaded, opener, [this] { ++unloads; });
-        picker->list(store.connection(), itemSource());
+        picker->list(store.connection(), itemSource(), {});
         ScreenRegistry::instance().show(picker);
         person::settle();
         ASSERT_TRUE(picker->isActiveWindow());

@@ -105,7 +105,7 @@ TEST_F(PurchaseEntry, IsDirtiedByItsOwnActs) {
     screen->mblnUpdated = false;
     screen->NewRecord();
     EXPECT_FALSE(screen->mblnUpdated);
-    for (const char* field : {"txtSerialCode", "txtRefDate", "cboCustomer", "txtRemarks"}) {
+    for (const char* field : {"txtSerialCode", "cboCustomer", "txtRemarks", "txtRefDate"}) {
         person::fill(screen, field, "9");
         EXPECT_TRUE(std::exchange(screen->mblnUpdated, false)) << field;
     }

@@ -1,3 +1,4 @@
+#include "foundation/store_place.h"
 #include "purchases/frmDisbursementGrid.h"
 #include "purchases/voucher_books.h"
 #include "support/crash_runner.h"
@@ -174,14 +175,13 @@ TEST_F(Voucher, SurvivesASuddenEndAtEveryStatement) {
     for (const auto& action : actions) {
         const auto before = everything();
         store.close();
-        const int statements =
-            crashAtEveryStatement(storePath(), action, [&](Connection& own, const CrashPoint& point) {
-                EXPECT_EQ(everything() != before, point.acknowledged) << "at " << point.statement;
-                if (!point.acknowledged) action(own);
-                EXPECT_NE(everything(), before) << "a second try goes through";
-            });
+        const int statements = crashAtEveryStatement(action, [&](Connection& own, const CrashPoint& point) {
+            EXPECT_EQ(everything() != before, point.acknowledged) << "at " << point.statement;
+            if (!point.acknowledged) action(own);
+            EXPECT_NE(everything(), before) << "a second try goes through";
+        });
         EXPECT_GT(statements, 4);
-        store.open(storePath(), storePassword);
+        store.open(storePlace(), passwordFor(storePlace()));
     }
 }
 
@@ -201,7 +201,7 @@ TEST_F(Voucher, IsDeletedWithItsChecksAndWhatItPaid) {
 
 TEST_F(Voucher, TakesAPaymentAfterItsChecks) {
     QString entered;
-    PaymentEntry entry{PaymentKind::Payable, " ", "", "ten", ""};
+    VoucherPaymentEntry entry{PaymentKind::Payable, " ", "", "ten", ""};
     const struct {
         std::function<void()> mend;
         const char* focus;
@@ -227,7 +227,7 @@ TEST_F(Voucher, TakesAPaymentAfterItsChecks) {
         EXPECT_EQ(focusOf(outcome), step.focus) << step.text;
     }
     EXPECT_EQ(lineOf(entry).texts(), QStringList({"RENT", "03/01/2026", "-1,000.50", "", "1"}));
-    PaymentEntry looked;
+    VoucherPaymentEntry looked;
     looked.code = order1_.toLower() + " ";
     EXPECT_TRUE(CheckCode(store, looked));
     EXPECT_EQ(lineOf(looked).texts(), QStringList({order1_, "03/01/2026", "1,000.00", "", "0"}));

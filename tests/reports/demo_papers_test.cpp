@@ -56,13 +56,6 @@ const Paper papers[] = {{"tblSalesDetails",
                           {"APPROVED BY:", 6930, 810},
                           {"Teresa Lim", 6930, 1530}}}};
 
-// The corner where a text of several words begins; none: it is not there.
-std::optional<QPointF> cornerOf(const QString& text, const std::vector<PdfWord>& words) {
-    const QStringList wanted = text.split(' ');
-    const auto found = std::ranges::search(words, wanted, {}, &PdfWord::text);
-    return found.empty() ? std::nullopt : std::optional(found.begin()->place.topLeft());
-}
-
 // A document with as many lines as can be, none of them so long that it breaks.
 std::pair<QString, int> documentOf(Connection& store, const QString& details) {
     Recordset found = store.execute("SELECT Reference, COUNT(*) AS Lines FROM " + details +

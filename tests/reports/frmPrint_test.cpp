@@ -296,6 +296,37 @@ TEST_F(Hub, PrintsTheMarkedOnesInTheOrderOfTheList) {
     printOn("optPrinter");
 }
 
+TEST_F(Hub, SeveralGoToAFileEach) {
+    for (const char* number : {"000001", "A/2:b", "000003"}) add(deliveries, number);
+    open(deliveries);
+    const struct {
+        const char *target, *chosen, *first, *second;
+    } cases[] = {
+        {"optRTF", "day.rtf", "day-000001.rtf", "day-A_2_b.rtf"},
+        {"optASCII", "Receipts 03.2026", "Receipts 03.2026-000001.txt", "Receipts 03.2026-A_2_b.txt"}};
+    for (const auto& each : cases) {
+        const QString kept = folder_.filePath(QString(each.second).replace("A_2_b", "000003"));
+        writeFile(kept, "kept");
+        answerDesk(true, folder_.filePath(each.chosen));
+        for (const char* file : {each.first, "", each.second}) {
+            if (!*file)
+                boxes.expect("Export", kept + " already exists. Write over it?", BoxAnswer::No);
+            else
+                boxes.expect("Printed?", deliveries.question, BoxAnswer::Yes)
+                    .expect("Thank You!", "File is saved at : " + folder_.filePath(file));
+        }
+        printAllOn(each.target);
+        boxes.verify();
+        EXPECT_TRUE(contentOf(folder_.filePath(each.first)).contains("000001"));
+        EXPECT_TRUE(contentOf(folder_.filePath(each.second)).contains("A/2:b"));
+        EXPECT_EQ(contentOf(kept), "kept");
+        EXPECT_FALSE(QFile::exists(folder_.filePath(each.chosen)));
+    }
+    EXPECT_EQ(flags(deliveries, "A/2:b"), "Printed RecordLock");
+    EXPECT_EQ(flags(deliveries, "000003"), "- -");
+    EXPECT_EQ(session().ExportFileName, folder_.filePath(cases[1].chosen)) << "to begin with the next time";
+}
+
 TEST_F(Hub, EachPreviewAsksItsOwnQuestionWhateverIsPrintedMeanwhile) {
     for (const char* number : {"000001", "000002", "000003"}) add(deliveries, number);
     add(kinds[1], "000009");

@@ -1,7 +1,7 @@
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/screen_registry.h"
-#include "reports/frame/export_file.h"
 #include "reports/frame/report_preview.h"
+#include "reports/frame/save_as.h"
 #include "reports/sales_by_town.h"
 #include "support/box_script.h"
 #include "support/files.h"
@@ -136,4 +136,19 @@ TEST_F(OutputFailures, AreToldByThePreview) {
                 (preview->*save)();
             });
         }
+}
+
+// It is made in a folder of its own before it is written.
+TEST_F(OutputFailures, OfASpreadsheetThatHasNoRoomAreTold) {
+    const auto made = job();
+    while (made->layOutPage()) {
+    }
+    BoxScript boxes;
+    tryAt({"new.xlsx", "", true}, [&](const QString& path) {
+        desk::setDoors({.saveFile = [path](const QString&) { return path; }});
+        boxes.expect("Not Saved!", "The file could not be saved: " + path +
+                                       "\nThere is no room to make the spreadsheet in " + QDir::tempPath() +
+                                       ". Make room there.");
+        saveReportAs(nullptr, "Save as Spreadsheet", FileKind::spreadsheet, *made);
+    });
 }

@@ -1,7 +1,7 @@
 #include "reports/frame/report_output.h"
 #include "reports/frame/report_run.h"
 #include "reports/pdf_words.h"
-#include "reports/rich_text.h"
+#include "reports/read_outputs.h"
 #include "reports/sales_by_town.h"
 
 #include <gtest/gtest.h>
@@ -16,36 +16,6 @@ QStringList sortedWords(const QString& text) {
     words.sort();
     return words;
 }
-
-QStringList pagesOf(const QByteArray& pdf) {
-    QStringList pages;
-    for (const PdfWord& word : pdfWords(pdf)) {
-        while (pages.size() <= word.page) pages += QString();
-        pages[word.page] += word.text + ' ';
-    }
-    return pages;
-}
-
-QStringList pagesOf(const RichText& rich) {
-    EXPECT_EQ(rich.depth, 0);
-    return rich.text.split('\f');
-}
-
-// The pages of each output as a person reads them.
-struct Output {
-    const char* name;
-    std::function<QStringList(const ReportPages&)> read;
-};
-const Output outputs[] = {
-    {"PDF", [](const ReportPages& pages) { return pagesOf(reportOutput::pdf(pages)); }},
-    {"PDF of dots",
-     [](const ReportPages& pages) { return pagesOf(reportOutput::pdf(pages, Rendering::DotMatrix)); }},
-    {"rich text", [](const ReportPages& pages) { return pagesOf(RichText(reportOutput::rtf(pages))); }},
-    {"rich text of dots",
-     [](const ReportPages& pages) {
-         return pagesOf(RichText(reportOutput::rtf(pages, Rendering::DotMatrix)));
-     }},
-    {"text", [](const ReportPages& pages) { return reportOutput::plainText(pages).split('\f'); }}};
 
 // A line with a text, and a figure at its right.
 ReportPages figureBeside(const QString& text, const QString& figure, int width) {
@@ -64,7 +34,7 @@ ReportPages figureBeside(const QString& text, const QString& figure, int width) 
 TEST(Outputs, HaveTheSameWordsOnTheSamePages) {
     for (const int sales : {1, 48, 120}) {
         const ReportPages pages = salesReport(manySales(sales));
-        for (const Output& output : outputs) {
+        for (const Output& output : pageOutputs()) {
             const QStringList read = output.read(pages);
             ASSERT_EQ(read.size(), static_cast<qsizetype>(pages.pages.size())) << output.name;
             for (qsizetype page = 0; page < read.size(); ++page) {
@@ -89,14 +59,25 @@ TEST(Outputs, AFigureIsWholeOrNotThere) {
                  {"a", most, 1080, "########", most},
                  {"a", most, 2000, most, most},
                  {QString(23, 'i'), "(922,337,203,685,477.5808)", 1800, "(922,337,203,685,477.5808)",
-                  QString(22, '#')}};
+                  "(922,337,203,685,477.5808)"},
+                 {QString(23, 'i'), most, 1080, "########", most}};
     for (const auto& each : cases)
-        for (const Output& output : outputs) {
+        for (const Output& output : pageOutputs()) {
             const QString read =
                 output.read(figureBeside(each.text, each.figure, each.width)).join(' ').simplified();
             const QString wanted = output.name == QString("text") ? each.typed : each.painted;
             EXPECT_EQ(read, each.text + " " + wanted) << output.name;
         }
+}
+
+TEST(Outputs, TextThatIsCopiedIsMadeOfPlainLetters) {
+    const QString text = "Office file flour waffle";
+    for (const Rendering rendering : {Rendering::Full, Rendering::DotMatrix}) {
+        QStringList words;
+        for (const PdfWord& word : pdfWords(reportOutput::pdf(figureBeside(text, "1.50", 1080), rendering)))
+            words += word.text;
+        EXPECT_EQ(words.join(' '), text + " 1.50");
+    }
 }
 
 TEST(Outputs, PaintedFiguresStayInTheirControls) {
@@ -131,6 +112,28 @@ TEST(Outputs, DotsAreOfAFixedPitchAndWithoutPictures) {
         EXPECT_TRUE(dots.contains(each.fixedPitch)) << each.name;
         EXPECT_FALSE(dots.contains(each.picture) || dots.contains(each.font)) << each.name;
     }
+}
+
+// The logo of a firm as a designer sent it, on a paper of two pages.
+TEST(Outputs, ALargePictureIsStoredOnceAndSmall) {
+    QTemporaryDir folder;
+    const QString file = folder.filePath("logo.png");
+    QImage logo(4000, 3000, QImage::Format_RGB32);
+    for (int y = 0; y < logo.height(); ++y)
+        for (int x = 0; x < logo.width(); ++x) logo.setPixel(x, y, qRgb(x / 16, y / 12, (x ^ y) & 255));
+    ASSERT_TRUE(logo.save(file));
+    ReportPages pages = salesReport(manySales(60));
+    ASSERT_EQ(pages.pages.size(), 2u);
+    const PageItem picture{ControlKind::Image, QRect(740, 840, 1350, 1170), file, 0};
+    for (ReportPage& page : pages.pages) page.items.push_back(picture);
+    const QByteArray pdf = reportOutput::pdf(pages), rtf = reportOutput::rtf(pages);
+    EXPECT_EQ(pdf.count("/Subtype /Image"), 1);
+    EXPECT_TRUE(pdf.contains("/Width 281") && pdf.contains("/Height 21")) << "300 dots to the inch";
+    EXPECT_LT(pdf.size(), 300'000);
+    EXPECT_EQ(rtf.count("\\pict"), 1);
+    EXPECT_LT(rtf.size(), 400'000);
+    pages.pages[1].items.back().place.translate(0, 300);
+    EXPECT_EQ(reportOutput::rtf(pages).count("\\pict"), 2) << "each at its own place";
 }
 
 TEST(Outputs, TellTheirPagesOfALongReport) {

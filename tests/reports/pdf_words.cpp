@@ -4,6 +4,7 @@
 #include <QProcess>
 #include <QTemporaryFile>
 #include <QXmlStreamReader>
+#include <algorithm>
 
 static QByteArray boxesOf(const QByteArray& pdf) {
     QTemporaryFile file;
@@ -27,4 +28,10 @@ std::vector<PdfWord> pdfWords(const QByteArray& pdf) {
         words.push_back({page, xml.readElementText(), place});
     }
     return words;
+}
+
+std::optional<QPointF> cornerOf(const QString& text, const std::vector<PdfWord>& words) {
+    const QStringList wanted = text.split(' ');
+    const auto found = std::ranges::search(words, wanted, {}, &PdfWord::text);
+    return found.empty() ? std::nullopt : std::optional(found.begin()->place.topLeft());
 }

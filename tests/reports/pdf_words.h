@@ -2,6 +2,7 @@
 #include <QByteArray>
 #include <QRectF>
 #include <QString>
+#include <optional>
 #include <vector>
 
 // A word of a PDF as a reader of the paper finds it.
@@ -13,3 +14,6 @@ struct PdfWord {
 
 // The words of a PDF in the order of its text. Fails the test when pdftotext is not there or cannot read it.
 std::vector<PdfWord> pdfWords(const QByteArray& pdf);
+
+// The corner where a text of several words begins first; none: it is not there.
+std::optional<QPointF> cornerOf(const QString& text, const std::vector<PdfWord>& words);

@@ -12,8 +12,12 @@
 #include "support/screen_tour.h"
 #include "support/test_store.h"
 
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPrinter>
 #include <QTest>
+#include <QTimer>
+#include <QWindow>
 
 namespace {
 class ReportStart : public SessionTest {
@@ -114,4 +118,27 @@ TEST_F(ReportStart, AListIsExportedWithoutAQuestion) {
     boxes.expect("Thank You!", "File is saved at : " + session().ExportFileName);
     EXPECT_TRUE(runFromPrintScreen(report(), ReportTarget::PlainText));
     EXPECT_TRUE(contentOf(session().ExportFileName).contains("Reyes Trading"));
+}
+
+// What is typed besides comes when the work is done.
+TEST_F(ReportStart, EscEndsALongReportAndLeavesNothing) {
+    addSaleOf(10000);
+    const QTemporaryDir folder;
+    session().ExportFileName = folder.filePath("long.txt");
+    QLineEdit line;
+    line.show();
+    line.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&line));
+    for (const ReportTarget target : {ReportTarget::PlainText, ReportTarget::Printer}) {
+        QTimer::singleShot(0, [&] {
+            for (const auto& [key, text] : {std::pair{Qt::Key_A, "a"}, std::pair{Qt::Key_Escape, ""}})
+                QCoreApplication::postEvent(line.windowHandle(),
+                                            new QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, text));
+        });
+        EXPECT_FALSE(runFromPrintScreen(report(), target, &deliveryTagging()));
+    }
+    person::settle();
+    EXPECT_EQ(line.text(), "aa");
+    EXPECT_FALSE(isTagged());
+    EXPECT_TRUE(QDir(folder.path()).isEmpty());
 }

@@ -31,7 +31,7 @@ class RichText {
         at_ += match.capturedLength() - 1;
         const QString word = match.captured(1);
         if (word.isEmpty() && match.captured(3) != "*") add(match.captured(3)[0]);
-        if (word == "fonttbl" || word == "info" || word == "shp") skipped_ = depth;
+        if (!skipped_ && QStringList{"fonttbl", "info", "shp", "header"}.contains(word)) skipped_ = depth;
         if (word == "tab") add(' ');
         if (word == "par") add('\n');
         if (word == "pagebb") add('\f');

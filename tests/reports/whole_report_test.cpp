@@ -1,6 +1,7 @@
 #include "reports/frame/report_output.h"
 #include "reports/golden.h"
 #include "reports/sales_by_town.h"
+#include "reports/sheet_cells.h"
 
 #include <gtest/gtest.h>
 
@@ -53,6 +54,7 @@ void fillSale(const ReportSource& row, SectionFields& fields) {
 }
 }  // namespace
 
+// As text, and as the rows of a spreadsheet with their levels.
 TEST(WholeReport, StripsFiguresAndSumsOnThreeLevelsUpToItsEnd) {
     const ReportEvents events{
         {on(SectionKind::Detail), fillSale},
@@ -66,5 +68,7 @@ TEST(WholeReport, StripsFiguresAndSumsOnThreeLevelsUpToItsEnd) {
                {"South", "Argao", "Dan", "1", "1000", ""},
                {"South", "Argao", "Void", "9", "9", ""},
                {"South", "Argao", "Eve", "9", "9", ""}});
-    compareWithGolden("whole_report.txt", reportOutput::plainText(runReport(sales, rows, events)));
+    const ReportPages pages = runReport(sales, rows, events);
+    compareWithGolden("whole_report.txt", reportOutput::plainText(pages));
+    compareWithGolden("whole_report_sheet.txt", sheetText(readSheet(reportOutput::spreadsheet(pages))));
 }

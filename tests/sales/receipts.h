@@ -40,14 +40,14 @@ class Receipts : public OrderBooks {
     }
     // Every row that a receipt may touch.
     std::vector<std::string> everything() {
-        std::vector<std::string> all =
-            rows("SELECT * FROM tblReceiptMaster", {"PayNo", "CustomerNo", "PaymentDate", "PaymentAmount",
-                                                    "TotalDiscAmount", "PayRemarks", "Printed", "UpdatedBy"});
+        std::vector<std::string> all = rows("SELECT * FROM tblReceiptMaster ORDER BY PayNo",
+                                            {"PayNo", "CustomerNo", "PaymentDate", "PaymentAmount",
+                                             "TotalDiscAmount", "PayRemarks", "Printed", "UpdatedBy"});
         for (const auto& [query, columns] : std::initializer_list<std::pair<const char*, QStringList>>{
                  {"SELECT * FROM tblReceiptDetails ORDER BY ZevRef",
                   {"ZevRef", "PayCode", "Reference", "Discount", "DiscountAmount", "Amount", "CheckNo",
                    "CheckDate", "CheckStatus", "Negotiated"}},
-                 {"SELECT * FROM tblSalesMaster", {"RefNo", "Balance"}}})
+                 {"SELECT * FROM tblSalesMaster ORDER BY RefNo", {"RefNo", "Balance"}}})
             std::ranges::move(rows(query, columns), std::back_inserter(all));
         return all;
     }

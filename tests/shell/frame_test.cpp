@@ -1,6 +1,7 @@
 #include "shell/frame_fixture.h"
 
 #include "books/posting_queue.h"
+#include "platform/clock.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/data_grid.h"
 #include "platform/ui/file_dialogs.h"
@@ -217,6 +218,32 @@ TEST_F(EmptyFrame, ThePrintScreenTakesItsKindAndHidesTheReportsAsLongAsItIsOpen)
         screen->unload();
         QTest::qWait(1);
         EXPECT_TRUE(reports->isVisible());
+    }
+}
+
+TEST_F(EmptyFrame, WhatIsOwedPrintsForTheSideOfItsMenuEntry) {
+    registerReportScreens();
+    store().run("DELETE FROM tblSalesMaster");
+    addContact(store(), {.id = "71", .name = "Rizal Mill"});
+    insertRow(store(), "tblPurchaseMaster", "PurchaseNo, PurchaseDate, ContactNo, Balance",
+              {"1", Clock::today(), "71", bound(amount(5))});
+    const struct {
+        const char *item, *screen, *title, *report;
+    } entries[] = {{"mnuReportItem_7", "frmPrintOutstanding", "Print Outstanding Report...", nullptr},
+                   {"mnuReportItem_8", "frmPrintLogBook", "Print Receivable Log Book...", nullptr},
+                   {"mnuReportItem_11", "frmPrintOutstanding", "Print Outstanding Report...",
+                    "prtPaySummaryOutstanding"},
+                   {"mnuReportItem_12", "frmPrintLogBook", "Print Payable Log Book...", "prtPayableLogBook"}};
+    for (const auto& entry : entries) {
+        choose(entry.item);
+        ChildScreen* screen = ScreenRegistry::instance().opened(entry.screen);
+        ASSERT_TRUE(screen) << entry.item;
+        EXPECT_EQ(screen->windowTitle(), entry.title);
+        if (!entry.report) boxes.expect("Nothing to Print!", "No Records to Print...");
+        screen->findChild<QAbstractButton*>("cmdOK")->click();
+        EXPECT_TRUE(!entry.report || ScreenRegistry::instance().opened(entry.report)) << entry.item;
+        screen->unload();
+        QTest::qWait(1);
     }
 }
 

@@ -109,7 +109,7 @@ TEST_F(SalesDayInFrame, SellsEditsAndDeletesWithTheKeysOfTheFrame) {
     person::type("I1");
     press(Qt::Key_Return);
     EXPECT_EQ(person::focusName(), "txtCost");
-    for (int i = 0; i < 3; ++i) press(Qt::Key_Return);
+    press(Qt::Key_Return);
     person::type("4");
     press(Qt::Key_Return);
     person::type("3");
@@ -243,7 +243,7 @@ TEST_F(SalesDayInFrame, AFailingStoreTakesNoLineAway) {
     store().run("ALTER TABLE tblHidden RENAME TO tblItemMaster");
     EXPECT_FALSE(at("frmAddItem"));
     EXPECT_EQ(lines(),
-              "I2 Sugar 2 1 PC 6.0000 0.0000 6.0000 6.00\nI1 Rice 9 2 PC 15.0000 0.0000 15.0000 30.00");
+              "I1 Rice 9 2 PC 15.0000 0.0000 15.0000 30.00\nI2 Sugar 2 1 PC 6.0000 0.0000 6.0000 6.00");
 }
 
 TEST_F(SalesDayInFrame, LinesThatDoNotLoadAreNotThoseOfTheDocumentBefore) {
@@ -251,7 +251,7 @@ TEST_F(SalesDayInFrame, LinesThatDoNotLoadAreNotThoseOfTheDocumentBefore) {
     edit(first);
     ASSERT_EQ(list()->rowCount(), 2);
     store().run("ALTER TABLE tblSalesDetails RENAME TO tblHidden");
-    boxes.expect("Error...");
+    boxes.expect("Error Loading");
     edit(second);
     store().run("ALTER TABLE tblHidden RENAME TO tblSalesDetails");
     boxes.verify();
@@ -317,7 +317,8 @@ TEST_F(SalesDayInFrame, ARefusedSaveKeepsAllAndGoesToTheFieldAtFault) {
     entry()->lines().addLine(makeOrderLine("I2", "Sugar", "PC", amount(1), amount(1), amount(6), amount(0)));
     person::fill(entry(), "txtRefDate", "02/30/2026");
     const QStringList before = seen(entry());
-    boxes.expect("Error!", "Invalid Date Value!");
+    // As it is left, and once more at the save.
+    boxes.expect("Error!", "Invalid Date Value!").expect("Error!", "Invalid Date Value!");
     person::goTo(entry(), "txtRemarks");
     press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_EQ(seen(entry()), before);

@@ -1,6 +1,9 @@
 #include "support/crash_runner.h"
 
 #include "foundation/session.h"
+#include "foundation/store_place.h"
+#include "support/files.h"
+#include "support/test_server.h"
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -22,10 +25,10 @@ constexpr int threwExitCode = 3;
     _exit(threwExitCode);
 }
 
-[[noreturn]] void runAndDie(int statement, int acknowledgePipe, const QString& path,
+[[noreturn]] void runAndDie(int statement, int acknowledgePipe, const QString& place,
                             const std::function<void(Connection&)>& action) {
     try {
-        StoreConnection().open(path, storePassword);
+        StoreConnection().open(place, passwordFor(place));
         int left = statement;
         Connection::setStatementHook([&left](const QString&) {
             if (--left == 0) dieSuddenly();
@@ -56,11 +59,11 @@ std::optional<int> endOf(pid_t process) {
 }
 
 // Runs the action to its end or to the statement. Fails the test unless the process was killed as planned.
-CrashPoint crashAt(int statement, const QString& path, const std::function<void(Connection&)>& action) {
+CrashPoint crashAt(int statement, const QString& place, const std::function<void(Connection&)>& action) {
     int ends[2];
     EXPECT_EQ(pipe(ends), 0);
     const pid_t process = fork();
-    if (process == 0) runAndDie(statement, ends[1], path, action);
+    if (process == 0) runAndDie(statement, ends[1], place, action);
     EXPECT_GT(process, 0);
     close(ends[1]);
     const std::optional<int> end = endOf(process);
@@ -73,24 +76,37 @@ CrashPoint crashAt(int statement, const QString& path, const std::function<void(
 }
 
 // Opens what the crash has left, and checks it.
-void checkLeftover(const QString& path, const CrashPoint& point,
+void checkLeftover(const QString& place, const CrashPoint& point,
                    const std::function<void(Connection&, const CrashPoint&)>& check) {
     SCOPED_TRACE("killed at statement " + std::to_string(point.statement));
-    StoreConnection().open(path, storePassword);
-    EXPECT_EQ(StoreConnection().execute("PRAGMA integrity_check").textAt(0), "ok");
+    StoreConnection().open(place, passwordFor(place));
+    if (!onTestServer()) {
+        EXPECT_EQ(StoreConnection().execute("PRAGMA integrity_check").textAt(0), "ok");
+    }
     check(StoreConnection(), point);
     StoreConnection().close();
 }
 }  // namespace
 
-int crashAtEveryStatement(const QString& storePath, const std::function<void(Connection&)>& action,
+QString copyOfStore(const QString& place, const QString& folder) {
+    if (onTestServer()) {
+        const QString copy = newCopyOf(place);
+        writeFile(folder + "/Store.ini", copy.toUtf8());
+        return copy;
+    }
+    const QString copy = folder + '/' + storeFileName;
+    EXPECT_TRUE(QFile::copy(place, copy));
+    return copy;
+}
+
+int crashAtEveryStatement(const std::function<void(Connection&)>& action,
                           const std::function<void(Connection&, const CrashPoint&)>& check) {
     EXPECT_FALSE(StoreConnection().isOpen()) << "close the session's connection first";
     const QString formerFolder = programFolder().path();
+    const QString place = storePlace();
     for (int statement = 1; statement <= mostStatements; ++statement) {
         const QTemporaryDir folder;
-        const QString copy = folder.filePath(storeFileName);
-        EXPECT_TRUE(QFile::copy(storePath, copy));
+        const QString copy = copyOfStore(place, folder.path());
         setProgramFolder(folder.path());
         const CrashPoint point = crashAt(statement, copy, action);
         checkLeftover(copy, point, check);

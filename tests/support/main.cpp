@@ -2,6 +2,7 @@
 #include "support/box_script.h"
 #include "support/modal_watch.h"
 #include "support/offscreen_desk.h"
+#include "support/test_server.h"
 
 #include <QLocale>
 #include <QStorageInfo>
@@ -33,5 +34,6 @@ int main(int argc, char** argv) {
     const ModalWatch watch;
     failOnUnexpectedBoxes();
     ::testing::InitGoogleTest(&argc, argv);
+    watchTestDatabases();
     return RUN_ALL_TESTS();
 }

@@ -125,8 +125,11 @@ static QList<QWidget*> windowsOnShow() {
 
 QPixmap picture() {
     settle();
-    const QList<QWidget*> windows = windowsOnShow();
+    QList<QWidget*> windows = windowsOnShow();
     if (windows.isEmpty()) fail("nothing is on show");
+    // The one in front lies over the others.
+    std::ranges::stable_partition(windows.begin() + 1, windows.end(),
+                                  [](const QWidget* window) { return !window->isActiveWindow(); });
     QPixmap whole = windows.first()->grab();
     QPainter painter(&whole);
     for (QWidget* over : windows.sliced(1))

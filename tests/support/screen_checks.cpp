@@ -1,5 +1,7 @@
 #include "support/screen_checks.h"
 
+#include "support/contrast_check.h"
+
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>
@@ -121,7 +123,7 @@ QStringList tabOrderFaults(QWidget* screen) {
 }
 
 QStringList faults(QWidget* screen) {
-    return clippedTexts(screen) + unnamedControls(screen) + tabOrderFaults(screen);
+    return clippedTexts(screen) + unnamedControls(screen) + tabOrderFaults(screen) + weakTexts(screen);
 }
 
 }  // namespace check

@@ -76,6 +76,59 @@ void tourPopups(const VisitScreen& visit) {
     closeOpenScreens();
 }
 
+void pickFirstContact(QWidget* entry) {
+    person::goTo(entry, "cboCustomer");
+    person::press(Qt::Key_Return);
+    person::screen("frmContactFound");
+    person::press(Qt::Key_Return);
+    person::waitFor([] { return !person::isOpen("frmContactFound"); }, "the contact picker to close");
+}
+
+// A popup does not close by its close box.
+void leave(const QString& popup) {
+    person::press(Qt::Key_Escape);
+    person::waitFor([&popup] { return !person::isOpen(popup); }, popup + " to close");
+}
+
+// The line popups of receipts and vouchers, each with the picker that Enter in its first field opens.
+void tourPayments(const VisitScreen& visit) {
+    const struct {
+        const char *entry, *button, *popup, *picker;
+    } popups[] = {{"frmReceiptEntry", "cmdAdd", "frmAddReceipt", "frmSalesFound"},
+                  {"frmDisbursementEntry", "cmdAdd", "frmAddPayment", "frmDisbursementFound"},
+                  {"frmDisbursementEntry", "cmdAddCheck", "frmAddCheck", ""}};
+    for (const auto& each : popups) {
+        QWidget* entry = openRegistered(each.entry);
+        pickFirstContact(entry);
+        person::pushButton(entry, each.button);
+        visit(each.popup, person::screen(each.popup));
+        if (*each.picker) person::press(Qt::Key_Return);
+        if (person::isOpen(each.picker)) {
+            visit(each.picker, person::screen(each.picker));
+            leave(each.picker);
+        }
+        person::screen(each.popup);
+        leave(each.popup);
+        closeOpenScreens();
+    }
+}
+
+// What becomes of the first pending check of each side.
+void tourChecks(const VisitScreen& visit) {
+    const struct {
+        const char *screen, *dialog;
+    } sides[] = {{"frmNegReceivableChecks", "frmNegReceivableStatus"},
+                 {"frmNegPayableChecks", "frmNegPayableStatus"}};
+    for (const auto& side : sides) {
+        QWidget* screen = openRegistered(side.screen);
+        person::goTo(screen, "lvwRecord");
+        person::press(Qt::Key_Home);
+        person::press(Qt::Key_Return);
+        visit(side.dialog, person::screen(side.dialog));
+        closeOpenScreens();
+    }
+}
+
 }  // namespace
 
 QWidget* openRegistered(const QString& name) {
@@ -103,5 +156,7 @@ void tourScreens(const QString& user, const QString& password, const VisitScreen
         closeOpenScreens();
     }
     tourPopups(visit);
+    tourPayments(visit);
+    tourChecks(visit);
     setBoxAnswerer({});
 }

@@ -2,8 +2,11 @@
 
 #include "foundation/schema.h"
 #include "foundation/shared_routines.h"
+#include "foundation/store_place.h"
 #include "platform/clock.h"
 #include "platform/store/transaction.h"
+#include "support/files.h"
+#include "support/test_server.h"
 
 #include <QFile>
 
@@ -73,15 +76,28 @@ void copyDeliveredStore(const QString& path) {
 }
 
 TestStore::TestStore() {
-    copyDeliveredStore(path());
-    connection_.open(path(), storePassword);
+    if (!onTestServer()) copyDeliveredStore(path());
+    const QString place = onTestServer() ? newTestDatabase() : path();
+    connection_.open(place, passwordFor(place));
+}
+
+// The program finds the database as at a firm, by its settings.
+QString newStoreIn(const QString& folder) {
+    if (!onTestServer()) {
+        const QString path = folder + '/' + storeFileName;
+        copyDeliveredStore(path);
+        return path;
+    }
+    const QString uri = newTestDatabase();
+    writeFile(folder + "/Store.ini", uri.toUtf8());
+    return uri;
 }
 
 void SessionTest::SetUp() {
-    copyDeliveredStore(storePath());
+    const QString place = newStoreIn(folder_.path());
     setProgramFolder(folder_.path());
     session() = Session{};
-    store().open(storePath(), storePassword);
+    store().open(place, passwordFor(place));
     session().StoreOpen = true;
     session().CurrentUserCode = "ADMIN";
     session().CurrentUserName = "ADMIN";

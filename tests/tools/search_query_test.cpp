@@ -131,12 +131,12 @@ TEST_F(SearchQueryTest, EveryCombinationOfDocumentFiltersFindsWhatAPlainReadingF
 }
 
 TEST_F(SearchQueryTest, TheBalancesOfAllContactsAreThoseOfEach) {
-    store().run("UPDATE tblSalesMaster SET TotalAmount = 1000000 + rowid");
-    store().run("UPDATE tblReceiptMaster SET PaymentAmount = rowid * 3, TotalDiscAmount = rowid");
-    store().run("UPDATE tblPurchaseMaster SET PurchaseAmount = rowid * 70000");
+    store().run("UPDATE tblSalesMaster SET TotalAmount = 1000000 + RowNo");
+    store().run("UPDATE tblReceiptMaster SET PaymentAmount = PayNo * 3, TotalDiscAmount = PayNo");
+    store().run("UPDATE tblPurchaseMaster SET PurchaseAmount = RowNo * 70000");
     store().run(
         "INSERT INTO tblDisbursementDetails (VoucherID, PayAmount, DirectPayment) "
-        "SELECT VoucherNo, rowid * 5, rowid % 3 - 1 FROM tblDisbursementMaster");
+        "SELECT VoucherNo, RowNo * 5, RowNo % 3 - 1 FROM tblDisbursementMaster");
     const auto expectAll = [this] {
         const QList<QStringList> rows = found({kinds[1], {}, {"a"}, {}}, 2);
         EXPECT_EQ(rows.size(), 6);

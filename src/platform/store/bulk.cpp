@@ -1,6 +1,7 @@
 #include "platform/store/bulk.h"
 
 #include "platform/store/connection_private.h"
+#include "platform/store/file_engine.h"
 
 #include <sqlite3.h>
 
@@ -25,42 +26,76 @@ void bindAll(sqlite3_stmt* statement, const QVariantList& values) {
     requireValues(sqlite3_bind_parameter_count(statement), values);
     for (int i = 0; i < values.size(); ++i) bindValue(statement, i + 1, storedValue(values[i]));
 }
+// The connection may have been closed meanwhile.
+void giveBack(FileEngine* engine, const QString& text, sqlite3_stmt* statement) {
+    if (engine)
+        engine->giveBack(text, statement);
+    else
+        sqlite3_finalize(statement);
+}
 }  // namespace
 
-BulkReader::BulkReader(Connection& store, const Sql& statement)
-    : store_(store), text_(statement.text), statement_(store.d_->take(text_)) {
+Engine& BulkReader::engineOf(const Connection& store) { return store.d_->opened(); }
+
+BulkReader::BulkReader(Connection& store, const Sql& statement) : store_(store), text_(statement.text) {
+    rows_ = store_.d_->opened().read(statement);
+    if (rows_) return;
+    statement_ = store_.d_->openedFile().take(text_);
     try {
         bindAll(statement_, statement.values);
     } catch (...) {
-        store_.d_->giveBack(text_, statement_);
+        giveBack(store_.d_->file, text_, statement_);
         throw;
     }
 }
 
-BulkReader::~BulkReader() { store_.d_->giveBack(text_, statement_); }
+BulkReader::~BulkReader() {
+    if (statement_) giveBack(store_.d_->file, text_, statement_);
+}
 
-bool BulkReader::next() { return stepped(statement_); }
+bool BulkReader::next() { return statement_ ? stepped(statement_) : rows_->next(); }
 
-qint64 BulkReader::integer(int column) const { return sqlite3_column_int64(statement_, column); }
+qint64 BulkReader::integer(int column) const {
+    return statement_ ? sqlite3_column_int64(statement_, column) : rows_->integer(column);
+}
 
-bool BulkReader::isNull(int column) const { return sqlite3_column_type(statement_, column) == SQLITE_NULL; }
+bool BulkReader::isNull(int column) const {
+    return statement_ ? sqlite3_column_type(statement_, column) == SQLITE_NULL : rows_->isNull(column);
+}
 
 QByteArrayView BulkReader::bytes(int column) const {
+    if (!statement_) return rows_->bytes(column);
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
     return {text, text ? sqlite3_column_bytes(statement_, column) : 0};
 }
 
-BulkWriter::BulkWriter(Connection& store, const QString& statement)
-    : store_(store), text_(statement), statement_(store.d_->take(text_)) {}
+BulkWriter::BulkWriter(Connection& store, const QString& statement) : store_(store), text_(statement) {
+    if (!isOnServer(store_)) statement_ = store_.d_->openedFile().take(text_);
+}
 
-BulkWriter::~BulkWriter() { store_.d_->giveBack(text_, statement_); }
+BulkWriter::~BulkWriter() {
+    if (statement_) giveBack(store_.d_->file, text_, statement_);
+}
 
-void BulkWriter::bind(int position, qint64 value) { sqlite3_bind_int64(statement_, position, value); }
+void BulkWriter::keep(int position, const QVariant& value) {
+    if (values_.size() < position) values_.resize(position);
+    values_[position - 1] = value;
+}
 
-void BulkWriter::bind(int position, const QString& value) { bindText(statement_, position, value); }
+void BulkWriter::bind(int position, qint64 value) {
+    statement_ ? void(sqlite3_bind_int64(statement_, position, value)) : keep(position, value);
+}
+
+void BulkWriter::bind(int position, const QString& value) {
+    statement_ ? bindText(statement_, position, value) : keep(position, value);
+}
 
 void BulkWriter::step() {
     store_.requireUnit();
+    if (!statement_) {
+        store_.d_->opened().run({text_, values_});
+        return;
+    }
     tellStatement(text_);
     stepped(statement_);
     sqlite3_reset(statement_);

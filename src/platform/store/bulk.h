@@ -3,7 +3,10 @@
 #include "platform/store/sql.h"
 
 #include <QString>
+#include <memory>
 
+class BulkRows;
+class Engine;
 class Connection;
 struct sqlite3_stmt;
 
@@ -25,9 +28,13 @@ class BulkReader {
     QString text(int column) const { return QString::fromUtf8(bytes(column)); }
 
   private:
+    friend Engine& engineOf(const Connection& store);
+    static Engine& engineOf(const Connection& store);
+
     Connection& store_;
     QString text_;
-    sqlite3_stmt* statement_ = nullptr;
+    sqlite3_stmt* statement_ = nullptr;  // of a file
+    std::unique_ptr<BulkRows> rows_;     // of a server
 };
 
 // The same write for many rows: bind by position, step, again.
@@ -38,13 +45,17 @@ class BulkWriter {
     BulkWriter(const BulkWriter&) = delete;
     BulkWriter& operator=(const BulkWriter&) = delete;
 
-    void bind(int position, qint64 value);  // positions from 1
+    // Positions from 1. What is not bound is null.
+    void bind(int position, qint64 value);
     void bind(int position, Currency value) { bind(position, value.tenThousandths()); }
     void bind(int position, const QString& value);
     void step();
 
   private:
+    void keep(int position, const QVariant& value);
+
     Connection& store_;
     QString text_;
-    sqlite3_stmt* statement_ = nullptr;
+    sqlite3_stmt* statement_ = nullptr;  // of a file
+    QVariantList values_;                // for a server
 };

@@ -1,45 +1,90 @@
 #include "platform/store/connection.h"
 
 #include "platform/store/connection_private.h"
-#include "platform/store/like.h"
+#include "platform/store/file_engine.h"
 #include "platform/store/schema_steps.h"
+#include "platform/store/server_engine.h"
 #include "platform/store/store_file.h"
 #include "platform/store/transaction.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-#include <sqlite3.h>
+void Connection::Private::openFile(const QString& path, const char* mode) {
+    place = path;
+    auto opened = std::make_unique<FileEngine>(path, mode);
+    file = opened.get();
+    engine = std::move(opened);
+}
+
+void Connection::Private::openServer(const QString& uri, const QString& password) {
+    place = shownUri(uri);
+    engine = std::make_unique<ServerEngine>(uri, password);
+}
+
+void Connection::Private::shut() {
+    file = nullptr;
+    engine.reset();
+    types.clear();
+    columns.clear();
+    place.clear();
+    leftMarks.clear();
+    mark.reset();
+}
+
+Engine& Connection::Private::opened() const {
+    if (!engine) throw StoreError(StoreError::general, "The store is not open.");
+    return *engine;
+}
+
+FileEngine& Connection::Private::openedFile() const {
+    opened();
+    if (!file) throw StoreError(StoreError::general, "The store is not a file.");
+    return *file;
+}
 
 Connection::Connection() : d_(std::make_unique<Private>()) {}
 
 Connection::~Connection() = default;
 
-void Connection::open(const QString& path, const QString& password) {
+static void openFileStore(Connection& store, const QString& password) {
+    requireOwnStore(store);
+    requireWritable(store);
+    requirePassword(store, password);
+    setWorkingMode(store);
+    applySchemaSteps(store);
+}
+
+void Connection::open(const QString& place, const QString& password) {
     close();
-    requireWritableFile(path);
     try {
-        d_->openFile(path, "rw");
-        overrideLike(d_->engine());
-        requireOwnStore(*this);
-        requireWritable(*this);
-        requirePassword(*this, password);
-        setWorkingMode(*this);
-        applySchemaSteps(*this);
-        d_->leftMarks = OpenMark::leftBehind(path);
-        d_->mark.emplace(path);
+        if (isServer(place)) {
+            d_->openServer(place, password);
+            requireOwnStore(*this);
+            applySchemaSteps(*this);
+            return;
+        }
+        requireWritableFile(place);
+        d_->openFile(place, "rw");
+        openFileStore(*this, password);
+        d_->leftMarks = OpenMark::leftBehind(place);
+        d_->mark.emplace(place);
     } catch (...) {
         close();
         throw;
     }
 }
 
-void Connection::openToRead(const QString& path) {
+void Connection::openToRead(const QString& place) {
     close();
-    requireFile(path);
     try {
-        d_->openFile(path, "ro");
-        overrideLike(d_->engine());
+        if (isServer(place)) {
+            d_->openServer(place, {});
+            static_cast<ServerEngine&>(*d_->engine).refuseWrites();
+        } else {
+            requireFile(place);
+            d_->openFile(place, "ro");
+        }
         requireOwnStore(*this);
     } catch (...) {
         close();
@@ -53,38 +98,47 @@ void Connection::settleLeftOpen() {
     for (const QString& mark : std::exchange(d_->leftMarks, {})) QFile::remove(mark);
 }
 
-void Connection::create(const QString& path, const QString& password) {
+static void createFile(Connection& store, const QString& password) {
+    setWorkingMode(store);
+    markOwnStore(store, password);
+}
+
+void Connection::create(const QString& place, const QString& password) {
     close();
-    if (QFileInfo::exists(path))
-        throw StoreError(StoreError::general, QString("The file \"%1\" already exists.").arg(path));
+    const bool server = isServer(place);
+    if (!server && QFileInfo::exists(place))
+        throw StoreError(StoreError::general, QString("The file \"%1\" already exists.").arg(place));
     try {
-        d_->openFile(path, "rwc");
-        overrideLike(d_->engine());
-        setWorkingMode(*this);
-        markOwnStore(*this, password);
+        if (server) {
+            d_->openServer(place, password);
+            requireEmptyDatabase(*d_->engine, path());
+        } else {
+            d_->openFile(place, "rwc");
+            createFile(*this, password);
+        }
     } catch (...) {
         close();
-        QFile::remove(path);
+        if (!server) QFile::remove(place);
         throw;
     }
 }
 
 void Connection::close() { d_->shut(); }
 
-bool Connection::isOpen() const { return !d_->name.isEmpty(); }
+bool Connection::isOpen() const { return d_->engine != nullptr; }
 
-QString Connection::path() const { return d_->path; }
+QString Connection::path() const { return d_->place; }
 
-sqlite3* Connection::handle() const { return d_->engine(); }
+sqlite3* Connection::handle() const { return d_->openedFile().handle(); }
 
 Recordset Connection::execute(const Sql& statement) {
     requireUnit();
-    const auto started = d_->start(statement);
+    ReadRows read = d_->opened().execute(statement);
     Recordset set;
     set.connection_ = this;
-    set.columns_ = started->columns;
-    set.columnCount_ = started->columnCount;
-    set.rows_ = d_->readRows(*started);
+    set.columns_ = std::move(read.columns);
+    set.columnCount_ = read.columnCount;
+    set.rows_ = std::move(read.rows);
     return set;
 }
 
@@ -93,9 +147,9 @@ Recordset Connection::openTable(const QString& table, const Sql& where) {
     if (where.isEmpty()) {
         set.connection_ = this;
         set.columns_ = tableColumns(table);
-        set.columnCount_ = static_cast<int>(columnTypes(table).size()) + 1;
+        set.columnCount_ = static_cast<int>(engineOf(*this).tableColumns(table).size()) + 1;
     } else {
-        set = execute(Sql("SELECT rowid AS \"#row\", * FROM " + table + u' ') + where);
+        set = execute(Sql("SELECT " + keyOf(*this, table) + " AS \"#row\", * FROM " + table + u' ') + where);
     }
     set.table_ = table;
     return set;
@@ -103,10 +157,7 @@ Recordset Connection::openTable(const QString& table, const Sql& where) {
 
 qint64 Connection::run(const Sql& statement) {
     requireUnit();
-    const auto started = d_->start(statement);
-    const qint64 changed = started->query.numRowsAffected();
-    started->query.finish();
-    return changed;
+    return d_->opened().run(statement);
 }
 
 void Connection::runMany(const QString& statement, const std::vector<QVariantList>& rows) {
@@ -116,34 +167,27 @@ void Connection::runMany(const QString& statement, const std::vector<QVariantLis
 }
 
 void Connection::requireUnit() const {
-    if (depth_ > 0 && sqlite3_get_autocommit(handle()) != 0)
+    if (depth_ > 0 && d_->opened().hasUndoneUnit())
         throw StoreError(StoreError::general, "The store has undone this unit of work.");
 }
 
-qint64 Connection::lastRow() const { return sqlite3_last_insert_rowid(handle()); }
-
-// The columns of a row of an updatable set: the row's number, then those of the table.
+// The columns of a row of an updatable set: the row's key, then those of the table.
 std::shared_ptr<const RecordsetColumns> Connection::tableColumns(const QString& table) {
     auto& known = d_->columns[table];
     if (known) return known;
     QStringList names{"#row"};
     QList<ColumnKind> kinds{ColumnKind::Integer};
-    auto rows = execute({"SELECT name, type FROM pragma_table_info(?) ORDER BY cid", {table}});
-    for (; !rows.eof(); rows.moveNext()) {
-        names += rows.text("name");
-        kinds += declaredKind(rows.text("type"));
+    for (const TableColumn& column : engineOf(*this).tableColumns(table)) {
+        names += column.name;
+        kinds += declaredKind(column.type);
     }
     return known = columnsOf(names, kinds);
 }
 
 const QHash<QString, QString>& Connection::columnTypes(const QString& table) {
-    const QString key = table.toLower();
-    const auto known = d_->types.constFind(key);
-    if (known != d_->types.constEnd()) return *known;
-    QHash<QString, QString> types;
-    for (auto rows = execute({"SELECT name, type FROM pragma_table_info(?)", {table}}); !rows.eof();
-         rows.moveNext())
-        types.insert(rows.text("name").toLower(), rows.text("type").toUpper());
-    if (types.isEmpty()) throw StoreError(StoreError::general, "no such table: " + table);
-    return *d_->types.insert(key, types);
+    QHash<QString, QString>& types = d_->types[table.toLower()];
+    if (types.isEmpty())
+        for (const TableColumn& column : engineOf(*this).tableColumns(table))
+            types.insert(column.name.toLower(), column.type);
+    return types;
 }

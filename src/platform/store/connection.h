@@ -7,7 +7,8 @@
 
 struct sqlite3;
 
-// One connection to the store. Every failure is a StoreError. Values never enter SQL text: they are bound.
+// One connection to the store, a file or a PostgreSQL server (place.h). Every failure is a StoreError. Values
+// never enter SQL text: they are bound.
 //
 // The dialect that statements may use: the words True and False mean the stored -1 and 0; "SET tbl.Col ="
 // loses its table; RIGHT JOIN, parenthesised joins and "1<>1" work; text compares without regard to (ASCII)
@@ -23,18 +24,19 @@ class Connection {
     Connection& operator=(const Connection&) = delete;
 
     // Opens an existing store with its password and brings it to this program's schema version: throws for a
-    // missing, empty, garbage, read-only file, a file of another program, a newer schema, a wrong password.
-    // Nothing is written then.
-    void open(const QString& path, const QString& password);
-    // Makes a new store file with this password and no tables. Throws when the file exists.
-    void create(const QString& path, const QString& password);
+    // missing, empty, garbage, read-only file, a file of another program, a server that is away, a database
+    // without our books, a newer schema, a wrong password. Nothing is written then.
+    void open(const QString& place, const QString& password);
+    // Makes a new store file with this password and no tables, or takes an empty database for one. Throws
+    // when the file exists, or the database holds anything.
+    void create(const QString& place, const QString& password);
     // Opens a store to look at it: no schema step is applied and nothing can be written. Throws as above, and
-    // for a store whose last unit was broken off, which only opening it to write can undo.
-    void openToRead(const QString& path);
+    // for a file whose last unit was broken off, which only opening it to write can undo.
+    void openToRead(const QString& place);
     void close();
     bool isOpen() const;
-    // Whether a program that had the store open ended without closing it. Stays so until it is settled, when
-    // the file has been found sound.
+    // Whether a program that had the file open ended without closing it. Stays so until it is settled, when
+    // the file has been found sound. Never of a server, which recovers by itself.
     bool wasLeftOpen() const;
     void settleLeftOpen();
     QString path() const;
@@ -62,7 +64,7 @@ class Connection {
     // Test door: called before each statement that writes, with its text; may throw, or end the process.
     static void setStatementHook(std::function<void(const QString&)> hook);
 
-    // The engine's own handle, for the bulk reader of this folder.
+    // The handle of a file's engine, for measures and tests; not to be asked for on a server.
     sqlite3* handle() const;
 
   private:
@@ -71,7 +73,6 @@ class Connection {
     friend class BulkReader;
     friend class BulkWriter;
     struct Private;
-    qint64 lastRow() const;  // the number of the row last added
     std::shared_ptr<const RecordsetColumns> tableColumns(const QString& table);
     std::unique_ptr<Private> d_;
     int depth_ = 0;

@@ -1,7 +1,7 @@
 #include "platform/store/recordset.h"
 
 #include "platform/parsing.h"
-#include "platform/store/connection.h"
+#include "platform/store/engine.h"
 
 namespace {
 [[noreturn]] void mismatch(const QString& column) {
@@ -169,7 +169,9 @@ Sql Recordset::updateStatement() const {
         values += value;
     }
     values += current()[0];
-    return {QString("UPDATE %1 SET %2 WHERE rowid = ?").arg(table_, names.join(", ")), values};
+    return {
+        QString("UPDATE %1 SET %2 WHERE %3 = ?").arg(table_, names.join(", "), keyOf(*connection_, table_)),
+        values};
 }
 
 void Recordset::update() {
@@ -182,9 +184,9 @@ void Recordset::update() {
 }
 
 void Recordset::insertRow() {
-    connection_->run(insertStatement());
     QVariantList row(columnCount_);
-    row[0] = connection_->lastRow();
+    connection_->requireUnit();
+    row[0] = engineOf(*connection_).insert(insertStatement(), keyOf(*connection_, table_));
     keepChanges(row);
     rows_.push_back(row);
     moveLast();

@@ -1,6 +1,6 @@
 #include "platform/store/schema_steps.h"
 
-#include "platform/store/connection.h"
+#include "platform/store/engine.h"
 #include "platform/store/transaction.h"
 
 namespace {
@@ -9,28 +9,44 @@ std::vector<SchemaStep>& steps() {
     return list;
 }
 
-qint64 storedVersion(Connection& store) {
-    return store.execute("SELECT user_version FROM pragma_user_version").integer("user_version");
+const SchemaStep& step(qint64 number) { return steps()[static_cast<size_t>(number) - 1]; }
+
+// The step that a new store on a server begins with, and the statements that make all of it.
+qint64 firstOnServer() {
+    for (qint64 number = schemaVersion(); number > 0; --number)
+        if (!step(number).fromNothing.isEmpty()) return number;
+    return 1;
+}
+
+const QStringList& statementsOf(qint64 number, bool fromNothing) {
+    const SchemaStep& taken = step(number);
+    return fromNothing && !taken.fromNothing.isEmpty() ? taken.fromNothing : taken.statements;
 }
 
 // Another workstation may have taken the step meanwhile: the version is read under the write lock.
-void applyStep(Connection& store, int number) {
+void applyStep(Connection& store, Engine& engine, qint64 number) {
     Transaction unit(store);
-    if (storedVersion(store) >= number) return;
-    for (const QString& statement : steps()[static_cast<size_t>(number) - 1].statements) store.run(statement);
-    store.run(QString("PRAGMA user_version = %1").arg(number));
+    const qint64 version = engine.version();
+    if (version >= number) return;
+    const bool fromNothing = isOnServer(store) && version == 0;
+    if (version == 0) engine.prepare();
+    for (const QString& statement : statementsOf(number, fromNothing)) store.run(statement);
+    engine.setVersion(number);
     unit.commit();
 }
 }  // namespace
 
 void setSchemaSteps(std::vector<SchemaStep> list) { steps() = std::move(list); }
 
+const std::vector<SchemaStep>& schemaSteps() { return steps(); }
+
 int schemaVersion() { return static_cast<int>(steps().size()); }
 
 void applySchemaSteps(Connection& store) {
-    const qint64 version = storedVersion(store);
+    Engine& engine = engineOf(store);
+    const qint64 version = engine.version();
     if (version > schemaVersion())
         throw StoreError(StoreError::general, "The store was written by a newer version of this program.");
-    for (int number = static_cast<int>(version) + 1; number <= schemaVersion(); ++number)
-        applyStep(store, number);
+    const qint64 first = isOnServer(store) && version == 0 ? firstOnServer() : version + 1;
+    for (qint64 number = first; number <= schemaVersion(); ++number) applyStep(store, engine, number);
 }

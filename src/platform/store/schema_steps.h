@@ -10,8 +10,10 @@ class Connection;
 struct SchemaStep {
     QString reason;  // one sentence: why
     QStringList statements;
+    QStringList fromNothing = {};  // makes a store of this version at once: a server's begins there
 };
 
 void setSchemaSteps(std::vector<SchemaStep> steps);
+const std::vector<SchemaStep>& schemaSteps();
 int schemaVersion();                       // the version this program writes: the number of steps
 void applySchemaSteps(Connection& store);  // brings an older store up; throws on a newer one

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/progress_scope.h"
 #include "platform/store/connection.h"
+#include "platform/store/place.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -109,6 +110,7 @@ void checkStore(Connection& store, Progress& progress) {
 QStringList damagesOf(Connection& store) { return complaints(store, "PRAGMA integrity_check"); }
 
 void backUpStore(Connection& store, Progress& progress) {
+    if (isOnServer(store)) return;
     const ProgressScope scope(progress, "Please Wait While System Copies the Store...", barLength);
     const QFileInfo file(store.path());
     const QString name = file.completeBaseName();

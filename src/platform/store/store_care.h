@@ -16,6 +16,7 @@ QStringList damagesOf(Connection& store);
 
 // Copies the store as it stands into the folder "Backup" beside it: under a temporary name first, checked,
 // then as "Quorvel-20260131-174500.mdb", by the session's clock. The newest seven stay. Throws StoreError,
-// and leaves the store and the other copies as they are then.
+// and leaves the store and the other copies as they are then. The copies of a server are made there: this
+// does nothing for its books.
 void backUpStore(Connection& store, Progress& progress);
 inline constexpr const char* backupFolder = "Backup";

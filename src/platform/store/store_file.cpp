@@ -1,7 +1,8 @@
 #include "platform/store/store_file.h"
 
-#include "platform/store/connection.h"
+#include "platform/store/engine.h"
 #include "platform/store/schema_steps.h"
+#include "platform/store/server_engine.h"
 #include "platform/store/transaction.h"
 
 #include <QCryptographicHash>
@@ -65,12 +66,17 @@ void requireWritableFile(const QString& path) {
     if (!QFileInfo(file.absolutePath()).isWritable()) refuse(path, "its folder is read-only.");
 }
 
-void requireOwnStore(Connection& store) {
+static void requireOwnFile(Connection& store) {
     if (pragma(store, "application_id") != applicationId)
         refuse(store.path(), "the file is not a store of this program.");
     const qint64 version = pragma(store, "user_version");
     if (version < 0) refuse(store.path(), damaged);
     if (version > schemaVersion()) refuse(store.path(), "it was written by a newer version of this program.");
+}
+
+void requireOwnStore(Connection& store) {
+    if (!isOnServer(store)) return requireOwnFile(store);
+    requireOwnDatabase(engineOf(store), store.path());
 }
 
 void requireWritable(Connection& store) {

@@ -1,12 +1,15 @@
 #include "platform/ui/boxes.h"
 
 #include "platform/ui/front_watch.h"
+#include "platform/ui/icons.h"
 #include "platform/ui/named_control.h"
+#include "platform/ui/popup_frame.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStyle>
 #include <QTabWidget>
 
 static BoxAnswerer& answerer() {
@@ -33,6 +36,31 @@ static QMessageBox::Icon iconOf(BoxIcon icon) {
             break;
     }
     return QMessageBox::NoIcon;
+}
+
+static const char* pictureOf(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::Critical:
+            return "box-critical";
+        case BoxIcon::Question:
+            return "box-question";
+        case BoxIcon::Exclamation:
+            return "box-exclamation";
+        case BoxIcon::Information:
+            return "box-information";
+        case BoxIcon::None:
+            break;
+    }
+    return nullptr;
+}
+
+// Drawn for this screen, however finely it resolves.
+static void setPicture(QMessageBox* window, BoxIcon icon) {
+    window->setIcon(iconOf(icon));
+    const char* picture = pictureOf(icon);
+    if (!picture) return;
+    const int size = window->style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, window);
+    window->setIconPixmap(bundledIcon(picture).pixmap(QSize(size, size), window->devicePixelRatioF()));
 }
 
 struct BoxButton {
@@ -92,8 +120,9 @@ static QMessageBox* newWindow(const Box& box) {
     window->setAccessibleDescription(shownText(box.text));
     window->setTextFormat(Qt::PlainText);
     window->setText(shownText(box.text));
-    window->setIcon(iconOf(box.icon));
+    setPicture(window, box.icon);
     addButtons(window, box);
+    PopupFrame::dress(window);
     return window;
 }
 

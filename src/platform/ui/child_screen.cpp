@@ -5,6 +5,7 @@
 #include "platform/ui/form.h"
 #include "platform/ui/front_watch.h"
 #include "platform/ui/mnemonics.h"
+#include "platform/ui/popup_frame.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -65,11 +66,28 @@ void ChildScreen::closeEvent(QCloseEvent* event) {
     leave();
 }
 
+static bool takesTab(const QWidget* widget, const QWidget* screen) {
+    return (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() && widget->isEnabled() &&
+           widget->isVisibleTo(screen) && screen->isAncestorOf(widget);
+}
+
+// A button beside a field opens a picker for the field, which is where a person wants to be when it has gone.
+static void returnToField(const QWidget* window) {
+    auto* button = qobject_cast<QToolButton*>(window->focusWidget());
+    if (!button) return;
+    for (QWidget* field = button->previousInFocusChain(); field != button;
+         field = field->previousInFocusChain())
+        if (takesTab(field, window)) return field->setFocus(Qt::OtherFocusReason);
+}
+
 void ChildScreen::leave() {
     guarded([this] { unloading(); });
     FrontWatch::instance().forget(this);
     emit unloaded(this);
-    if (kind_ == Popup && isActiveWindow() && opener_) opener_->window()->activateWindow();
+    if (kind_ == Popup && isActiveWindow() && opener_) {
+        opener_->window()->activateWindow();
+        returnToField(opener_->window());
+    }
     // Closed by itself, the screen takes the child window around it along.
     if (auto* subWindow = qobject_cast<QMdiSubWindow*>(parentWidget()))
         QMetaObject::invokeMethod(subWindow, &QWidget::close, Qt::QueuedConnection);
@@ -95,29 +113,32 @@ void ChildScreen::keyPressEvent(QKeyEvent* event) {
 void ChildScreen::openFrom(ChildScreen* opener, QWidget* frame) {
     opener_ = opener;
     setParent(frame, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    PopupFrame::dress(this);
     placePopup(frame);
     show();
     activateWindow();
 }
 
-// The margins of a picker within the frame, from 1/1440 inch.
-static QSize roomWithin(const QWidget* frame) {
-    return frame->size() - QSize(200 * frame->logicalDpiX() / 1440, 1600 * frame->logicalDpiY() / 1440);
+// Below the field that a person is at, as large as wanted, and within the room; where little is left below,
+// as far up as it takes.
+static QRect belowField(const QRect& room, QSize wanted) {
+    const QWidget* field = QApplication::focusWidget();
+    QPoint corner = room.topLeft();
+    if (field) corner = field->mapToGlobal(QPoint(0, field->height()));
+    QRect place(corner, wanted.boundedTo(room.size()));
+    if (place.right() > room.right()) place.moveRight(room.right());
+    const int least = place.height() / 2;
+    if (room.bottom() - place.top() < least) place.moveTop(room.bottom() - least);
+    return place & room;
 }
 
 void ChildScreen::placePopup(const QWidget* frame) {
     const QRect area = screen()->availableGeometry();
-    if (placement_ == FillsFrame && frame) {
-        setGeometry(QRect(frame->pos(), roomWithin(frame).expandedTo(minimumSizeHint())) & area);
-        return;
-    }
+    constexpr int margin = 4;
+    const QRect room = (frame ? frame->geometry() & area : area).adjusted(margin, margin, -margin, -margin);
+    if (placement_ == FillsFrame) return setGeometry(belowField(room, sizeHint()));
     adjustSize();
-    move(area.center() - rect().center());
-}
-
-static bool takesTab(const QWidget* widget, const QWidget* screen) {
-    return (widget->focusPolicy() & Qt::TabFocus) && !widget->focusProxy() && widget->isEnabled() &&
-           widget->isVisibleTo(screen) && screen->isAncestorOf(widget);
+    move(room.center() - rect().center());
 }
 
 void focusNextField(QWidget* screen) {

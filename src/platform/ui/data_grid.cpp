@@ -1,13 +1,17 @@
 #include "platform/ui/data_grid.h"
 
 #include "platform/ui/boxes.h"
+#include "platform/ui/column_header.h"
 #include "platform/ui/enter_key.h"
-#include "platform/ui/form.h"
 #include "platform/ui/grid_model.h"
+#include "platform/ui/list_hand.h"
+#include "platform/ui/list_look.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMetaMethod>
+#include <algorithm>
 
 DataGrid::DataGrid(const QString& name, const QString& dataControlName, const QList<GridColumn>& columns,
                    QWidget* parent)
@@ -21,9 +25,16 @@ DataGrid::DataGrid(const QString& name, const QString& dataControlName, const QL
     setTabKeyNavigation(false);
     setWordWrap(false);
     setAlternatingRowColors(true);
+    setShowGrid(false);
+    auto* headings = new ColumnHeader(this);
+    setHorizontalHeader(headings);
+    headings->setSectionsClickable(true);
+    headings->setColumns(columns);
     setUpHeaders();
-    form::setColumnWidths(horizontalHeader(), columns);
+    list_look::dress(this);
     connect(this, &QTableView::doubleClicked, this, &DataGrid::picked);
+    connect(model_, &GridModel::ownRowsAdded, this,
+            [this] { guarded([this] { keepPlace([this] { model_->runAgain(); }); }); });
     connect(
         model_, &GridModel::failed, this, [](const QString& text) { showBox(exclamation("Error...", text)); },
         Qt::QueuedConnection);
@@ -32,16 +43,28 @@ DataGrid::DataGrid(const QString& name, const QString& dataControlName, const QL
 void DataGrid::setUpHeaders() {
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 4 / 3);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setSectionsClickable(true);
-    horizontalHeader()->setStretchLastSection(true);
+    verticalHeader()->setDefaultSectionSize(list_look::rowHeight(this));
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &DataGrid::headerClicked);
 }
 
-void DataGrid::setSource(Connection& store, const Source& source) {
+void DataGrid::setSource(Connection& store, const Source& source, Place place) {
+    if (place == Place::Kept) return keepPlace([&] { model_->setSource(store, source); });
     model_->setSource(store, source);
     if (!isEmpty()) selectRow(0);
+}
+
+void DataGrid::followOwnChanges() { model_->followOwnChanges(); }
+
+// A marked row that has gone leaves its place to the next one.
+void DataGrid::keepPlace(const std::function<void()>& query) {
+    const int row = currentRow();
+    const qint64 current = model_->key(row);
+    const qint64 top = model_->key(rowAt(0));
+    query();
+    if (isEmpty()) return;
+    const int found = model_->place(current);
+    selectRow(found >= 0 ? found : std::min(row, model_->rowCount() - 1));
+    scrollTo(model_->index(std::max(model_->place(top), 0), std::max(columnAt(0), 0)), PositionAtTop);
 }
 
 void DataGrid::clearRows() { model_->clearRows(); }
@@ -58,14 +81,36 @@ QString DataGrid::currentText(const QString& column) const {
 }
 
 void DataGrid::selectKey(const QString& column, const QString& value) {
-    if (const int row = model_->findFetched(column, value); row >= 0) selectRow(row);
+    if (const int row = model_->find(column, value); row >= 0) selectRow(row);
 }
 
-QSize DataGrid::sizeHint() const { return form::listSize(this, horizontalHeader()); }
+void DataGrid::showOrder(const QString& order) {
+    const int column = model_->orderedColumn(order);
+    horizontalHeader()->setSortIndicatorShown(column >= 0);
+    if (column >= 0) horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+}
+
+QSize DataGrid::sizeHint() const {
+    return static_cast<const ColumnHeader*>(horizontalHeader())->listSize(this);
+}
+
+void DataGrid::contextMenuEvent(QContextMenuEvent* event) {
+    QList<list_hand::Key> keys;
+    if (isSignalConnected(QMetaMethod::fromSignal(&DataGrid::picked))) keys += {Qt::Key_Return, "Open"};
+    if (isSignalConnected(QMetaMethod::fromSignal(&DataGrid::deletePressed)))
+        keys += {Qt::Key_Delete, "Delete"};
+    const bool sorts = isSignalConnected(QMetaMethod::fromSignal(&DataGrid::headerClicked));
+    list_hand::showMenu(this, keys, sorts, event->globalPos());
+}
 
 // A key that nobody waits for goes on to the screen.
 void DataGrid::keyPressEvent(QKeyEvent* event) {
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
+    const bool toEnd = event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+    const bool unshifted = !(event->modifiers() & ~(Qt::KeypadModifier | Qt::ControlModifier));
+    const int sorted = list_hand::sortColumn(event);
+    if (sorted >= 0 && sorted < model_->columnCount()) return emit headerClicked(sorted);
+    if (event->matches(QKeySequence::Copy)) return list_hand::copyRows(this);
     if (isEnterKey(event->key())) {
         const bool waited = isSignalConnected(QMetaMethod::fromSignal(&DataGrid::picked));
         event->setAccepted(waited);
@@ -73,7 +118,7 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
     } else if (event->key() == Qt::Key_Delete) {
         event->setAccepted(plain && isSignalConnected(QMetaMethod::fromSignal(&DataGrid::deletePressed)));
         if (plain) emit deletePressed();
-    } else if (plain && (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)) {
+    } else if (unshifted && toEnd) {
         goToEnd(event->key() == Qt::Key_End);
     } else {
         QTableView::keyPressEvent(event);

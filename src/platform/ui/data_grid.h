@@ -2,6 +2,7 @@
 #include "platform/store/connection.h"
 
 #include <QTableView>
+#include <functional>
 
 // One column of a data grid: a heading over a column of the query, shown through a mask.
 struct GridColumn {
@@ -32,7 +33,12 @@ class DataGrid : public QTableView {
         Sql where;         // " WHERE RefNo = ?", or empty
         QString order;     // " ORDER BY RefNo ASC", or empty: the store's order
     };
-    void setSource(Connection& store, const Source& source);
+    // Kept: the marked row and the scroll place stay, as far as their rows are still listed.
+    enum class Place : quint8 { Top, Kept };
+    void setSource(Connection& store, const Source& source, Place place = Place::Top);
+    // What this program itself writes to the listed rows shows at once, in their places; what others write
+    // comes with the next query.
+    void followOwnChanges();
     void clearRows();
 
     bool isEmpty() const;
@@ -42,8 +48,11 @@ class DataGrid : public QTableView {
     // Of any column of the query, trimmed; a column that the grid shows, as it shows it. Empty with no row,
     // and for a row that has gone from the store since.
     QString currentText(const QString& column) const;
-    void selectKey(const QString& column, const QString& value);  // among the fetched rows
-    void fetchAll();                                              // for tests and exports
+    // Goes to the row of the key table with this value, fetched or not; stays where there is none.
+    void selectKey(const QString& column, const QString& value);
+    // The arrow over the column that this order names first, " ORDER BY RefNo ASC"; none without one.
+    void showOrder(const QString& order);
+    void fetchAll();  // for tests and exports
 
     QSize sizeHint() const override;
 
@@ -54,11 +63,13 @@ class DataGrid : public QTableView {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
     void setUpHeaders();
     int currentRow() const;
     void goToEnd(bool last);
+    void keepPlace(const std::function<void()>& query);
 
     GridModel* model_;
 };

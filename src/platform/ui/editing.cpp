@@ -1,8 +1,10 @@
 #include "platform/ui/editing.h"
 
 #include "platform/ui/combo_box.h"
+#include "platform/ui/list_hand.h"
 #include "platform/ui/text_box.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 
 namespace editing {
@@ -17,8 +19,12 @@ void cut() {
     if (QLineEdit* line = activeLine(); line && !line->isReadOnly()) line->cut();
 }
 
+// Of a list, its rows.
 void copy() {
-    if (QLineEdit* line = activeLine()) line->copy();
+    if (QLineEdit* line = activeLine())
+        line->copy();
+    else if (const auto* list = qobject_cast<QAbstractItemView*>(QApplication::focusWidget()))
+        list_hand::copyRows(list);
 }
 
 void paste() {

@@ -28,10 +28,13 @@ QString openFile(QWidget* parent, const QString& title, const QString& path, con
     return QFileDialog::getOpenFileName(parent, title, path, filter);
 }
 
-QString saveFile(QWidget* parent, const QString& title, const QString& path, const QString& filter) {
+QString saveFile(QWidget* parent, const QString& title, const QString& path, const QString& filter,
+                 WritesOver asked, QString* chosen) {
     if (doors().saveFile) return doors().saveFile(title);
     const FrontHold hold;
-    return QFileDialog::getSaveFileName(parent, title, path, filter);
+    const auto options =
+        asked == WritesOver::Asked ? QFileDialog::Options() : QFileDialog::DontConfirmOverwrite;
+    return QFileDialog::getSaveFileName(parent, title, path, filter, chosen, options);
 }
 
 QString askText(QWidget* parent, const QString& title, const QString& prompt) {

@@ -10,7 +10,10 @@ class QWidget;
 namespace desk {
 // The path chosen, or empty.
 QString openFile(QWidget* parent, const QString& title, const QString& path, const QString& filter);
-QString saveFile(QWidget* parent, const QString& title, const QString& path, const QString& filter);
+enum class WritesOver { Asked, NotAsked };  // when there is such a file
+// chosen: gets the one of the filters that was set.
+QString saveFile(QWidget* parent, const QString& title, const QString& path, const QString& filter,
+                 WritesOver asked = WritesOver::Asked, QString* chosen = nullptr);
 // A line of text; empty: none was given.
 QString askText(QWidget* parent, const QString& title, const QString& prompt);
 // Opens a file or an address with the desktop; false when the desktop has nothing for it.

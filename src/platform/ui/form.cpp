@@ -3,7 +3,6 @@
 #include "platform/ui/icons.h"
 
 #include <QHBoxLayout>
-#include <QScrollBar>
 #include <QStyle>
 
 namespace form {
@@ -30,8 +29,10 @@ QLabel* label(const QString& text, QWidget* buddy) {
 }
 
 void row(QGridLayout* grid, int row, int column, const QString& text, QWidget* control, int span) {
+    // A field of a width of its own stands at the left of the place that it has.
+    const bool isFixed = control->maximumWidth() < QWIDGETSIZE_MAX;
     grid->addWidget(label(text, control), row, column);
-    grid->addWidget(control, row, column + 1, 1, span);
+    grid->addWidget(control, row, column + 1, 1, span, isFixed ? Qt::AlignLeft : Qt::Alignment());
 }
 
 QPushButton* button(const QString& name, const QString& caption, const QString& icon) {
@@ -100,13 +101,6 @@ int charactersWide(const QWidget* widget, int characters) {
     const int ends =
         2 * (frame + widget->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, widget));
     return widget->fontMetrics().averageCharWidth() * characters + ends + widget->fontMetrics().height() / 2;
-}
-
-QSize listSize(const QAbstractScrollArea* list, const QHeaderView* header) {
-    const int columns =
-        header->length() + list->verticalScrollBar()->sizeHint().width() + 2 * list->frameWidth();
-    const int rows = list->fontMetrics().height() * 14;
-    return {std::min(columns, charactersWide(list, 110)), rows};
 }
 
 }  // namespace form

@@ -1,8 +1,6 @@
 #pragma once
-#include <QAbstractScrollArea>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
@@ -29,13 +27,4 @@ void setFont(QWidget* widget, double factor, bool bold = false);
 void keepReadable(QWidget* widget, std::initializer_list<QPalette::ColorRole> roles);
 // Width for this many average characters of the widget's font.
 int charactersWide(const QWidget* widget, int characters);
-// The columns of a list as wide as their characters, and their headings, need.
-template <typename Columns>
-void setColumnWidths(QHeaderView* header, const Columns& columns) {
-    for (int column = 0; column < columns.size(); ++column)
-        header->resizeSection(column, std::max(charactersWide(header, columns.at(column).characters),
-                                               header->sectionSizeHint(column)));
-}
-// The size at which a list shows its columns and some rows, as far as a small desktop has room.
-QSize listSize(const QAbstractScrollArea* list, const QHeaderView* header);
 }  // namespace form

@@ -2,11 +2,14 @@
 
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/store/place.h"
 #include "platform/ui/shown_text.h"
 
 #include <QApplication>
 #include <QPalette>
+#include <QRegularExpression>
 #include <QTimer>
+#include <algorithm>
 #include <unordered_set>
 
 static const QString keyColumn = "GridRowKey";
@@ -14,20 +17,26 @@ static const QString keyColumn = "GridRowKey";
 GridModel::GridModel(const QList<GridColumn>& columns, QObject* parent)
     : QAbstractTableModel(parent), columns_(columns) {}
 
-static QString keyedColumns(const DataGrid::Source& source) {
-    return "SELECT " + source.keyTable + ".rowid AS " + keyColumn + ", " + source.columns + " FROM " +
-           source.from;
+static QString keyedColumns(const DataGrid::Source& source, const QString& key) {
+    return "SELECT " + key + " AS " + keyColumn + ", " + source.columns + " FROM " + source.from;
+}
+
+// Rows that are equal to the query stand in the order of their keys, on every engine.
+static QString fullOrder(const QString& order, const QString& key) {
+    if (order.isEmpty()) return " ORDER BY " + key;
+    return order + ", " + key + (order.endsWith(" DESC") ? " DESC" : "");
 }
 
 // The limit is a bound value: the engine would sort every row rather than walk an index of the joined table
 // for a limit that it knows beforehand to be small.
-Sql GridModel::firstPage(const DataGrid::Source& source) const {
-    return Sql(keyedColumns(source)) + source.where + Sql(source.order + " LIMIT ?", {pageRows});
+Sql GridModel::firstPage(const DataGrid::Source& source, const QString& key) {
+    return Sql(keyedColumns(source, key)) + source.where +
+           Sql(fullOrder(source.order, key) + " LIMIT ?", {pageRows});
 }
 
 Sql GridModel::keysOf(const DataGrid::Source& source) const {
-    return Sql("SELECT " + source.keyTable + ".rowid AS " + keyColumn + " FROM " + source.from) +
-           source.where + Sql(source.order);
+    return Sql("SELECT " + key_ + " AS " + keyColumn + " FROM " + source.from) + source.where +
+           Sql(fullOrder(source.order, key_));
 }
 
 // Always as many marks as a page has rows, so that the store prepares the statement once.
@@ -38,8 +47,7 @@ Sql GridModel::pageOf(const std::vector<int>& rows) const {
         marks += "?";
         keys += rows_[static_cast<size_t>(rows[std::min(i, rows.size() - 1)])].key;
     }
-    return {keyedColumns(source_) + " WHERE " + source_.keyTable + ".rowid IN (" + marks.join(u',') + u')',
-            keys};
+    return {keyedColumns(source_, key_) + " WHERE " + key_ + " IN (" + marks.join(u',') + u')', keys};
 }
 
 std::vector<GridModel::Row> GridModel::rowsOf(Recordset page, int pageNumber) const {
@@ -50,7 +58,8 @@ std::vector<GridModel::Row> GridModel::rowsOf(Recordset page, int pageNumber) co
 }
 
 void GridModel::setSource(Connection& store, const DataGrid::Source& source) {
-    const Recordset page = store.execute(firstPage(source));
+    const QString key = source.keyTable + u'.' + keyOf(store, source.keyTable);
+    const Recordset page = store.execute(firstPage(source, key));
     // Everything that can fail, before anything is changed: painting must not.
     if (!page.eof())
         for (const GridColumn& column : columns_) page.isNull(column.column);
@@ -59,12 +68,17 @@ void GridModel::setSource(Connection& store, const DataGrid::Source& source) {
     beginResetModel();
     store_ = &store;
     source_ = source;
+    key_ = key;
     types_ = types;
     rows_ = std::move(rows);
     pages_ = {page};
     wanted_.clear();
+    changed_.clear();
     complete_ = rows_.size() < pageRows;
     endResetModel();
+    if (follows_)
+        watch_ = std::make_unique<RowWatch>(
+            store, source.keyTable, [this](RowWatch::Change change, qint64 row) { note(change, row); });
 }
 
 void GridModel::clearRows() {
@@ -136,6 +150,62 @@ void GridModel::fetchRows(const std::vector<int>& rows) {
     }
 }
 
+// Within a statement of the store, which is no time to read it.
+void GridModel::note(RowWatch::Change change, qint64 key) {
+    if (changed_.empty()) QTimer::singleShot(0, this, &GridModel::takeChanges);
+    RowWatch::Change& known = changed_.try_emplace(key, change).first->second;
+    if (known != RowWatch::Added) known = change;
+}
+
+// Once the unit that wrote them has ended, whichever way.
+void GridModel::takeChanges() {
+    constexpr int whileBusy = 50;
+    if (changed_.empty()) return;
+    if (store_->inTransaction()) return QTimer::singleShot(whileBusy, this, &GridModel::takeChanges);
+    const auto changed = std::exchange(changed_, {});
+    const bool added =
+        std::ranges::any_of(changed, [](const auto& row) { return row.second == RowWatch::Added; });
+    if (added) return emit ownRowsAdded();
+    try {
+        fetchAgain(changed);
+        removeGone(changed);
+    } catch (const std::exception& error) {
+        emit failed(QString::fromUtf8(error.what()));
+    }
+}
+
+// A row that still waits to be fetched will come as it is then.
+void GridModel::fetchAgain(const std::map<qint64, RowWatch::Change>& changed) {
+    std::vector<int> rows;
+    const auto fetch = [&] {
+        fetchRows(rows);
+        for (const int row : rows) emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+        rows.clear();
+    };
+    for (int row = 0; row < rowCount(); ++row) {
+        const Row& known = rows_[static_cast<size_t>(row)];
+        const auto found = changed.find(known.key);
+        if (found == changed.end()) continue;
+        if (known.state == State::Waiting && found->second != RowWatch::Deleted) continue;
+        rows.push_back(row);
+        if (rows.size() == pageRows) fetch();
+    }
+    if (!rows.empty()) fetch();
+}
+
+// What somebody else has deleted stays in its place: only a person's own rows go under their eyes.
+void GridModel::removeGone(const std::map<qint64, RowWatch::Change>& changed) {
+    for (int row = rowCount() - 1; row >= 0; --row) {
+        const Row& known = rows_[static_cast<size_t>(row)];
+        const auto found = changed.find(known.key);
+        const bool deleted = found != changed.end() && found->second == RowWatch::Deleted;
+        if (!deleted || known.state != State::Gone) continue;
+        beginRemoveRows({}, row, row);
+        rows_.erase(rows_.begin() + row);
+        endRemoveRows();
+    }
+}
+
 // Asked for while painting, which is no time to read the store: the page comes at the next turn.
 void GridModel::want(int row) const {
     if (wanted_.empty())
@@ -180,13 +250,36 @@ QString GridModel::text(int row, const QString& column) const {
     return trim(own ? shown(found, *own) : plainText(at(found), column));
 }
 
-int GridModel::findFetched(const QString& column, const QString& value) const {
-    for (int row = 0; row < rowCount(); ++row) {
-        const Row& found = rows_[static_cast<size_t>(row)];
-        if (found.state == State::Fetched && text(row, column).compare(value, Qt::CaseInsensitive) == 0)
-            return row;
-    }
+int GridModel::orderedColumn(const QString& order) const {
+    static const QRegularExpression words("\\W+");
+    const QString first = order.section(u',', 0, 0);
+    for (qsizetype i = 0; i < columns_.size(); ++i)
+        if (first.split(words).contains(columns_.at(i).column, Qt::CaseInsensitive))
+            return static_cast<int>(i);
     return -1;
+}
+
+qint64 GridModel::key(int row) const {
+    return row < 0 || row >= rowCount() ? -1 : rows_[static_cast<size_t>(row)].key;
+}
+
+int GridModel::loadedPlace(qint64 key) const {
+    const auto found = std::ranges::find(rows_, key, &Row::key);
+    return found == rows_.end() ? -1 : static_cast<int>(found - rows_.begin());
+}
+
+int GridModel::place(qint64 key) {
+    if (key >= 0 && loadedPlace(key) < 0) fetchMore({});
+    return loadedPlace(key);
+}
+
+int GridModel::find(const QString& column, const QString& value) {
+    if (rows_.empty()) return -1;
+    const Recordset found = store_->execute(
+        {QString("SELECT %1 AS %2 FROM %3 WHERE %4 = ?").arg(key_, keyColumn, source_.keyTable, column),
+         {value}});
+    if (found.eof()) return -1;
+    return place(found.integer(keyColumn));
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const {

@@ -1,9 +1,12 @@
 #include "platform/ui/grid_picker.h"
 
 #include "platform/ui/boxes.h"
+#include "platform/ui/column_header.h"
 #include "platform/ui/enter_key.h"
+#include "platform/ui/list_look.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 GridPicker::GridPicker(const QString& name, const QString& caption, const QList<GridColumn>& columns,
@@ -20,17 +23,32 @@ GridPicker::GridPicker(const QString& name, const QString& caption, const QList<
     connect(grid_, &DataGrid::headerClicked, this, &GridPicker::reorder);
 }
 
-void GridPicker::list(Connection& store, const DataGrid::Source& source) {
+void GridPicker::list(Connection& store, const DataGrid::Source& source, const QString& lookedFor) {
     store_ = &store;
     source_ = source;
+    list_look::sayWhenEmpty(
+        grid_, lookedFor.isEmpty() ? "There is nothing to choose from." : list_look::nothingFound(lookedFor));
     grid_->setSource(store, source);
+}
+
+QSize GridPicker::sizeHint() const {
+    constexpr int mostRows = 20, fewestRows = 3;
+    const auto* header = static_cast<const ColumnHeader*>(grid_->horizontalHeader());
+    const int frame = 2 * grid_->frameWidth();
+    const int rows = std::clamp(grid_->model()->rowCount(), fewestRows, mostRows);
+    const QSize list(header->neededLength() + grid_->verticalScrollBar()->sizeHint().width() + frame,
+                     header->sizeHint().height() + rows * list_look::rowHeight(grid_) + frame);
+    return list.grownBy(layout()->contentsMargins() + contentsMargins());
 }
 
 void GridPicker::reorder(int column) {
     const QString& order = columns_.at(column).order;
     if (!store_ || order.isEmpty()) return;
     source_.order = order;
-    guarded([this] { grid_->setSource(*store_, source_); });
+    guarded([&] {
+        grid_->setSource(*store_, source_);
+        grid_->showOrder(order);
+    });
 }
 
 // The pick fills the opener, which moves the focus there; the popup is done with before that.

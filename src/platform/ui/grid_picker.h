@@ -14,9 +14,12 @@ class GridPicker : public ChildScreen {
 
     GridPicker(const QString& name, const QString& caption, const QList<GridColumn>& columns, Pick pick);
 
-    // Lists the source; a click on a header lists it again in the order of the column, if it has one.
-    void list(Connection& store, const DataGrid::Source& source);
+    // Lists the source; a click on a header lists it again in the order of the column, if it has one. Where
+    // it lists nothing, the picker says what was looked for.
+    void list(Connection& store, const DataGrid::Source& source, const QString& lookedFor);
     DataGrid* grid() const { return grid_; }
+    // As wide as its columns, and as high as its rows, of which it shows twenty at most.
+    QSize sizeHint() const override;
 
   protected:
     void deactivated() override;

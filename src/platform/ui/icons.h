@@ -7,5 +7,5 @@
 // "copy", "cut", "paste", "item", "contact", "unit", "sales", "purchase", "receipt", "disbursement", "users",
 // "company", "register", "calculator", "help", "switch", "upload", "bird", "arrow-up", "arrow-down", "lock",
 // "zoom-in", "zoom-out", "fit-width", "fit-page", "page", "pages", "thumbnails", "text", "rich-text",
-// "copy-all".
+// "copy-all", and those of boxes: "box-information", "box-question", "box-exclamation", "box-critical".
 QIcon bundledIcon(const QString& name);

@@ -1,25 +1,14 @@
 #include "platform/ui/list_view.h"
 
+#include "platform/ui/column_header.h"
 #include "platform/ui/enter_key.h"
-#include "platform/ui/form.h"
+#include "platform/ui/list_hand.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/text_list_model.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QMetaMethod>
-#include <QStyleOptionViewItem>
-#include <QStyledItemDelegate>
-
-namespace {
-// Rows that leave some room between their boxes.
-class BoxedRows : public QStyledItemDelegate {
-  public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 3);
-    }
-};
-}  // namespace
 
 ListView::ListView(const QString& name, const QList<ListColumn>& columns, QWidget* parent)
     : QTreeView(parent), model_(new TextListModel(columns, this)) {
@@ -32,9 +21,11 @@ ListView::ListView(const QString& name, const QList<ListColumn>& columns, QWidge
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setAlternatingRowColors(true);
-    header()->setSectionsClickable(true);
-    header()->setSectionsMovable(false);
-    form::setColumnWidths(header(), columns);
+    auto* headings = new ColumnHeader(this);
+    setHeader(headings);
+    headings->setSectionsClickable(true);
+    headings->setColumns(columns);
+    list_look::dress(this);
     connectSignals();
 }
 
@@ -44,10 +35,7 @@ void ListView::connectSignals() {
     connect(model_, &TextListModel::dataChanged, this, [this](auto&, auto&, const QList<int>& roles) {
         if (roles.contains(Qt::CheckStateRole)) emit marksChanged();
     });
-    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) {
-        if (sortsByHeader_) toggleSort(column);
-        emit headerClicked(column);
-    });
+    connect(header(), &QHeaderView::sectionClicked, this, &ListView::sortBy);
 }
 
 void ListView::setHeadings(const QStringList& headings) { model_->setHeadings(headings); }
@@ -74,9 +62,11 @@ void ListView::removeRow(int row) { model_->removeRow(row); }
 void ListView::clear() { setRows({}); }
 
 int ListView::addRow(const QStringList& texts) {
-    model_->addRow(texts);
+    model_->insertRow(rowCount(), texts);
     return rowCount() - 1;
 }
+
+void ListView::insertRow(int row, const QStringList& texts) { model_->insertRow(row, texts); }
 
 int ListView::currentRow() const { return currentIndex().isValid() ? currentIndex().row() : -1; }
 
@@ -93,10 +83,7 @@ int ListView::findRow(int column, const QString& text) const {
     return -1;
 }
 
-void ListView::showMarks() {
-    model_->showMarks();
-    setItemDelegate(new BoxedRows(this));
-}
+void ListView::showMarks() { model_->showMarks(); }
 
 bool ListView::isMarked(int row) const { return model_->isMarked(row); }
 void ListView::setMarked(int row, bool marked) { model_->setMarked(row, marked); }
@@ -123,11 +110,29 @@ Qt::SortOrder ListView::sortOrder() const { return order_; }
 int ListView::sortedColumn() const { return sortedColumn_; }
 void ListView::setSortsByHeader(bool sorts) { sortsByHeader_ = sorts; }
 
-QSize ListView::sizeHint() const { return form::listSize(this, header()); }
+QSize ListView::sizeHint() const { return static_cast<const ColumnHeader*>(header())->listSize(this); }
+
+void ListView::sortBy(int column) {
+    if (column >= model_->columnCount()) return;
+    if (sortsByHeader_) toggleSort(column);
+    emit headerClicked(column);
+}
+
+void ListView::contextMenuEvent(QContextMenuEvent* event) {
+    QList<list_hand::Key> keys;
+    if (waitsFor(&ListView::entered)) keys += {Qt::Key_Return, "Open"};
+    if (waitsFor(&ListView::insertPressed)) keys += {Qt::Key_Insert, "Add"};
+    if (waitsFor(&ListView::editPressed)) keys += {Qt::Key_F2, "Edit"};
+    if (waitsFor(&ListView::deletePressed)) keys += {Qt::Key_Delete, "Delete"};
+    if (model_->showsMarks()) keys += {Qt::Key_Space, "Mark"};
+    list_hand::showMenu(this, keys, sortsByHeader_, event->globalPos());
+}
 
 // A key that nobody waits for goes on to the screen.
 void ListView::keyPressEvent(QKeyEvent* event) {
-    const auto waitsFor = [this](auto signal) { return isSignalConnected(QMetaMethod::fromSignal(signal)); };
+    const int sorted = sortsByHeader_ ? list_hand::sortColumn(event) : -1;
+    if (sorted >= 0) return sortBy(sorted);
+    if (event->matches(QKeySequence::Copy)) return list_hand::copyRows(this);
     const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
     const int key = plain ? event->key() : 0;
     const bool enter = isEnterKey(key);

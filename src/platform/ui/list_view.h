@@ -1,4 +1,5 @@
 #pragma once
+#include <QMetaMethod>
 #include <QTreeView>
 
 // A list of rows of texts. The texts are the data; a row is its texts in column order.
@@ -24,7 +25,8 @@ class ListView : public QTreeView {
     QStringList row(int row) const;
     QString text(int row, int column) const;
     void setText(int row, int column, const QString& text);
-    int addRow(const QStringList& texts);          // returns its number
+    int addRow(const QStringList& texts);  // returns its number
+    void insertRow(int row, const QStringList& texts);
     void setRows(const QList<QStringList>& rows);  // all at once, in their order; forgets a sort
     QList<QStringList> rows() const;
     void removeRow(int row);
@@ -60,8 +62,14 @@ class ListView : public QTreeView {
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
   private:
+    template <class Signal>
+    bool waitsFor(Signal signal) const {
+        return isSignalConnected(QMetaMethod::fromSignal(signal));
+    }
+    void sortBy(int column);
     void connectSignals();
     void forgetSort();
 

@@ -1,6 +1,9 @@
 #pragma once
 #include <QDialog>
 
+class QLayout;
+class QPushButton;
+
 // A modal screen: Enter moves to the next field (or presses the button that has the focus), Esc unloads.
 class ModalForm : public QDialog {
     Q_OBJECT
@@ -10,5 +13,7 @@ class ModalForm : public QDialog {
     void showModal();
 
   protected:
+    // The fields, and the buttons at the right below them.
+    void layOut(QLayout* fields, const QList<QPushButton*>& buttons);
     void keyPressEvent(QKeyEvent* event) override;
 };

@@ -83,7 +83,7 @@ void TextListModel::setHeadings(const QStringList& headings) {
 }
 
 QStringList TextListModel::wholeRow(QStringList texts) const {
-    texts.resize(columns_.size());
+    if (texts.size() != columns_.size()) texts.resize(columns_.size());
     return texts;
 }
 
@@ -93,11 +93,10 @@ void TextListModel::setText(int row, int column, const QString& text) {
     emit dataChanged(index(row, column), index(row, column));
 }
 
-void TextListModel::addRow(const QStringList& texts) {
-    const int row = rowCount();
+void TextListModel::insertRow(int row, const QStringList& texts) {
     beginInsertRows({}, row, row);
-    rows_ += wholeRow(texts);
-    marks_ += false;
+    rows_.insert(row, wholeRow(texts));
+    marks_.insert(row, false);
     endInsertRows();
 }
 

@@ -20,7 +20,7 @@ class TextListModel : public QAbstractTableModel {
 
     const QList<QStringList>& rows() const { return rows_; }
     void setText(int row, int column, const QString& text);
-    void addRow(const QStringList& texts);
+    void insertRow(int row, const QStringList& texts);
     void setRows(const QList<QStringList>& rows);
     void removeRow(int row);
 

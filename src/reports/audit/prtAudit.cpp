@@ -84,7 +84,7 @@ QStringList auditedBooks() {
     return selections;
 }
 
-std::optional<Fault> auditFault(const PrintRequest& request) {
+std::optional<Fault> auditFault(Connection&, const PrintRequest& request) {
     if (trim(request.selection).isEmpty())
         return Fault{refusal("Please Select a Transaction to Audit!"), "cboSelection"};
     if (!bookOf(request.selection)) return Fault{refusal("Invalid Audit Type Selected!"), "cboSelection"};

@@ -8,6 +8,6 @@ const ReportLayout& prtAudit();
 QStringList auditedBooks();
 
 // Why this audit cannot be printed.
-std::optional<Fault> auditFault(const PrintRequest& request);
+std::optional<Fault> auditFault(Connection&, const PrintRequest& request);
 // Its run; none when nothing was changed in the period. A request without fault.
 std::optional<ReportJobParts> auditReport(Connection& store, const PrintRequest& request);

@@ -13,7 +13,8 @@ namespace {
 Sql checksOf(const QString& voucherNo) {
     return {
         "SELECT tblChecks.*, tblContactMaster.ContactName FROM tblChecks INNER JOIN tblContactMaster ON "
-        "tblChecks.ContactNo = tblContactMaster.ContactID WHERE tblChecks.VoucherID = ?",
+        "tblChecks.ContactNo = tblContactMaster.ContactID WHERE tblChecks.VoucherID = ? "
+        "ORDER BY tblChecks.ZevRef",
         {voucherNo}};
 }
 

@@ -2,13 +2,12 @@
 
 #include "foundation/shared_routines.h"
 #include "platform/clock.h"
-#include "platform/masks.h"
 #include "reports/frame/list_report.h"
 #include "reports/frame/report_query.h"
 
 const DueChecks prtReceivableDueChecks{
     .name = "prtReceivableDueChecks",
-    .caption = "Receivable Due Checks...",
+    .caption = "Due Checks...",
     .heading = "Accounts Receivable",
     .from =
         "(tblContactMaster INNER JOIN tblReceiptMaster ON tblContactMaster.ContactID = "
@@ -22,7 +21,7 @@ const DueChecks prtReceivableDueChecks{
 
 const DueChecks prtPayableDueChecks{
     .name = "prtPayableDueChecks",
-    .caption = "Payable Due Checks...",
+    .caption = "Due Checks...",
     .heading = "Accounts Payable",
     .from = "tblContactMaster INNER JOIN tblChecks ON tblContactMaster.ContactID = tblChecks.ContactNo",
     .table = "tblChecks",
@@ -32,7 +31,6 @@ const DueChecks prtPayableDueChecks{
     .contactHead = "Payee Name"};
 
 namespace {
-constexpr int countTop = 900;
 const QString cardTitle = "Credit Card Payment Report";
 
 ReportLayout layoutOf(const DueChecks& list) {
@@ -50,24 +48,20 @@ ReportLayout layoutOf(const DueChecks& list) {
                      {list.referenceHead, 5670, 1440, list.reference},
                      {list.contactHead, 7200, 3240, "ContactName"}},
          .total = "Total Amount = "});
-    layout.sections.first().controls +=
-        {label("lblRecords", "No. of Records = ", 90, countTop, 1530, 225),
-         showing(Shows::RecordCount, field("lblNoRecords", "", 1620, countTop, 900, 225, {}, mask::count))};
+    layout.sections.first().controls += recordsLine(900);
     return layout;
 }
 
-RunTexts textsOf(const QString& title) {
-    RunTexts texts{.labels = {{"lblTitle", title}}};
-    if (title == cardTitle)
-        texts.labels.insert({{"lblCheckNo", "Approval No."},
-                             {"lblCheckDate", "Date"},
-                             {"lblContactName", "Card No. / Card Holder"}});
-    return texts;
+void headCards(const ReportSource&, SectionFields& fields) {
+    fields.setText("lblCheckNo", "Approval No.");
+    fields.setText("lblCheckDate", "Date");
+    fields.setText("lblContactName", "Card No. / Card Holder");
 }
 
 // The clerk wrote number and holder of the card into the remarks of the payment.
 ReportEvents cardEvents(Connection& store) {
-    return {{on(SectionKind::Detail), [&store](const ReportSource& row, SectionFields& fields) {
+    return {{on(SectionKind::PageHeader), headCards},
+            {on(SectionKind::Detail), [&store](const ReportSource& row, SectionFields& fields) {
                  fields.setText("txtContactName",
                                 LookupField(store, "PayNo", "tblReceiptMaster", "PayRemarks",
                                             row.text("PayCode"), LookupMode::DisplayText));
@@ -83,7 +77,7 @@ const ReportLayout& dueChecksLayout(const DueChecks& list) {
 
 Sql checksDue(const DueChecks& list) {
     return {QString("SELECT tblContactMaster.ContactName, %1.* FROM %2 WHERE %1.CheckNo <> 'Cash' AND "
-                    "%1.Negotiated = 0 AND %1.CheckDate <= ? ORDER BY %1.CheckDate ASC")
+                    "%1.Negotiated = 0 AND %1.CheckDate <= ? ORDER BY %1.CheckDate, %1.ZevRef")
                 .arg(QString(list.table), QString(list.from)),
             {bound(Clock::today())}};
 }
@@ -91,5 +85,6 @@ Sql checksDue(const DueChecks& list) {
 std::optional<ReportJobParts> dueChecksReport(Connection& store, const DueChecks& list, const Sql& rows,
                                               const QString& title) {
     return reportOfQuery(store, dueChecksLayout(list), rows,
-                         title == cardTitle ? cardEvents(store) : ReportEvents{}, textsOf(title));
+                         title == cardTitle ? cardEvents(store) : ReportEvents{},
+                         {.labels = {{"lblTitle", title}}});
 }

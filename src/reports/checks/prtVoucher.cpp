@@ -13,11 +13,16 @@ constexpr TextStyle tightNumber{Typeface::Tahoma, 8, false, Qt::AlignRight};
 constexpr TextStyle head{Typeface::Tahoma, 8, true, Qt::AlignLeft};
 constexpr TextStyle numberHead{Typeface::Tahoma, 8, true, Qt::AlignRight};
 
-// A label, and beside it a field of the voucher.
+const PageSetup page = letterPortrait(500, 400, 11070);
+
+// A label, and beside it a field of the voucher: its number is narrowed before it breaks.
 QList<ReportControl> labelled(const char* name, const char* caption, int left, int top, int fieldLeft,
                               int fieldWidth, const char* column, const char* fieldMask = nullptr) {
-    return {label(QString("lbl") + name, caption, left, top, fieldLeft - left, lineOfText),
-            field(QString("txt") + name, column, fieldLeft, top, fieldWidth, lineOfText, {}, fieldMask)};
+    ReportControl value =
+        field(QString("txt") + name, column, fieldLeft, top, fieldWidth, lineOfText, {}, fieldMask);
+    value.grows = !fieldMask;
+    value.isWhole = column == QLatin1StringView("VoucherNo");
+    return {label(QString("lbl") + name, caption, left, top, fieldLeft - left, lineOfText), value};
 }
 
 QList<ReportControl> signatures() {
@@ -30,7 +35,7 @@ QList<ReportControl> signatures() {
 
 ReportSection slip() {
     const QList<ReportControl> heading{
-        label("lblCompany1", "", 90, 90, 7020, 270, bold(10)),
+        growing(label("lblCompany1", "", 90, 90, 7020, 270, bold(10))),
         label("CompanyName", "Acknowledgement ", 7650, 90, 3330, 270, bold(10))};
     return section(
         SectionKind::ReportHeader, 1740,
@@ -42,9 +47,10 @@ ReportSection slip() {
 }
 
 QList<ReportControl> companyBlock() {
-    return {image("imgCheck", 90, 90, 1440, 1260), label("lblCompany2", "", 1620, 90, 9360, 270, bold(10)),
-            label("lblAddress", "", 1620, 360, 9360, lineOfText),
-            label("lblTelNo", "", 1620, 630, 9360, lineOfText),
+    return {image("imgCheck", 90, 90, 1440, 1260),
+            growing(label("lblCompany2", "", 1620, 90, 9360, 270, bold(10))),
+            growing(label("lblAddress", "", 1620, 360, 9360, lineOfText)),
+            growing(label("lblTelNo", "", 1620, 630, 9360, lineOfText)),
             label("lblTitle", "Payment Voucher", 7650, 990, 3330, 300, bold(12))};
 }
 
@@ -73,9 +79,9 @@ ReportSection voucherHeading() {
 ReportSection voucherFooter() {
     return section(SectionKind::ReportFooter, 2295,
                    {label("lblChecked", "Certified Correct:", 180, 270, 4500, lineOfText),
-                    label("txtChecked", "", 180, 900, 4500, lineOfText),
+                    growing(label("txtChecked", "", 180, 900, 4500, lineOfText)),
                     label("lblApproved", "Approved:", 5850, 270, 4500, lineOfText),
-                    label("txtApproved", "", 5850, 900, 4500, lineOfText)});
+                    growing(label("txtApproved", "", 5850, 900, 4500, lineOfText))});
 }
 
 // A payment that lacks something shows a dash for it.
@@ -88,14 +94,15 @@ void fillReference(const ReportSource& row, SectionFields& fields) {
 std::optional<ReportJobParts> referencesOf(Connection& store, const QString& voucherNo) {
     return reportOfQuery(
         store, prtVoucherReference(),
-        {"SELECT * FROM tblDisbursementDetails WHERE VoucherID = ? ORDER BY rowid", {voucherNo}},
+        {"SELECT * FROM tblDisbursementDetails WHERE VoucherID = ? ORDER BY RowNo", {voucherNo}},
         {{on(SectionKind::Detail), fillReference}});
 }
 
 std::optional<ReportJobParts> checksOf(Connection& store, const QString& voucherNo) {
     return reportOfQuery(
         store, prtVoucherChecks(),
-        {"SELECT CheckNo, CheckDate, CheckAmount FROM tblChecks WHERE VoucherID = ?", {voucherNo}});
+        {"SELECT CheckNo, CheckDate, CheckAmount FROM tblChecks WHERE VoucherID = ? ORDER BY ZevRef",
+         {voucherNo}});
 }
 
 // A half without rows stays empty.
@@ -127,11 +134,11 @@ const ReportLayout& prtVoucher() {
     static const ReportLayout layout{
         "prtVoucher",
         "Payment Voucher...",
-        letterPortrait(500, 400, 11070),
+        page,
         {slip(), voucherHeading(),
          section(SectionKind::Detail, 375,
                  {subReport("subReference", 90, 0, 6480), subReport("subChecks", 6660, 0, 4320)}),
-         voucherFooter()}};
+         voucherFooter(), pageOfPagesFooter(page)}};
     return layout;
 }
 

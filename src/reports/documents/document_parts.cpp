@@ -17,15 +17,9 @@ constexpr TextStyle numberHead{Typeface::Tahoma, 8, true, Qt::AlignRight};
 
 int rightEdge(const ColumnPlace& column) { return column.left + column.width; }
 
-QList<ReportControl> companyBlock() {
-    return {image("imgCheck", 90, 90, 1350, 1170), label("lblCompany", "", 1530, 90, 9000, 270, bold(10)),
-            label("lblAddress", "", 1530, 360, 9000, lineOfText),
-            label("lblTelNo", "", 1530, 630, 9000, lineOfText)};
-}
-
 QList<ReportControl> partyBlock(const DocumentPaper& paper) {
     return {label("lblParty", paper.party, 90, 1350, 900, lineOfText),
-            field("txtContactName", "ContactName", 990, 1350, 6210, lineOfText, bold()),
+            growing(field("txtContactName", "ContactName", 990, 1350, 6210, lineOfText, bold())),
             growing(field("txtAddress", "Address", 990, 1620, 6210, 540))};
 }
 
@@ -34,11 +28,11 @@ QList<ReportControl> numberBlock(const DocumentPaper& paper) {
     const int width = value - left - edge;
     return {label("lblTitle", paper.title, left, 990, 3060, 300, bold(12)),
             label("lblNumber", paper.number, left, 1350, width, lineOfText),
-            field("txtNumber", paper.numberColumn, value, 1350, 1890, lineOfText, bold()),
+            whole(growing(field("txtNumber", paper.numberColumn, value, 1350, 1890, lineOfText, bold()))),
             label("lblDate", paper.date, left, 1620, width, lineOfText),
             field("txtDate", paper.dateColumn, value, 1620, 1890, lineOfText, {}, mask::date),
             label("lblTerms", "Terms :", left, 1890, width, lineOfText),
-            field("txtTerms", "Terms", value, 1890, 1890, lineOfText)};
+            whole(growing(field("txtTerms", "Terms", value, 1890, 1890, lineOfText)))};
 }
 
 ReportControl columnHead(const char* name, const QString& text, const ColumnPlace& place,
@@ -85,22 +79,23 @@ ReportSection documentHeader(const DocumentPaper& paper) { return documentHeader
 ReportSection documentHeader(const DocumentPaper& paper, const QList<ReportControl>& heads) {
     const int right = heads.last().left + heads.last().width;
     return section(SectionKind::PageHeader, 2670,
-                   companyBlock() + partyBlock(paper) + numberBlock(paper) +
+                   companyBlock(90) + partyBlock(paper) + numberBlock(paper) +
                        QList{line("linHead", edge, 2250, right - edge)} + heads);
 }
 
 ReportSection documentLine(const DocumentPaper& paper) {
     const DocumentColumns& at = paper.columns;
-    return section(SectionKind::Detail, 285,
-                   {lineNumber("txtOrdered", "Ordered", at.ordered, nullptr),
-                    lineNumber("txtMoved", paper.moved, at.moved, nullptr),
-                    field("txtUnit", "Unit", at.unit.left, 30, at.unit.width, lineOfText, tightCentred),
-                    lineText("txtItemCode", "ItemID", at.item), lineText("txtProductDes", "", at.description),
-                    lineNumber("txtGross", "UnitPrice", at.gross, mask::price),
-                    lineNumber("txtDiscount", "Discount", at.discount, nullptr),
-                    label("txtSymbol", "%", rightEdge(at.discount), 30, 180, lineOfText, tight),
-                    lineNumber("txtNet", "", at.net, mask::price),
-                    lineNumber("txtTotal", "Total", at.amount, mask::amount)});
+    return section(
+        SectionKind::Detail, 285,
+        {lineNumber("txtOrdered", "Ordered", at.ordered, nullptr),
+         lineNumber("txtMoved", paper.moved, at.moved, nullptr),
+         growing(field("txtUnit", "Unit", at.unit.left, 30, at.unit.width, lineOfText, tightCentred)),
+         lineText("txtItemCode", "ItemID", at.item), lineText("txtProductDes", "", at.description),
+         lineNumber("txtGross", "UnitPrice", at.gross, mask::price),
+         lineNumber("txtDiscount", "Discount", at.discount, nullptr),
+         label("txtSymbol", "%", rightEdge(at.discount), 30, 180, lineOfText, tight),
+         lineNumber("txtNet", "", at.net, mask::price),
+         lineNumber("txtTotal", "Total", at.amount, mask::amount)});
 }
 
 ReportSection documentFooter(const DocumentPaper& paper, const QList<ReportControl>& more) {
@@ -119,7 +114,7 @@ QList<ReportControl> documentSignatures(const DocumentPaper& paper) {
     for (const Signature& signature : paper.signatures)
         controls += {
             label(signature.name + QString("Head"), signature.caption, signature.left, 810, 2700, lineOfText),
-            label(signature.name, "", signature.left, 1530, 2700, lineOfText)};
+            growing(label(signature.name, "", signature.left, 1530, 2700, lineOfText))};
     return controls;
 }
 

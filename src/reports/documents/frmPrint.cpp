@@ -8,6 +8,7 @@
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/list_view.h"
 #include "reports/checks/check_choice.h"
 #include "reports/checks/check_report.h"
@@ -17,6 +18,7 @@
 
 #include <QBoxLayout>
 #include <QRadioButton>
+#include <QScopeGuard>
 
 namespace {
 QRadioButton* option(const char* name) {
@@ -115,6 +117,7 @@ void frmPrint::LoadGrid(const QString& flag) {
         frmStatus status;
         const ProgressScope scope(status, "Please Wait While System is Loading Sales Details...", 0);
         lvwRecord->clear();
+        list_look::sayWhenEmpty(lvwRecord, "No documents here. The other choice at the right lists others.");
         lvwRecord->setRows(documentsToPrint(StoreConnection(), *kind_, flag));
     });
 }
@@ -158,10 +161,32 @@ void frmPrint::printMarked() {
         if (const auto fault = fraParameters->fault()) return showFault(*fault, this);
     const QStringList numbers = markedNumbers();
     const ReportTarget target = fraChoice->target();
-    if (numbers.isEmpty() || !readyToExport(this, target)) return;
+    if (numbers.isEmpty() || !readyFor(numbers, target)) return;
     if (kind_->readSettings) kind_->readSettings();
+    if (isExport(target) && numbers.size() > 1) return printToFiles(numbers, target);
     for (const QString& number : numbers)
         if (!print(number, target)) return;
+}
+
+bool frmPrint::readyFor(const QStringList& numbers, ReportTarget target) {
+    return numbers.size() > 1 ? readyToExportSeveral(this, target) : readyToExport(this, target);
+}
+
+// Each document goes to a file of its own; the name that was chosen stays the one to begin with.
+void frmPrint::printToFiles(const QStringList& numbers, ReportTarget target) {
+    const QString chosen = session().ExportFileName;
+    const auto restored = qScopeGuard([&chosen] { session().ExportFileName = chosen; });
+    for (const QString& number : numbers) {
+        session().ExportFileName = fileOfDocument(chosen, number, exportKind(target));
+        if (!printToFile(number, target)) return;
+    }
+}
+
+// A file that may not be written over is left out.
+bool frmPrint::printToFile(const QString& number, ReportTarget target) {
+    auto report = kind_->report(StoreConnection(), number);
+    if (report && !mayWrite(session().ExportFileName, "Export")) return true;
+    return runFromPrintScreen(std::move(report), target, &kind_->tagging());
 }
 
 // False: the walk over the marked documents ends.

@@ -39,7 +39,10 @@ class frmPrint : public ChildScreen {
     void unmarkAll();
     QStringList markedNumbers() const;
     void printMarked();
+    bool readyFor(const QStringList& numbers, ReportTarget target);
+    void printToFiles(const QStringList& numbers, ReportTarget target);
     bool print(const QString& number, ReportTarget target);
+    bool printToFile(const QString& number, ReportTarget target);
     bool leavesKind();
 
     const PrintKind* kind_ = nullptr;

@@ -4,6 +4,8 @@
 #include "reports/frame/report_query.h"
 
 namespace {
+const PageSetup page = letterPortrait(650, 650, 10800);
+
 const DocumentPaper& paper() {
     static const DocumentPaper delivery{
         .title = "Delivery Receipt",
@@ -41,17 +43,17 @@ Sql linesOf(const QString& refNo) {
         "tblContactMaster.Terms, tblSalesMaster.RefNo, tblSalesMaster.RefDate, tblSalesMaster.Remarks, "
         "tblSalesDetails.* FROM (tblSalesDetails INNER JOIN tblSalesMaster ON tblSalesDetails.Reference = "
         "tblSalesMaster.RefNo) INNER JOIN tblContactMaster ON tblSalesMaster.ContactNo = "
-        "tblContactMaster.ContactID WHERE RefNo = ?",
+        "tblContactMaster.ContactID WHERE RefNo = ? ORDER BY tblSalesDetails.RowNo",
         {refNo}};
 }
 }  // namespace
 
 const ReportLayout& prtDelivery() {
-    static const ReportLayout layout{
-        "prtDelivery",
-        "Delivery Receipt...",
-        letterPortrait(650, 650, 10800),
-        {documentHeader(paper()), documentLine(paper()), documentFooter(paper(), receiptBlock())}};
+    static const ReportLayout layout{"prtDelivery",
+                                     "Delivery Receipt...",
+                                     page,
+                                     {documentHeader(paper()), documentLine(paper()),
+                                      documentFooter(paper(), receiptBlock()), pageOfPagesFooter(page)}};
     return layout;
 }
 

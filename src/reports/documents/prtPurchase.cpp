@@ -4,6 +4,8 @@
 #include "reports/frame/report_query.h"
 
 namespace {
+const PageSetup page = letterPortrait(650, 650, 10875);
+
 const DocumentPaper& paper() {
     static const DocumentPaper purchase{.title = "Purchase Order",
                                         .party = "Supplier :",
@@ -34,7 +36,8 @@ Sql linesOf(const QString& purchaseNo) {
         "tblContactMaster.Terms, tblPurchaseMaster.PurchaseNo, tblPurchaseMaster.PurchaseDate, "
         "tblPurchaseMaster.Remarks, tblPurchaseDetails.* FROM (tblContactMaster INNER JOIN tblPurchaseMaster "
         "ON tblContactMaster.ContactID = tblPurchaseMaster.ContactNo) INNER JOIN tblPurchaseDetails ON "
-        "tblPurchaseMaster.PurchaseNo = tblPurchaseDetails.Reference WHERE PurchaseNo = ?",
+        "tblPurchaseMaster.PurchaseNo = tblPurchaseDetails.Reference WHERE PurchaseNo = ? ORDER BY "
+        "tblPurchaseDetails.RowNo",
         {purchaseNo}};
 }
 }  // namespace
@@ -43,8 +46,8 @@ const ReportLayout& prtPurchase() {
     static const ReportLayout layout{
         "prtPurchase",
         "Purchase Order...",
-        letterPortrait(650, 650, 10875),
-        {documentHeader(paper()), documentLine(paper()), documentFooter(paper())}};
+        page,
+        {documentHeader(paper()), documentLine(paper()), documentFooter(paper()), pageOfPagesFooter(page)}};
     return layout;
 }
 

@@ -5,11 +5,12 @@
 #include "reports/frame/report_query.h"
 
 namespace {
+const PageSetup page = letterPortrait(750, 650, 10785);
+
 constexpr TextStyle tight{Typeface::Tahoma, 8, false, Qt::AlignLeft};
 constexpr TextStyle tightNumber{Typeface::Tahoma, 8, false, Qt::AlignRight};
 constexpr TextStyle head{Typeface::Tahoma, 8, true, Qt::AlignLeft};
 constexpr TextStyle numberHead{Typeface::Tahoma, 8, true, Qt::AlignRight};
-constexpr int printWidth = 10800;
 
 // A column of the lines: a figure or a date where it has a mask.
 struct Column {
@@ -72,7 +73,7 @@ Sql linesOf(const QString& payNo) {
         "tblContactMaster.Address, tblContactMaster.TelNo, tblContactMaster.Terms, tblReceiptDetails.* FROM "
         "(tblContactMaster INNER JOIN tblReceiptMaster ON tblContactMaster.ContactID = "
         "tblReceiptMaster.CustomerNo) INNER JOIN tblReceiptDetails ON tblReceiptMaster.PayNo = "
-        "tblReceiptDetails.PayCode WHERE tblReceiptMaster.PayNo = ?",
+        "tblReceiptDetails.PayCode WHERE tblReceiptMaster.PayNo = ? ORDER BY tblReceiptDetails.ZevRef",
         {payNo}};
 }
 
@@ -89,10 +90,11 @@ void fillLine(Connection& store, const ReportSource& row, SectionFields& fields)
 }  // namespace
 
 const ReportLayout& prtSalesInvoice() {
-    static const ReportLayout layout{"prtSalesInvoice",
-                                     "Sales Invoice...",
-                                     letterPortrait(650, 650, printWidth),
-                                     {documentHeader(paper(), heads()), paymentLine(), footer()}};
+    static const ReportLayout layout{
+        "prtSalesInvoice",
+        "Sales Invoice...",
+        page,
+        {documentHeader(paper(), heads()), paymentLine(), footer(), pageOfPagesFooter(page)}};
     return layout;
 }
 

@@ -7,7 +7,6 @@
 namespace {
 using reportOutput::Rendering;
 
-constexpr int leastPoints = 5;
 // Letters of a fixed pitch are broad: they are set in the condensed pitch of matrix printers.
 constexpr int condensed = 87;
 
@@ -22,7 +21,7 @@ int percentThatFits(int room, int width) { return width > 0 ? std::max(1, room *
 
 StyleFont::StyleFont(const TextStyle& style, Rendering rendering)
     : alignment_(style.alignment),
-      leastPercent_(std::min(100, leastPoints * 100 / style.points)),
+      leastPercent_(leastPercent(style)),
       usualPercent_(rendering == Rendering::DotMatrix ? condensed : 100),
       font_(drawnFont(style, rendering)),
       full_(fontInTwips(style)),

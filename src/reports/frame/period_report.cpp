@@ -20,13 +20,24 @@ std::optional<Fault> periodFault(const PrintRequest& request, const Box& box) {
     return Fault{box, isDate(request.from) ? "txtTo" : "txtFrom"};
 }
 
-Sql wherePeriod(const QString& dateColumn, const std::optional<Period>& period) {
+Sql inPeriod(const QString& dateColumn, const std::optional<Period>& period) {
     if (!period) return {};
-    return {" WHERE " + dateColumn + " BETWEEN ? AND ?",
-            {period->from, QDateTime(period->to, QTime(0, 0), Qt::UTC)}};
+    return {dateColumn + " BETWEEN ? AND ?", {period->from, QDateTime(period->to, QTime(0, 0), Qt::UTC)}};
 }
 
-static QString rangeText(const std::optional<Period>& period) {
+Sql wherePeriod(const QString& dateColumn, const std::optional<Period>& period) {
+    return whereAll({inPeriod(dateColumn, period)});
+}
+
+Sql whereAll(const QList<Sql>& conditions) {
+    Sql where;
+    for (const Sql& condition : conditions)
+        if (!condition.isEmpty())
+            where += Sql(where.isEmpty() ? " WHERE (" : " AND (") + condition + Sql(")");
+    return where;
+}
+
+QString rangeText(const std::optional<Period>& period) {
     return period ? formatDate(period->from) + " To " + formatDate(period->to) : QString();
 }
 
@@ -35,7 +46,10 @@ std::optional<ReportJobParts> runOfPeriod(Connection& store, const PeriodReport&
     RunTexts texts = companyTexts(store);
     texts.labels.insert(report.labels);
     texts.range = rangeText(period);
+    texts.processing = report.processing;
     return reportOfQuery(store, report.layout,
-                         Sql(report.rows) + wherePeriod(report.dateColumn, period) + Sql(report.order),
+                         Sql(report.rows) +
+                             whereAll(report.conditions + QList{inPeriod(report.dateColumn, period)}) +
+                             Sql(report.order),
                          report.events, texts);
 }

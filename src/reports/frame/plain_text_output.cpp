@@ -21,7 +21,8 @@ struct Piece {
 
 int endColumn(const PageItem& item) { return columnAt(item.place.left()) + columnsOf(item); }
 
-// One line of texts: each cut at its control, then given the free room that it needs.
+// One line of texts: each cut at its control, then given the free room that it needs. A figure gets it even
+// where none is free.
 class LineOfTexts {
   public:
     LineOfTexts(const ReportPages& pages, const PageFonts& fonts, const PageLine& line)
@@ -31,8 +32,8 @@ class LineOfTexts {
         growFigures();
         for (Piece& piece : pieces_)
             if (piece.isCut() && alignment(*piece.item) == Qt::AlignLeft) runOn(piece);
-        for (Piece& piece : pieces_)
-            if (piece.isCut() && piece.item->isFigure) piece.text.fill('#');
+        for (std::size_t i = 0; i < pieces_.size(); ++i)
+            if (pieces_[i].isCut() && pieces_[i].item->isFigure) makeRoom(i);
     }
 
     const std::vector<Piece>& pieces() const { return pieces_; }
@@ -69,6 +70,21 @@ class LineOfTexts {
         for (const Piece& other : pieces_)
             if (other.item->place.left() > piece.item->place.left()) next = std::min(next, other.from);
         piece.text = piece.item->text.left(std::max<qsizetype>(piece.text.size(), next - 1 - piece.from));
+    }
+
+    // A figure that has no room takes it: what is left free at its left, and then it moves what follows.
+    void makeRoom(std::size_t figure) {
+        Piece& piece = pieces_[figure];
+        piece.text = piece.item->text;
+        if (alignment(*piece.item) & Qt::AlignRight) {
+            int free = 0;
+            for (std::size_t i = 0; i < figure; ++i) free = std::max(free, pieces_[i].end() + 1);
+            piece.from = std::min(piece.from, free);
+        }
+        int next = INT_MAX;
+        for (std::size_t i = figure + 1; i < pieces_.size(); ++i) next = std::min(next, pieces_[i].from);
+        for (std::size_t i = figure + 1; i < pieces_.size(); ++i)
+            pieces_[i].from += std::max(0, piece.end() + 1 - next);
     }
 
     const ReportPages& pages_;

@@ -1,6 +1,7 @@
 #include "reports/frame/print_screen.h"
 
 #include "foundation/session.h"
+#include "foundation/shared_routines.h"
 #include "platform/clock.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
@@ -27,6 +28,12 @@ QRadioButton* option(const char* name, const char* caption) {
     return button;
 }
 
+QCheckBox* checkBox(const char* name, const char* caption) {
+    auto* box = new QCheckBox(caption);
+    box->setObjectName(name);
+    return box;
+}
+
 QString inThisYear(const char* monthAndDay) {
     return monthAndDay + QString::number(Clock::now().date().year());
 }
@@ -39,21 +46,30 @@ PrintScreen::PrintScreen(const PrintBook& book)
     connect(ok, &QPushButton::clicked, this, &PrintScreen::PrintRecord);
     connect(cancel, &QPushButton::clicked, this, &PrintScreen::CloseRecord);
     auto* layout = new QVBoxLayout(this);
-    if (book.selectionFrame) layout->addWidget(selectionFrame());
-    if (book.optionFrame) layout->addWidget(optionFrame());
-    if (book.periodFrame) layout->addWidget(periodFrame());
+    addAsked(layout);
     layout->addWidget(fraChoice);
     layout->addStretch(1);
     layout->addLayout(form::buttonsAtRight({ok, cancel}));
     form::setAccessibleFromTexts(this);
 }
 
+void PrintScreen::addAsked(QBoxLayout* layout) {
+    if (!book_.fields.isEmpty()) layout->addWidget(fields_ = new PrintFields(book_.fields));
+    if (book_.selectionFrame) layout->addWidget(selectionFrame());
+    for (const PrintTick& tick : book_.ticks) {
+        ticks_ += checkBox(tick.name, tick.caption);
+        layout->addWidget(ticks_.last());
+    }
+    if (book_.optionFrame) layout->addWidget(optionFrame());
+    if (book_.periodFrame) layout->addWidget(periodFrame());
+}
+
 QGroupBox* PrintScreen::selectionFrame() {
     QGroupBox* frame = form::frame("fraSelection", book_.selectionFrame);
-    cboSelection = new ComboBox("cboSelection", ComboBox::Open);
+    cboSelection = new ComboBox(book_.selectionName, ComboBox::Open);
     cboSelection->setAccessibleName(frame->accessibleName());
     cboSelection->addItems(book_.selections);
-    cboSelection->setText(book_.selections.first());
+    cboSelection->setText(book_.selections[book_.opensOn]);
     cboSelection->setMinimumWidth(form::charactersWide(cboSelection, 40));
     (new QVBoxLayout(frame))->addWidget(cboSelection);
     return frame;
@@ -77,8 +93,7 @@ QGroupBox* PrintScreen::periodFrame() {
     form::row(grid, 0, 2, "&To :", txtTo);
     grid->setColumnStretch(4, 1);
     if (book_.excluded) {
-        chkExclude = new QCheckBox("&Exclude Filter");
-        chkExclude->setObjectName("chkExclude");
+        chkExclude = checkBox("chkExclude", "&Exclude Filter");
         connect(chkExclude, &QCheckBox::toggled, this, &PrintScreen::showPeriod);
         grid->addWidget(chkExclude, 1, 0, 1, 5);
     }
@@ -95,6 +110,7 @@ void PrintScreen::showPeriod() {
 
 bool PrintScreen::receive(const ScreenArguments& arguments) {
     kind_ = arguments.kind;
+    if (fields_) fields_->setKind(kind_);
     if (optSummary) (arguments.choice == "optDetailed" ? optDetailed : optSummary)->setChecked(true);
     return ChildScreen::receive(arguments);
 }
@@ -112,7 +128,21 @@ PrintRequest PrintScreen::request() const {
     request.allDays = !txtFrom || (chkExclude && chkExclude->isChecked());
     if (txtFrom) request.from = txtFrom->text();
     if (txtTo) request.to = txtTo->text();
+    if (fields_) fields_->addTo(request);
+    for (qsizetype i = 0; i < ticks_.size(); ++i) request.*book_.ticks[i].isSet = ticks_[i]->isChecked();
     return request;
+}
+
+bool PrintScreen::CheckContact() {
+    bool found = false;
+    guarded([&] {
+        const QString name = request().contact;
+        if (name.isEmpty())
+            showFault({exclamation("Blank", "Please Enter Customer..."), "cboCustomer"}, this);
+        else
+            found = RecordFound(StoreConnection(), "tblContactMaster", "ContactName", name);
+    });
+    return found;
 }
 
 void PrintScreen::PrintRecord() {
@@ -122,9 +152,9 @@ void PrintScreen::PrintRecord() {
 void PrintScreen::print() {
     session().ReportFromEntry = false;
     const PrintRequest asked = request();
-    if (const auto fault = book_.check(asked)) return showFault(*fault, this);
+    if (const auto fault = book_.check(StoreConnection(), asked)) return showFault(*fault, this);
     ReportTarget target = fraChoice->target();
-    if (!readyToExport(this, target, book_.noFile)) return;
+    if (!readyToExport(this, target, book_.noFile, book_.badTextFile)) return;
     if (book_.printsFromPreview && target == ReportTarget::Printer) target = ReportTarget::Preview;
     runFromPrintScreen(book_.report(StoreConnection(), asked), target);
 }

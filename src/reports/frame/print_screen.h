@@ -1,7 +1,7 @@
 #pragma once
 #include "platform/ui/child_screen.h"
 #include "reports/frame/export_file.h"
-#include "reports/frame/period_report.h"
+#include "reports/frame/print_fields.h"
 
 class ComboBox;
 class PrintChoice;
@@ -11,20 +11,32 @@ class QGroupBox;
 class QRadioButton;
 class TextBox;
 
+// A check box of a print screen.
+struct PrintTick {
+    const char* name;  // "chkZero"
+    const char* caption;
+    bool PrintRequest::*isSet;
+};
+
 // One print screen: what it asks for, and in which words. What has no caption is not asked for.
 struct PrintBook {
     const char* screen;
     const char* caption;
-    const char* selectionFrame = nullptr;  // cboSelection, which opens on the first entry
+    QList<PrintField> fields = {};
+    const char* selectionFrame = nullptr;
+    const char* selectionName = "cboSelection";
     QStringList selections = {};
+    qsizetype opensOn = 0;  // of the selections
+    QList<PrintTick> ticks = {};
     const char* optionFrame = nullptr;  // optSummary and optDetailed
     const char* periodFrame = nullptr;  // txtFrom and txtTo, which open on the present year
     const char* excluded = nullptr;     // what they show while chkExclude is set; null: it is not offered
     bool printsFromPreview = false;     // the printer, too, is reached through the preview
     bool hidesReportMenu = false;
     Box noFile = noExportFile();
+    std::optional<Box> badTextFile = {};  // a name was given for plain text, and is none of a file
     // What is wrong with the request, before the file is asked for.
-    std::optional<Fault> (*check)(const PrintRequest& request);
+    std::optional<Fault> (*check)(Connection& store, const PrintRequest& request);
     // None when it finds nothing to print.
     std::optional<ReportJobParts> (*report)(Connection& store, const PrintRequest& request);
 };
@@ -41,8 +53,11 @@ class PrintScreen : public ChildScreen {
 
   public slots:
     void PrintRecord();
+    // The contact that is typed is there; a box says when none is typed.
+    bool CheckContact();
 
   private:
+    void addAsked(QBoxLayout* layout);
     QGroupBox* selectionFrame();
     QGroupBox* optionFrame();
     QGroupBox* periodFrame();
@@ -53,6 +68,8 @@ class PrintScreen : public ChildScreen {
 
     const PrintBook& book_;
     QString kind_;
+    PrintFields* fields_ = nullptr;
+    QList<QCheckBox*> ticks_;  // in the order of the book
     ComboBox* cboSelection = nullptr;
     QRadioButton* optSummary = nullptr;
     QRadioButton* optDetailed = nullptr;

@@ -62,6 +62,7 @@ inline int on(SectionKind kind) { return static_cast<int>(kind); }
 struct RunTexts {
     QHash<QString, QString> labels = {};  // by name, where the layout leaves one empty: "lblCompany"
     QString range = {};                   // "01/01/2026 To 12/31/2026"; empty: all rows
+    QString processing = {};              // what the status screen says beside the count of rows
 };
 
 // What a run of a report is made of.

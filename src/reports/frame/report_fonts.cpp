@@ -4,6 +4,7 @@
 #include <QTextLayout>
 #include <QTextLine>
 #include <QTextOption>
+#include <algorithm>
 
 const char* familyOf(Typeface face) {
     switch (face) {
@@ -19,15 +20,22 @@ const char* familyOf(Typeface face) {
     return "Liberation Sans";
 }
 
+// Letters that stand apart, be it unseen, are not joined to one sign: text that is copied from a PDF, or
+// looked for in it, is made of plain letters.
+static constexpr qreal unseen = 1.0 / 64;
+
 QFont fontInTwips(const TextStyle& style) {
     QFont font(familyOf(style.face));
     font.setPixelSize(style.points * 20);
     font.setBold(style.isBold);
     font.setHintingPreference(QFont::PreferNoHinting);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, unseen);
     return font;
 }
 
 int lineHeight(const TextStyle& style) { return QFontMetrics(fontInTwips(style)).lineSpacing(); }
+
+int leastPercent(const TextStyle& style) { return std::min(100, leastPoints * 100 / style.points); }
 
 static void breakParagraph(const QFont& font, const QString& paragraph, int width, QStringList& lines) {
     QTextLayout layout(paragraph, font);

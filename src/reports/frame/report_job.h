@@ -16,6 +16,10 @@ class ReportJob {
     const ReportPages& pages() const { return run_.pages(); }
     bool layOutPage() { return run_.layOutPage(); }
     bool isComplete() const { return run_.isComplete(); }
+    qsizetype rowCount() const { return rows_->rowCount(); }
+    qsizetype rowsTaken() const { return run_.rowsTaken(); }
+    // "System is Processing Stock Card... 120 of 4,000"; empty for a report that has no such words.
+    QString progress() const;
     // The pages that can be looked at: while the report is not complete, the last one is still being filled.
     int shownPages() const {
         const int count = static_cast<int>(pages().pages.size());
@@ -25,6 +29,7 @@ class ReportJob {
   private:
     ReportLayout layout_;
     std::unique_ptr<ReportSource> rows_;
+    QString processing_;
     ReportRun run_;
     reportOutput::Rendering rendering_;
 };

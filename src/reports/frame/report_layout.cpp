@@ -57,6 +57,16 @@ ReportControl image(const QString& name, int left, int top, int width, int heigh
     return placed(ControlKind::Image, name, left, top, width, height);
 }
 
+ReportControl bars(const QString& name, int left, int top, int width, int height) {
+    return placed(ControlKind::BarCode, name, left, top, width, height);
+}
+
 ReportControl subReport(const QString& name, int left, int top, int width, int height) {
     return placed(ControlKind::SubReport, name, left, top, width, height);
+}
+
+ReportSection pageOfPagesFooter(const PageSetup& page) {
+    return section(
+        SectionKind::PageFooter, 270,
+        {showing(Shows::PageOfPages, field("fldPageNo", "", 0, 45, page.printWidth, 225, centred()))});
 }

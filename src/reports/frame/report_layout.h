@@ -28,7 +28,7 @@ enum class SectionKind {
     ReportFooter
 };
 
-enum class ControlKind { Label, Field, Line, Image, SubReport };
+enum class ControlKind { Label, Field, Line, Image, BarCode, SubReport };
 
 enum class Typeface { Verdana, Tahoma, Arial, TimesNewRoman };
 
@@ -47,7 +47,8 @@ inline TextStyle centred(int points = 8) { return {Typeface::Verdana, points, fa
 
 // What a field shows: its column, or what the frame knows by itself. Sums and counts run over the group whose
 // footer holds the field, or over the whole report in the report footer; a sum is that of a column, or of the
-// figures of a field of the detail line. What needs the number of pages is there when the last one is.
+// figures of a field of the detail line, or of a group's heading, which counts once for each group. What
+// needs the number of pages is there when the last one is.
 enum class Shows {
     Column,
     Sum,
@@ -55,6 +56,8 @@ enum class Shows {
     PageNumber,
     PageCount,
     PageText,     // "2 of  3"
+    PageOfPages,  // "Page 2 of 3"; nothing on a paper of one page, whose foot then belongs to its last
+                  // section
     RecordCount,  // of all rows of the report
     RunDate,      // "Run Date :  " and the present moment
     Range         // of the rows, as the run was started with; the run date when they are all
@@ -75,7 +78,7 @@ struct ReportControl {
     const char* mask =
         nullptr;           // of a number or a date; null: the text as it stands, a number in plain digits
     bool grows = false;    // takes as many lines as its text needs, and moves what stands below it
-    bool isWhole = false;  // never shown in part, as if it were a figure
+    bool isWhole = false;  // never shown in part: drawn in narrower letters, and then in several lines
     Shows shows = Shows::Column;
 };
 
@@ -83,8 +86,9 @@ struct ReportSection {
     SectionKind kind = SectionKind::Detail;
     int height = 0;  // 0 prints nothing
     QList<ReportControl> controls;
-    QString groupColumn;   // of a group header: a new value begins a new group
-    bool repeats = false;  // of a group header: again at the top of each page that its group runs on to
+    QString groupColumn;       // of a group header: a new value begins a new group
+    bool repeats = false;      // of a group header: again at the top of each page that its group runs on to
+    bool startsPages = false;  // of a group header: each group has pages of its own, counted from 1
 };
 
 struct PageSetup {
@@ -127,6 +131,11 @@ inline ReportSection groupHeader(SectionKind kind, const QString& column, int he
     return {kind, height, std::move(controls), column, repeats};
 }
 
+inline ReportSection startingPages(ReportSection header) {
+    header.startsPages = true;
+    return header;
+}
+
 ReportControl label(const QString& name, const QString& text, int left, int top, int width, int height,
                     const TextStyle& style = {});
 ReportControl field(const QString& name, const QString& column, int left, int top, int width, int height,
@@ -137,4 +146,9 @@ ReportControl showing(Shows what, ReportControl control);
 inline ReportControl summing(ReportControl control) { return showing(Shows::Sum, std::move(control)); }
 ReportControl line(const QString& name, int left, int top, int width, int height = 0);
 ReportControl image(const QString& name, int left, int top, int width, int height);
+// Its text becomes bars; what has no room, or no such characters, is not for it (platform/print/bar_code.h).
+ReportControl bars(const QString& name, int left, int top, int width, int height);
 ReportControl subReport(const QString& name, int left, int top, int width, int height = 0);
+
+// "Page 2 of 3" at the foot of a paper that has more than one page.
+ReportSection pageOfPagesFooter(const PageSetup& page);

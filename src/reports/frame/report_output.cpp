@@ -1,7 +1,10 @@
 #include "reports/frame/report_output.h"
 
+#include "platform/print/bar_code.h"
 #include "reports/frame/page_fonts.h"
+#include "reports/frame/page_picture.h"
 #include "reports/frame/page_progress.h"
+#include "reports/frame/report_fonts.h"
 
 #include <QBuffer>
 #include <QPainter>
@@ -39,10 +42,16 @@ bool paintVectors(QPainter& painter, const PageItem& item) {
 
 void paintImage(QPainter& painter, const PageItem& item) {
     if (paintVectors(painter, item)) return;
-    const QImage picture(item.text);
+    const QImage picture = printedPicture(item.text, item.place.size());
     if (picture.isNull()) return;
-    const QSize size = picture.size().scaled(item.place.size(), Qt::KeepAspectRatio);
-    painter.drawImage(QRect(item.place.topLeft(), size), picture);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(QRect(item.place.topLeft(), printedSize(picture, item.place.size())), picture);
+}
+
+void paintBarCode(QPainter& painter, const PageItem& item) {
+    if (barCode::paint(painter, item.place, item.text)) return;
+    painter.setFont(fontInTwips({Typeface::Tahoma, 7}));
+    painter.drawText(item.place, Qt::AlignLeft | Qt::TextWordWrap, "No bars: too fine for this printer");
 }
 
 void paintItems(QPainter& painter, const ReportPage& page, Rendering rendering, const PageFonts& fonts) {
@@ -53,6 +62,8 @@ void paintItems(QPainter& painter, const ReportPage& page, Rendering rendering, 
                              item.place.top() + item.place.height());
         else if (item.kind == ControlKind::Label)
             paintText(painter, item, fonts.of(item));
+        else if (item.kind == ControlKind::BarCode)
+            paintBarCode(painter, item);
         else if (rendering == Rendering::Full)
             paintImage(painter, item);
     }

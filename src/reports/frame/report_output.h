@@ -19,6 +19,7 @@ QByteArray pdf(const ReportPages& pages, Rendering rendering = Rendering::Full,
                Progress& progress = Progress::none());
 
 // The pages as plain text in a fixed pitch: columns stand under each other, a form feed stands between pages.
+// A figure is always whole; where it has no room, what follows it in its line moves to the right.
 QString plainText(const ReportPages& pages, Progress& progress = Progress::none());
 
 // The pages as rich text for a word processor: a paragraph with tab stops for each line, so that columns and
@@ -26,6 +27,11 @@ QString plainText(const ReportPages& pages, Progress& progress = Progress::none(
 // text.
 QByteArray rtf(const ReportPages& pages, Rendering rendering = Rendering::Full,
                Progress& progress = Progress::none());
+
+// The report as a spreadsheet: its columns under their heads, a row for each of its lines, the groups as
+// levels of its outline, figures and dates as such in the masks of the pages. Throws std::runtime_error, with
+// words for a person, where it cannot be made.
+QByteArray spreadsheet(const ReportPages& pages, Progress& progress = Progress::none());
 
 // Writes a file whole or not at all: an older one stays as it is when this fails. The text of the failure,
 // with what a person can do about it; empty: written.

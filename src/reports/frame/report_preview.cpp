@@ -5,10 +5,10 @@
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/icons.h"
-#include "reports/frame/export_file.h"
 #include "reports/frame/page_thumbnails.h"
 #include "reports/frame/page_view.h"
 #include "reports/frame/report_printer.h"
+#include "reports/frame/save_as.h"
 
 #include <QAbstractSpinBox>
 #include <QAction>
@@ -47,6 +47,7 @@ const QList<ReportPreview::Command>& ReportPreview::commands() {
         {"SavePdf", "save", "Save as PDF", "Ctrl+S", &P::savePdf, true},
         {"SaveRichText", "rich-text", "Save as rich text", "Ctrl+Shift+R", &P::saveRichText, true},
         {"SaveText", "text", "Save as text", "Ctrl+Shift+S", &P::saveText, true},
+        {"SaveSpreadsheet", "spreadsheet", "Save as spreadsheet", "Ctrl+Shift+E", &P::saveSpreadsheet, true},
         {"Copy", "copy", "Copy the text of this page", "Ctrl+C", &P::copyPage},
         {"CopyAll", "copy-all", "Copy the text of all pages", "Ctrl+Shift+C", &P::copyReport, true},
         {"First", "first", "First page", "Ctrl+Home; Home", &P::FirstRecord},
@@ -142,7 +143,8 @@ void ReportPreview::buildBars() {
     buildZoom();
 
     auto* pages = bar("tbrPages", "Pages");
-    addCommands(pages, {"Print", "SavePdf", "SaveRichText", "SaveText", "Copy", "CopyAll"});
+    addCommands(pages,
+                {"Print", "SavePdf", "SaveRichText", "SaveText", "SaveSpreadsheet", "Copy", "CopyAll"});
     pages->addSeparator();
     addCommands(pages, {"First", "Previous"});
     pages->addWidget(txtPage);
@@ -273,7 +275,7 @@ void ReportPreview::showProgress() {
     const QSignalBlocker blocker(txtPage);
     txtPage->setRange(1, std::max(1, pages));
     lblPages->setText(job_->isComplete() ? QString(" of %L1 ").arg(pages)
-                                         : QString(" of ... (%L1 so far) ").arg(pages));
+                                         : QString(" of ... (%L1 so far) ").arg(pages) + job_->progress());
     for (const Command& command : commands())
         if (QAction* tool = action(command.name); tool && command.needsAllPages)
             tool->setEnabled(job_->isComplete());
@@ -407,18 +409,10 @@ void ReportPreview::print() {
 void ReportPreview::savePdf() { save("Save as PDF", FileKind::pdf); }
 void ReportPreview::saveRichText() { save("Save as Rich Text", FileKind::richText); }
 void ReportPreview::saveText() { save("Save as Text", FileKind::plainText); }
+void ReportPreview::saveSpreadsheet() { save("Save as Spreadsheet", FileKind::spreadsheet); }
 
 void ReportPreview::save(const QString& title, const FileKind& kind) {
-    if (!job_->isComplete()) return;
-    QString name = job_->layout().caption;
-    while (name.endsWith('.')) name.chop(1);
-    const QString path = askFileToWrite(this, title, name + "." + kind.suffix, kind);
-    if (path.isEmpty()) return;
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    frmStatus status;
-    const QByteArray bytes = kind.content(*job_, status);
-    QApplication::restoreOverrideCursor();
-    writeOrTell(path, bytes);
+    if (job_->isComplete()) saveReportAs(this, title, kind, *job_);
 }
 
 void ReportPreview::copyPage() {

@@ -48,6 +48,7 @@ class ReportPreview : public ChildScreen {
     void savePdf();
     void saveRichText();
     void saveText();
+    void saveSpreadsheet();
     void copyPage();
     void copyReport();
 

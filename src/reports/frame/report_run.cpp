@@ -3,9 +3,14 @@
 #include "platform/masks.h"
 #include "reports/frame/report_walk.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
+// Under a heading that leaves less than this, a section runs over the foot.
+constexpr int leastRoom = 1440;
+
 int bottomOf(const PageItem& item) { return item.place.top() + item.place.height(); }
 
 // The least top of what does not fit above the limit; what stands from there on goes to the next page, so
@@ -14,17 +19,13 @@ int cutAbove(const FormattedSection& section, int limit) {
     int cut = limit;
     for (const PageItem& item : section.items)
         if (bottomOf(item) > limit) cut = std::min(cut, item.place.top());
-    for (int above = 0; above != cut;) {
-        above = cut;
-        for (const Span& whole : section.wholes)
-            if (whole.top > 0 && whole.top < cut && whole.bottom > cut) cut = whole.top;
-    }
-    return std::max(cut, 1);
+    return std::max(besideWholes(section, cut), 1);
 }
 
 FormattedSection takeFrom(FormattedSection& section, int cut, int limit) {
     FormattedSection rest;
     rest.height = section.height - cut;
+    rest.lastRow = std::max(0, section.lastRow - cut);
     const bool isTooHigh = cut == 1;  // for any page: what fits beside it stays
     std::vector<PageItem> kept;
     for (PageItem& item : section.items) {
@@ -59,10 +60,12 @@ class ReportRun::Engine : private BandPaper {
 
     bool isComplete() const { return isComplete_; }
     ReportPages& pages() { return pages_; }
+    qsizetype rowsTaken() const { return walk_.rowsTaken(); }
 
   private:
     // A heading never stands alone at the foot of a page: it goes with the first line of its group.
     void putLine(std::vector<FormattedSection> headings, FormattedSection line) override {
+        if (top_ > bodyTop_ && std::ranges::any_of(headings, &FormattedSection::startsPages)) newSet();
         int needed = line.height;
         for (const FormattedSection& heading : headings) needed += heading.height;
         if (!headings.empty() && needed > room() && needed <= pageRoom()) newPage();
@@ -70,7 +73,42 @@ class ReportRun::Engine : private BandPaper {
         put(std::move(line));
     }
 
-    void putFooter(FormattedSection footer) override { put(std::move(footer)); }
+    // What ends a report takes its last line along to the next page, rather than stand there alone; the last
+    // line of a group stays under its heading.
+    void putFooter(FormattedSection footer) override {
+        if (endsOnOnlyPage(footer)) return append(footer);
+        if (footer.height > room() && !layout_.section(SectionKind::GroupHeader1))
+            takeLastLineAlong(footer.height);
+        put(std::move(footer));
+    }
+
+    // A page footer that shows nothing on a paper of one page leaves its room to the end of the report.
+    bool endsOnOnlyPage(const FormattedSection& footer) const {
+        const ReportSection* foot = layout_.section(SectionKind::PageFooter);
+        if (!foot || pages_.pages.size() != 1) return false;
+        const auto isPageOfPages = [](const ReportControl& control) {
+            return control.shows == Shows::PageOfPages;
+        };
+        return std::ranges::all_of(foot->controls, isPageOfPages) && footer.height <= room() + foot->height;
+    }
+
+    // Unless nothing else stands on its page.
+    void takeLastLineAlong(int footerHeight) {
+        const int cut = lastLine_;
+        FormattedSection line;
+        line.height = top_ - cut;
+        if (cut <= bodyTop_ || line.height + footerHeight > pageRoom()) return;
+        std::vector<PageItem>& items = pages_.pages.back().items;
+        const auto along = std::ranges::stable_partition(
+            items, [cut](const PageItem& item) { return item.place.top() < cut; });
+        for (PageItem& item : along) {
+            item.place.translate(-layout_.page.left, -cut);
+            line.items.push_back(std::move(item));
+        }
+        items.erase(along.begin(), along.end());
+        newPage();
+        append(line);
+    }
 
     void finish() {
         walk_.finish(*this);
@@ -81,8 +119,12 @@ class ReportRun::Engine : private BandPaper {
         isComplete_ = true;
     }
 
+    // Within its set.
     ReportWalk::PageOf pageOf(std::size_t page) const {
-        return {static_cast<qsizetype>(page + 1), static_cast<qsizetype>(pages_.pages.size())};
+        const auto next = std::ranges::upper_bound(firstPages_, page);
+        const std::size_t end = next == firstPages_.end() ? pages_.pages.size() : *next;
+        const std::size_t first = *std::prev(next);
+        return {static_cast<qsizetype>(page + 1 - first), static_cast<qsizetype>(end - first)};
     }
 
     // Pages
@@ -94,9 +136,17 @@ class ReportRun::Engine : private BandPaper {
     int room() const { return bodyBottom() - top_; }
     int pageRoom() const { return bodyBottom() - bodyTop_; }
 
+    void newSet() {
+        firstPages_.push_back(pages_.pages.size());
+        newPage();
+    }
+
     void newPage() {
         startPage(SectionKind::PageHeader);
-        for (const FormattedSection& heading : walk_.repeatedHeadings()) append(heading);
+        for (FormattedSection& heading : walk_.repeatedHeadings()) {
+            for (PageItem& item : heading.items) item.band = 0;
+            append(heading);
+        }
         bodyTop_ = top_;
     }
 
@@ -110,19 +160,21 @@ class ReportRun::Engine : private BandPaper {
     }
 
     void appendHeading(SectionKind kind) {
-        const FormattedSection heading = walk_.format(kind, {static_cast<qsizetype>(pages_.pages.size()), 0});
+        const std::size_t page = pages_.pages.size() - 1;
+        const FormattedSection heading = walk_.format(kind, {pageOf(page).number, 0});
         for (const std::size_t item : heading.withoutCount)
-            withoutCount_.emplace_back(pages_.pages.size() - 1, pages_.pages.back().items.size() + item);
+            withoutCount_.emplace_back(page, pages_.pages.back().items.size() + item);
         append(heading);
     }
 
     // On this page where it fits, on the next where it fits there, over several where it fits on none.
     void put(FormattedSection section) {
         if (section.height > room() && top_ > bodyTop_) newPage();
-        while (section.height > room()) {
+        while (section.height > room() && pageRoom() > leastRoom) {
             const int limit = room();
             FormattedSection rest = takeFrom(section, cutAbove(section, limit), limit);
             append(section);
+            if (rest.items.empty()) return;  // a blank needs no page
             section = std::move(rest);
             newPage();
         }
@@ -130,6 +182,7 @@ class ReportRun::Engine : private BandPaper {
     }
 
     void append(const FormattedSection& section) {
+        lastLine_ = top_ + section.lastRow;
         place(section, pages_.pages.back(), top_);
         top_ += section.height;
     }
@@ -142,17 +195,19 @@ class ReportRun::Engine : private BandPaper {
     }
 
     void fillHeadings() {
-        const QString count = formatCount(static_cast<qint64>(pages_.pages.size()));
         for (const auto& [page, item] : withoutCount_)
-            if (page < pages_.pages.size()) pages_.pages[page].items[item].text.replace(laterText, count);
+            if (page < pages_.pages.size())
+                pages_.pages[page].items[item].text.replace(laterText, formatCount(pageOf(page).count));
     }
 
     const ReportLayout& layout_;
     ReportPages pages_;
     ReportWalk walk_;
     std::vector<std::pair<std::size_t, std::size_t>> withoutCount_;  // page and item
+    std::vector<std::size_t> firstPages_{0};                         // of each set
     bool hasBegun_ = false, isComplete_ = false;
     int top_ = 0, bodyTop_ = 0;
+    int lastLine_ = 0;  // where it begins on the page
 };
 
 ReportRun::ReportRun(const ReportLayout& layout, ReportSource& rows, ReportEvents events, RunTexts texts)
@@ -165,6 +220,8 @@ bool ReportRun::layOutPage() { return engine_->layOutPage(); }
 bool ReportRun::isComplete() const { return engine_->isComplete(); }
 
 const ReportPages& ReportRun::pages() const { return engine_->pages(); }
+
+qsizetype ReportRun::rowsTaken() const { return engine_->rowsTaken(); }
 
 ReportPages ReportRun::takePages() { return std::move(engine_->pages()); }
 

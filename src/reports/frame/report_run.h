@@ -19,6 +19,7 @@ class ReportRun {
     bool layOutPage();
     bool isComplete() const;
     const ReportPages& pages() const;
+    qsizetype rowsTaken() const;  // of the source's rows
     // The pages of a complete run, which keeps none.
     ReportPages takePages();
 

@@ -7,6 +7,7 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/screen_registry.h"
+#include "reports/frame/escape_watch.h"
 #include "reports/frame/export_file.h"
 #include "reports/frame/report_preview.h"
 #include "reports/frame/report_printer.h"
@@ -85,10 +86,20 @@ std::unique_ptr<ReportJob> jobOf(ReportJobParts parts, RunRules& rules) {
     return std::make_unique<ReportJob>(std::move(parts), rendering());
 }
 
-void layOut(ReportJob& job) {
+constexpr const char* escEnds = "\nEsc ends it, and nothing is printed.";
+
+// False: a person broke it off.
+bool layOut(ReportJob& job) {
     frmStatus status;
-    const ProgressScope scope(status, "Please Wait While System is Making the Pages...", 0);
-    while (job.layOutPage()) status.setValue(0);
+    const ProgressScope scope(status, QString("Please Wait While System is Making the Pages...") + escEnds,
+                              job.rowCount());
+    EscapeWatch escape;
+    while (job.layOutPage()) {
+        if (escape.isPressed()) return false;
+        if (const QString progress = job.progress(); !progress.isEmpty()) status.setText(progress + escEnds);
+        status.setValue(job.rowsTaken());
+    }
+    return true;
 }
 
 // The report has ended before its first line: nothing of it prints.
@@ -113,7 +124,7 @@ ReportPreview* preview(ReportJobParts parts, const Rules& rules) {
 bool print(ReportJobParts parts, RunRules& rules) {
     const auto job = jobOf(std::move(parts), rules);
     if (printsNothing(*job)) return true;
-    layOut(*job);
+    if (!layOut(*job)) return false;
     frmStatus status;
     if (!reportPrinter::printAtOnce(job->pages(), job->rendering(), status)) return false;
     rules.queryClose();
@@ -132,7 +143,7 @@ bool writeExport(const ReportJob& job, const RunRules& rules) {
 bool exportToFile(ReportJobParts parts, const Rules& rules) {
     auto job = jobOf(std::move(parts), *rules);
     if (printsNothing(*job)) return true;
-    layOut(*job);
+    if (!layOut(*job)) return false;
     if (!writeExport(*job, *rules)) {
         showPreview(std::move(job), {{}, [rules] { rules->queryClose(); }});
         return false;

@@ -35,6 +35,7 @@ ReportPreview* previewFromEntry(std::optional<ReportJobParts> report,
 // - RichText and PlainText write ExportFileName, ask as a preview does, and tell where the file is. What
 // could
 //   not be written stays open as a preview.
-// False when the output failed: a walk over several documents ends there. Nothing to print is no failure.
+// False when the output failed or was broken off by Esc: a walk over several documents ends there. Nothing to
+// print is no failure.
 bool runFromPrintScreen(std::optional<ReportJobParts> report, ReportTarget target,
                         const DocumentTagging* tagging = nullptr);

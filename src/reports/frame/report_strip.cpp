@@ -10,8 +10,13 @@ class Strip : public BandPaper {
         for (FormattedSection& heading : headings) append(std::move(heading));
         append(std::move(line));
         if (!headings.empty()) laid_.wholes.push_back({top, laid_.height});
+        laid_.lastRow = top;
     }
-    void putFooter(FormattedSection footer) override { append(std::move(footer)); }
+    // A total is not parted from the last line before it.
+    void putFooter(FormattedSection footer) override {
+        append(std::move(footer));
+        laid_.wholes.push_back({laid_.lastRow, laid_.height});
+    }
 
     void append(FormattedSection band) {
         for (PageItem& item : band.items) {

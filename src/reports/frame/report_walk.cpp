@@ -15,23 +15,34 @@ qsizetype figureNamed(const ReportSection* line, const QString& name) {
 }
 }  // namespace
 
-Sums::Sums(const ReportSection* footer, const ReportSection* line) {
+Sums::Sums(const ReportSection* footer, const ReportLayout& layout) {
     if (!footer) return;
     for (const ReportControl& field : footer->controls)
-        if (field.shows == Shows::Sum || field.shows == Shows::Count)
-            sums_.push_back({&field, figureNamed(line, field.column), {}});
+        if (field.shows == Shows::Sum || field.shows == Shows::Count) sums_.push_back(sumOf(field, layout));
 }
 
-void Sums::add(const ReportSource& row, const SectionFields* line) {
-    for (Sum& sum : sums_) sum.value += summand(sum, row, line);
+// The line goes before the headings.
+Sums::Sum Sums::sumOf(const ReportControl& field, const ReportLayout& layout) {
+    for (const SectionKind kind :
+         {SectionKind::Detail, SectionKind::GroupHeader1, SectionKind::GroupHeader2}) {
+        const ReportSection* band = layout.section(kind);
+        if (const qsizetype figure = figureNamed(band, field.column); figure >= 0)
+            return {&field, band, figure, {}};
+    }
+    return {&field, detailOf(layout), -1, {}};
 }
 
-// A field of the line counts with the figure that its event gave it, else with its column.
-Currency Sums::summand(const Sum& sum, const ReportSource& row, const SectionFields* line) {
+void Sums::add(const ReportSection* band, const ReportSource& row, const SectionFields* fields) {
+    for (Sum& sum : sums_)
+        if (sum.band == band) sum.value += summand(sum, row, fields);
+}
+
+// A field counts with the figure that its event gave it, else with its column.
+Currency Sums::summand(const Sum& sum, const ReportSource& row, const SectionFields* fields) {
     if (sum.field->shows == Shows::Count) return Currency::fromInteger(1);
-    if (sum.figure < 0 || !line) return row.currency(sum.field->column);
-    const auto& figure = line->state(sum.figure).figure;
-    const QString& column = line->section().controls[sum.figure].column;
+    if (sum.figure < 0 || !fields) return row.currency(sum.field->column);
+    const auto& figure = fields->state(sum.figure).figure;
+    const QString& column = fields->section().controls[sum.figure].column;
     return figure || column.isEmpty() ? figure.value_or(Currency()) : row.currency(column);
 }
 
@@ -52,7 +63,7 @@ ReportWalk::ReportWalk(const ReportLayout& layout, ReportSource& rows, ReportEve
       events_(std::move(events)),
       texts_(std::move(texts)),
       styles_(styles),
-      reportSums_(layout.section(SectionKind::ReportFooter), detailOf(layout)) {
+      reportSums_(layout.section(SectionKind::ReportFooter), layout) {
     addGroup(SectionKind::GroupHeader1, SectionKind::GroupFooter1);
     addGroup(SectionKind::GroupHeader2, SectionKind::GroupFooter2);
 }
@@ -61,7 +72,7 @@ void ReportWalk::addGroup(SectionKind header, SectionKind footer) {
     const ReportSection* section = layout_.section(header);
     if (!section) return;
     const ReportSection* foot = layout_.section(footer);
-    groups_.push_back({section, foot, Sums(foot, detailOf(layout_)), false, {}, {}});
+    groups_.push_back({section, foot, Sums(foot, layout_), false, {}, {}, {}});
 }
 
 bool ReportWalk::begin() { return hasRow_ = rows_.next(); }
@@ -98,11 +109,19 @@ void ReportWalk::closeGroups(std::size_t outermost, BandPaper& paper) {
 std::vector<FormattedSection> ReportWalk::openGroups(std::size_t outermost) {
     std::vector<FormattedSection> headings;
     for (std::size_t i = outermost; i < groups_.size(); ++i) {
-        groups_[i].value = rows_.text(groups_[i].header->groupColumn);
-        groups_[i].heading = format(groups_[i].header);
+        openGroup(groups_[i]);
         headings.push_back(groups_[i].heading);
+        headings.back().startsPages = groups_[i].header->startsPages;
     }
     return headings;
+}
+
+void ReportWalk::openGroup(Group& group) {
+    group.value = rows_.text(group.header->groupColumn);
+    group.heading = {};
+    if (group.header->height == 0) return;
+    group.begun = filled(*group.header, {});
+    group.heading = layOut(*group.header, *group.begun, styles_);
 }
 
 void ReportWalk::printRow(std::vector<FormattedSection> headings, BandPaper& paper) {
@@ -113,13 +132,24 @@ void ReportWalk::printRow(std::vector<FormattedSection> headings, BandPaper& pap
     if (hasEnded_) return;
     paper.putLine(std::move(headings), hasLine ? layOut(*detail, *fields, styles_) : FormattedSection());
     hasPrinted_ = true;
-    const SectionFields* line = hasLine ? &*fields : nullptr;
+    sumUp(detail, fields ? &*fields : nullptr);
+    ++rowsTaken_;
+    hasRow_ = rows_.next();
+}
+
+// A heading counts with its first line.
+void ReportWalk::sumUp(const ReportSection* line, const SectionFields* fields) {
     for (Group& group : groups_) {
         group.isOpen = true;
-        group.sums.add(rows_, line);
+        if (group.begun) addToSums(group.header, &*group.begun);
+        group.begun.reset();
     }
-    reportSums_.add(rows_, line);
-    hasRow_ = rows_.next();
+    addToSums(line, fields);
+}
+
+void ReportWalk::addToSums(const ReportSection* band, const SectionFields* fields) {
+    for (Group& group : groups_) group.sums.add(band, rows_, fields);
+    reportSums_.add(band, rows_, fields);
 }
 
 void ReportWalk::finish(BandPaper& paper) {
@@ -181,6 +211,9 @@ QString ReportWalk::ownText(const ReportControl& control, PageOf page) const {
         case Shows::PageText:
             return formatCount(page.number) + " of  " +
                    (page.count > 0 ? formatCount(page.count) : QString(laterText));
+        case Shows::PageOfPages:
+            if (page.count < 2) return {};
+            return "Page " + formatCount(page.number) + " of " + formatCount(page.count);
         case Shows::RecordCount:
             return count(rows_.rowCount());
         case Shows::Range:

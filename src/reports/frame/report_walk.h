@@ -14,18 +14,21 @@ class BandPaper {
 // What one footer sums up of the rows before it.
 class Sums {
   public:
-    Sums(const ReportSection* footer, const ReportSection* line);
-    void add(const ReportSource& row, const SectionFields* line);
+    Sums(const ReportSection* footer, const ReportLayout& layout);
+    // A line, or a group's heading, that has been printed. fields: null for one that prints nothing.
+    void add(const ReportSection* band, const ReportSource& row, const SectionFields* fields);
     void clear();
     Currency of(const ReportControl& field) const;
 
   private:
     struct Sum {
         const ReportControl* field;
-        qsizetype figure;  // its place in the detail line; -1: it sums up a column
+        const ReportSection* band;  // whose figures or columns it adds up
+        qsizetype figure;           // its place in the band; -1: it sums up a column
         Currency value;
     };
-    static Currency summand(const Sum& sum, const ReportSource& row, const SectionFields* line);
+    static Sum sumOf(const ReportControl& field, const ReportLayout& layout);
+    static Currency summand(const Sum& sum, const ReportSource& row, const SectionFields* fields);
     std::vector<Sum> sums_;
 };
 
@@ -40,6 +43,7 @@ class ReportWalk {
     // A row is still to be printed.
     bool hasRow() const { return hasRow_ && !hasEnded_; }
     void takeRow(BandPaper& paper);
+    qsizetype rowsTaken() const { return rowsTaken_; }
     // The footers of what is still open, when no row is left.
     void finish(BandPaper& paper);
     // False when the report ended before its first line: there is nothing of it.
@@ -60,7 +64,8 @@ class ReportWalk {
         Sums sums;
         bool isOpen = false;
         QString value;
-        FormattedSection heading;  // as printed
+        FormattedSection heading;            // as printed
+        std::optional<SectionFields> begun;  // of a heading that is not summed up yet
     };
     struct Band {
         const Sums* sums;
@@ -70,7 +75,10 @@ class ReportWalk {
     std::size_t firstChangedGroup() const;
     void closeGroups(std::size_t outermost, BandPaper& paper);
     std::vector<FormattedSection> openGroups(std::size_t outermost);
+    void openGroup(Group& group);
     void printRow(std::vector<FormattedSection> headings, BandPaper& paper);
+    void sumUp(const ReportSection* line, const SectionFields* fields);
+    void addToSums(const ReportSection* band, const SectionFields* fields);
     FormattedSection format(const ReportSection* section, const Band& band = {});
     SectionFields filled(const ReportSection& section, const Band& band);
     void fill(const ReportControl& control, SectionFields::State& state, const Band& band) const;
@@ -83,5 +91,6 @@ class ReportWalk {
     ReportPages& styles_;
     std::vector<Group> groups_;
     Sums reportSums_;
+    qsizetype rowsTaken_ = 0;
     bool hasRow_ = false, hasEnded_ = false, hasPrinted_ = false;
 };

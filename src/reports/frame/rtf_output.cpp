@@ -1,12 +1,16 @@
+#include "platform/print/bar_code.h"
 #include "reports/frame/page_fonts.h"
 #include "reports/frame/page_lines.h"
+#include "reports/frame/page_picture.h"
 #include "reports/frame/page_progress.h"
 #include "reports/frame/report_fonts.h"
 
 #include <QBuffer>
 #include <QImage>
+#include <QPainter>
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
 
 // Each line of a page is a paragraph of exactly its height, with a tab stop for each of its columns: it stays
@@ -145,11 +149,27 @@ QByteArray pictureData(const QImage& picture) {
     return png.toHex();
 }
 
+// Bars as dots, 600 to the inch.
+QImage barsOf(const PageItem& item) {
+    constexpr double dotsPerTwip = 600 / 1440.0;
+    QImage picture(item.place.size() * dotsPerTwip, QImage::Format_Grayscale8);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    painter.scale(dotsPerTwip, dotsPerTwip);
+    barCode::paint(painter, QRect(QPoint(), item.place.size()), item.text);
+    return picture;
+}
+
+bool isPicture(const PageItem& item) {
+    return item.kind == ControlKind::Image || item.kind == ControlKind::BarCode;
+}
+
 // Behind the text, at its place on the paper.
 QByteArray floating(const PageItem& item) {
-    const QImage picture(item.text);
+    const QImage picture =
+        item.kind == ControlKind::BarCode ? barsOf(item) : printedPicture(item.text, item.place.size());
     if (picture.isNull()) return {};
-    const QRect place(item.place.topLeft(), picture.size().scaled(item.place.size(), Qt::KeepAspectRatio));
+    const QRect place(item.place.topLeft(), printedSize(picture, item.place.size()));
     return "{\\shp{\\*\\shpinst" + control("shpleft", place.left()) + control("shptop", place.top()) +
            control("shpright", place.left() + place.width()) +
            control("shpbottom", place.top() + place.height()) +
@@ -198,6 +218,29 @@ class Document {
     }
 
   private:
+    // Pictures that stand at one place on every page go into the header, which a file holds once.
+    void addHeader() {
+        if (rendering_ != Rendering::Full || pages_.pages.size() < 2) return;
+        ReportPage header;
+        std::ranges::copy_if(pages_.pages.front().items, std::back_inserter(header.items),
+                             [this](const PageItem& item) { return isOnEveryPage(item); });
+        const QByteArray pictures = picturesOf(header);
+        onEveryPage_ = std::move(header.items);
+        if (!pictures.isEmpty()) rtf_ += "{\\header\\pard\\plain\\sl-20\\slmult0 " + pictures + "\\par}\n";
+    }
+
+    bool isOnEveryPage(const PageItem& item) const {
+        return isPicture(item) && std::ranges::all_of(pages_.pages, [&item](const ReportPage& page) {
+                   return holds(page.items, item);
+               });
+    }
+
+    static bool holds(const std::vector<PageItem>& items, const PageItem& picture) {
+        return std::ranges::any_of(items, [&picture](const PageItem& item) {
+            return item.kind == picture.kind && item.place == picture.place && item.text == picture.text;
+        });
+    }
+
     void addHead() {
         const PageSetup& setup = pages_.setup;
         const int right = std::min(setup.right, setup.paperWidth - setup.left - setup.printWidth);
@@ -207,7 +250,8 @@ class Document {
                 control("margr", std::max(0, right)) + control("margt", setup.top) +
                 control("margb", setup.bottom);
         if (setup.paperWidth > setup.paperHeight) rtf_ += "\\landscape";
-        rtf_ += '\n';
+        rtf_ += "\\headery0\n";
+        addHeader();
     }
 
     void addPage(const ReportPage& page, bool breaksBefore) {
@@ -242,16 +286,17 @@ class Document {
         rtf_ += "\\pard\\plain\\nowidctlpar" + properties + ' ' + text;
     }
 
-    static QByteArray picturesOf(const ReportPage& page) {
+    QByteArray picturesOf(const ReportPage& page) const {
         QByteArray pictures;
         for (const PageItem& item : page.items)
-            if (item.kind == ControlKind::Image) pictures += floating(item);
+            if (isPicture(item) && !holds(onEveryPage_, item)) pictures += floating(item);
         return pictures;
     }
 
     const ReportPages& pages_;
     Rendering rendering_;
     const PageFonts fonts_;
+    std::vector<PageItem> onEveryPage_;  // pictures of the header
     QByteArray rtf_;
     int bottom_ = 0;
     bool hasParagraph_ = false;

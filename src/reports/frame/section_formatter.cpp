@@ -4,6 +4,7 @@
 #include "reports/frame/report_fonts.h"
 #include "reports/frame/report_strip.h"
 
+#include <QFontMetrics>
 #include <QStringView>
 
 #include <algorithm>
@@ -52,19 +53,29 @@ bool isFigure(const ReportControl& control, const QString& text) {
 }
 
 PageItem itemOf(const ReportControl& control, const QString& text, int top, int height, quint16 style) {
-    const ControlKind kind = control.kind == ControlKind::Field ? ControlKind::Label : control.kind;
-    return {kind, QRect(control.left, top, control.width, height), text, style, isFigure(control, text)};
+    PageItem item;
+    item.kind = control.kind == ControlKind::Field ? ControlKind::Label : control.kind;
+    item.place = QRect(control.left, top, control.width, height);
+    item.text = text;
+    item.style = style;
+    item.isFigure = isFigure(control, text);
+    return item;
 }
 
 // Lays the controls from the top down: what grows moves what stands wholly below it.
 class Layer {
   public:
     Layer(const ReportSection& section, SectionFields& fields, ReportPages& styles)
-        : section_(section), fields_(fields), styles_(styles) {}
+        : section_(section),
+          fields_(fields),
+          styles_(styles),
+          band_(++styles.bands),
+          firstControl_(styles.controlsOf(section)) {}
 
     FormattedSection lay() {
         formatted_.height = section_.height;
         for (const qsizetype index : fromTheTop()) layControl(section_.controls[index], fields_.state(index));
+        formatted_.lastRow = besideWholes(formatted_, formatted_.lastRow);
         return std::move(formatted_);
     }
 
@@ -108,42 +119,77 @@ class Layer {
         const quint16 style = styles_.styleNumber(control.style);
         const bool isText = control.kind == ControlKind::Label || control.kind == ControlKind::Field;
         const bool mayBreak = isText && (control.grows || hasRoomForLines(control));
-        if (mayBreak && !isFigure(control, text)) return layLines(control, text, top, style);
-        formatted_.items.push_back(itemOf(control, text, top, control.height, style));
+        if (mayBreak && !isFigure(control, text)) return layLines(control, text, top, style, control.width);
+        // As few lines as the narrowest letters need.
+        const int broadest = control.width * 100 / leastPercent(control.style);
+        if (control.isWhole && !readsAsFigure(text) && !fitsOneLine(control, text, broadest))
+            return layLines(control, text, top, style, broadest);
+        add(itemOf(control, text, top, control.height, style), control);
         return control.height;
     }
 
+    static bool fitsOneLine(const ReportControl& control, const QString& text, int width) {
+        return QFontMetrics(fontInTwips(control.style)).horizontalAdvance(text) <= width;
+    }
+
     // Each line is an item of its own, so that a long text breaks between pages; what does not grow ends with
-    // its control.
-    int layLines(const ReportControl& control, const QString& text, int top, quint16 style) {
+    // its control, unless it is whole, and moves nothing.
+    int layLines(const ReportControl& control, const QString& text, int top, quint16 style, int width) {
         const int height = lineHeight(control.style);
         int used = 0;
-        for (const QString& line : brokenLines(control.style, text, control.width)) {
-            if (!control.grows && used + height > control.height && used > 0) break;
-            formatted_.items.push_back(itemOf(control, line, top + used, height, style));
+        const QStringList lines = brokenLines(control.style, text, width);
+        if (lines.size() > 1) styles_.wholeTexts[ReportPages::textKey(band_, numberOf(control))] = text;
+        for (const QString& line : lines) {
+            const bool mayEnd = !control.grows && !control.isWhole;
+            if (mayEnd && used + height > control.height && used > 0) break;
+            add(itemOf(control, line, top + used, height, style), control);
             used += height;
         }
-        return std::max(control.height, used);
+        return control.grows ? std::max(control.height, used) : control.height;
+    }
+
+    quint16 numberOf(const ReportControl& control) const {
+        return static_cast<quint16>(firstControl_ + (&control - section_.controls.constData()));
+    }
+
+    void add(PageItem item, const ReportControl& control) {
+        item.band = band_;
+        item.control = numberOf(control);
+        formatted_.items.push_back(std::move(item));
     }
 
     int laySubReport(const ReportControl& control, ReportJobParts& run, int top) {
+        ++styles_.depth;
         FormattedSection strip = stripOf(run, styles_);
+        --styles_.depth;
         for (PageItem& item : strip.items) {
             item.place.translate(control.left, top);
             formatted_.items.push_back(std::move(item));
         }
         for (const Span& whole : strip.wholes)
             formatted_.wholes.push_back({whole.top + top, whole.bottom + top});
+        formatted_.lastRow = std::max(formatted_.lastRow, strip.lastRow + top);
         return strip.height;
     }
 
     const ReportSection& section_;
     SectionFields& fields_;
     ReportPages& styles_;
+    const quint32 band_;
+    const quint16 firstControl_;
     FormattedSection formatted_;
     QList<Growth> growths_;
 };
 }  // namespace
+
+int besideWholes(const FormattedSection& section, int cut) {
+    for (int above = 0; above != cut;) {
+        above = cut;
+        for (const Span& whole : section.wholes)
+            if (whole.top > 0 && whole.top < cut && whole.bottom > cut) cut = whole.top;
+    }
+    return cut;
+}
 
 FormattedSection layOut(const ReportSection& section, SectionFields& fields, ReportPages& styles) {
     return Layer(section, fields, styles).lay();

@@ -12,8 +12,13 @@ struct FormattedSection {
     int height = 0;
     std::vector<PageItem> items;
     std::vector<Span> wholes;               // what no page break divides, as far as a page has room for it
+    int lastRow = 0;                        // where the last line of a report within it begins
     std::vector<std::size_t> withoutCount;  // items whose text waits for the number of pages
+    bool startsPages = false;               // a heading that goes on a new page
 };
+
+// The height of a cut, moved up until it divides nothing that is whole.
+int besideWholes(const FormattedSection& section, int cut);
 
 // Stands in a text for the number of pages while it is not known: the text of a heading. It is drawn as
 // nothing.

@@ -5,6 +5,7 @@
 #include "platform/masks.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/form.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/list_view.h"
 #include "platform/ui/reminder.h"
 #include "reports/frame/report_start.h"
@@ -35,6 +36,7 @@ frmReorder::frmReorder() : ChildScreen("frmReorder", "Re-Order Level") {
                            this);
     lvwItem->setAccessibleName("Items below their order level");
     lvwItem->setSortsByHeader(true);
+    list_look::sayWhenEmpty(lvwItem, "No item has fallen to its re-order level.");
     auto* imgRefresh = form::imageButton("imgRefresh", "refresh", "Refresh");
     auto* imgPrint = form::imageButton("imgPrint", "print", "Print");
     auto* imgExit = form::imageButton("imgExit", "exit", "Exit");

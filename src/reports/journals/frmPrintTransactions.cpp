@@ -1,7 +1,5 @@
 #include "reports/journals/frmPrintTransactions.h"
 
-#include "foundation/comes_later.h"
-#include "platform/ui/boxes.h"
 #include "reports/journals/transaction_reports.h"
 
 static const PrintBook& book() {
@@ -21,10 +19,6 @@ static const PrintBook& book() {
 frmPrintTransactions::frmPrintTransactions() : PrintScreen(book()) {}
 
 bool frmPrintTransactions::receive(const ScreenArguments& arguments) {
-    if (arguments.kind == "PROFIT") {
-        showBox(notInThisVersion("Print Sales Profitability Report"));
-        return false;
-    }
     ScreenArguments journal = arguments;
     if (journal.kind.isEmpty()) journal.kind = "S";
     return PrintScreen::receive(journal);

@@ -4,6 +4,8 @@
 
 #include <optional>
 
-// The contacts that the query lists ("SELECT tblContactMaster.*, ..."), with their two balances. count: a
-// line about their number. None when it finds no contact. The store must outlive the run.
+const ReportLayout& prtContactList();
+
+// The contacts that the query lists ("SELECT tblContactMaster.*, ..."), with their two balances, read by one
+// statement each. count: a line about their number. None when it finds no contact.
 std::optional<ReportJobParts> contactListReport(Connection& store, const Sql& query, const QString& count);

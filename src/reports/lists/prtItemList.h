@@ -4,6 +4,8 @@
 
 #include <optional>
 
-// The items that the query lists ("SELECT tblItemMaster.*, ..."), with the value of their stock. count: a
-// line about their number. None when it finds no item. The store must outlive the run.
-std::optional<ReportJobParts> itemListReport(Connection& store, const Sql& query, const QString& count);
+const ReportLayout& prtItemList();
+
+// The items that the query lists ("SELECT tblItemMaster.*, ..."), with the value of their stock, read in one
+// pass over the ledger. count: a line about their number. None when it finds no item.
+std::optional<ReportJobParts> itemListReport(Connection& store, const Sql& query, const QString& count = {});

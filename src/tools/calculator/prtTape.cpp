@@ -1,24 +1,9 @@
 #include "tools/calculator/prtTape.h"
 
+#include "reports/frame/text_rows.h"
 #include "tools/calculator/adding_machine.h"
 
 namespace {
-class TapeSource : public ReportSource {
-  public:
-    explicit TapeSource(const QStringList& lines) : lines_(lines) {}
-    bool next() override { return ++line_ < lines_.size(); }
-    qsizetype rowCount() const override { return lines_.size(); }
-    void lookBack(bool looksBack) override { line_ += looksBack ? -1 : 1; }
-    QString text(const QString& /*column*/) const override { return lines_.at(line_).trimmed(); }
-    Currency currency(const QString& /*column*/) const override { return {}; }
-    QDateTime dateTime(const QString& /*column*/) const override { return {}; }
-    bool isNull(const QString& /*column*/) const override { return false; }
-
-  private:
-    QStringList lines_;
-    qsizetype line_ = -1;
-};
-
 ReportControl tapeLine(const QString& name, bool isBold) {
     return field(name, "", 90, 0, 3600, 240, {Typeface::TimesNewRoman, 10, isBold, Qt::AlignRight});
 }
@@ -41,6 +26,10 @@ void printLine(const ReportSource& row, SectionFields& fields) {
 
 std::optional<ReportJobParts> tapeReport(const Tape& tape) {
     if (tape.lines.isEmpty()) return {};
-    return ReportJobParts{
-        prtTape(), std::make_unique<TapeSource>(tape.lines), {{on(SectionKind::Detail), printLine}}};
+    const auto lineOf = [lines = tape.lines](qsizetype row, const QString&) {
+        return lines.at(row).trimmed();
+    };
+    return ReportJobParts{prtTape(),
+                          std::make_unique<TextRows>(tape.lines.size(), lineOf),
+                          {{on(SectionKind::Detail), printLine}}};
 }

@@ -9,7 +9,9 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/data_grid.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
 #include "tools/counter/cash_document.h"
@@ -28,6 +30,7 @@ TextBox* dateBox(const QString& name) {
     auto* box = new TextBox(name);
     box->setKeyFilter(keys::date());
     box->setCapacity(width::date);
+    field_width::fix(box, field_width::date);
     return box;
 }
 
@@ -49,7 +52,7 @@ frmPOSCash::frmPOSCash()
     connectControls();
     clearFields();
     setOpen(false, false);
-    guarded([this] { LoadGrid(); });
+    RefreshRecord();
 }
 
 QSize frmPOSCash::sizeHint() const { return {form::charactersWide(this, 90), fontMetrics().height() * 32}; }
@@ -75,6 +78,7 @@ QLayout* frmPOSCash::recordHalf() {
     txtCashier->setMinimumWidth(form::charactersWide(txtCashier, 36));
     txtCash->setKeyFilter(keys::amount());
     txtCash->setCapacity(width::number);
+    field_width::fix(txtCash, field_width::figure);
     txtCash->setAlignment(Qt::AlignRight);
     for (QWidget* field : {static_cast<QWidget*>(txtCashier), static_cast<QWidget*>(txtSaleDate),
                            static_cast<QWidget*>(txtCash)})
@@ -132,11 +136,13 @@ void frmPOSCash::searchDate() {
     const auto date = parseDate(txtDate->text());
     if (!date) return;
     search_ = {" WHERE SalesDate = ?", {*date}};
+    list_look::sayWhenEmpty(dbgMyGrid, list_look::nothingFound(formatDate(*date)));
     guarded([this] { LoadGrid(); });
 }
 
 void frmPOSCash::RefreshRecord() {
     search_ = {};
+    list_look::sayWhenEmpty(dbgMyGrid, "No beginning cash yet. New Record (Ctrl+N) enters that of a day.");
     guarded([this] { LoadGrid(); });
 }
 

@@ -7,6 +7,7 @@
 #include "platform/masks.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
 #include "reports/frame/export_file.h"
@@ -26,6 +27,7 @@ frmPrintPOS::frmPrintPOS()
     cboCashier->setFiller([this] { fillCashiers(); });
     txtDate->setKeyFilter(keys::date());
     txtDate->setCapacity(width::date);
+    field_width::fix(txtDate, field_width::date);
     txtDate->setText(formatDate(Clock::today()));
 
     auto* fields = new QGridLayout;

@@ -3,9 +3,12 @@
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "masters/field_widths.h"
+#include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
+#include "platform/ui/list_look.h"
 #include "platform/ui/text_box.h"
 #include "reports/frame/report_start.h"
 #include "tools/search/search_report.h"
@@ -38,6 +41,10 @@ frmSearch::frmSearch()
 
 // ---- building
 
+static void sayWhatFills(ListView* list) {
+    list_look::sayWhenEmpty(list, "Type above what to look for, or press F9 for all records.");
+}
+
 void frmSearch::build() {
     auto* layout = new QVBoxLayout(this);
     QLabel* heading = form::label("Search Database...");
@@ -65,6 +72,7 @@ frmSearch::Panel frmSearch::makePanel(const SearchKind& kind) {
     Panel panel{&kind, form::frame(kind.frame, kind.caption), new ListView(kind.list, kind.columns), {}};
     panel.list->setAccessibleName(QString("%1 found").arg(kind.caption));
     panel.list->setSortsByHeader(true);
+    sayWhatFills(panel.list);
     panel.frame->setLayout(makeFilters(kind, panel));
     return panel;
 }
@@ -97,6 +105,7 @@ TextBox* frmSearch::makeFilter(const SearchKind& kind, const SearchFilter& filte
     const bool isDate = filter.match == SearchFilter::Date;
     box->setKeyFilter(isDate ? keys::date() : keys::freeText());
     box->setCapacity(isDate ? width::date : width::search);
+    if (isDate) field_width::fix(box, field_width::date);
     box->installEventFilter(this);
     if (kind.followsKeys)
         connect(box, &TextBox::keyTyped, this, [this] { search(); });
@@ -179,7 +188,10 @@ void frmSearch::clearPanel() {
 
 void frmSearch::clearGrid() {
     more_.stop();
-    if (const Panel* chosen = chosenPanel()) chosen->list->clear();
+    const Panel* chosen = chosenPanel();
+    if (!chosen) return;
+    chosen->list->clear();
+    sayWhatFills(chosen->list);
 }
 
 void frmSearch::RefreshRecord() {
@@ -208,7 +220,18 @@ void frmSearch::search(bool all) {
     const SearchAnswer answer = prepareSearch(request(all));
     if (const auto* fault = std::get_if<Fault>(&answer)) return showFault(*fault, this);
     clearGrid();
-    if (const auto* found = std::get_if<Search>(&answer)) guarded([&] { begin(*found); });
+    const auto* found = std::get_if<Search>(&answer);
+    if (!found) return;
+    sayWhatWasSought();
+    guarded([&] { begin(*found); });
+}
+
+void frmSearch::sayWhatWasSought() {
+    QStringList typed;
+    for (const TextBox* filter : panel()->filters) typed += trim(filter->text());
+    typed.removeAll({});
+    list_look::sayWhenEmpty(panel()->list,
+                            typed.isEmpty() ? "Nothing found." : list_look::nothingFound(typed.join(", ")));
 }
 
 void frmSearch::begin(const Search& search) {

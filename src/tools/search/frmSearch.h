@@ -52,6 +52,7 @@ class frmSearch : public ChildScreen {
     void clearGrid();
     SearchRequest request(bool all) const;
     void search(bool all = false);
+    void sayWhatWasSought();
     void begin(const Search& search);
     void readOn(int rows);
     void showAll();

@@ -6,6 +6,7 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/store/bulk.h"
+#include "platform/store/place.h"
 
 #include <algorithm>
 
@@ -139,11 +140,11 @@ QStringList shownRow(const Search& search, const FoundRow& row) {
                       differenceFigure(row.term(9), row.term(10)));
 }
 
-Sql pageOf(const Search& search, qint64 after, int rows) {
-    Sql page(QString("SELECT %2.rowid, %1 FROM %3").arg(search.columns, search.table, search.from));
+Sql pageOf(Connection& store, const Search& search, qint64 after, int rows) {
+    const QString key = QString("%1.%2").arg(search.table, keyOf(store, search.table));
+    Sql page(QString("SELECT %2, %1 FROM %3").arg(search.columns, key, search.from));
     page += search.where;
-    page += Sql{QString(" %1 %2.rowid > ? ORDER BY %2.rowid LIMIT ?")
-                    .arg(search.where.isEmpty() ? "WHERE" : "AND", search.table),
+    page += Sql{QString(" %1 %2 > ? ORDER BY %2 LIMIT ?").arg(search.where.isEmpty() ? "WHERE" : "AND", key),
                 {after, rows}};
     return page;
 }
@@ -151,7 +152,7 @@ Sql pageOf(const Search& search, qint64 after, int rows) {
 SearchPage pageFrom(Connection& store, const Search& search, qint64 after, int rows,
                     const std::function<QStringList(const FoundRow&)>& shown) {
     SearchPage page;
-    BulkReader found(store, pageOf(search, after, rows));
+    BulkReader found(store, pageOf(store, search, after, rows));
     const FoundRow row(found);
     while (found.next()) {
         page.rows += shown(row);

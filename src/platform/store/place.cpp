@@ -1,0 +1,20 @@
+#include "platform/store/place.h"
+
+#include "platform/store/bulk.h"
+#include "platform/store/engine.h"
+
+bool isServer(const QString& place) {
+    return place.startsWith("postgresql://") || place.startsWith("postgres://");
+}
+
+Engine& engineOf(const Connection& store) { return BulkReader::engineOf(store); }
+
+bool isOnServer(const Connection& store) { return isServer(store.path()); }
+
+QString keyOf(Connection& store, const QString& table) {
+    for (const TableColumn& column : engineOf(store).tableColumns(table))
+        if (column.isKey) return column.name;
+    throw StoreError(StoreError::general, "The table " + table + " has no key.");
+}
+
+QStringList tablesOf(Connection& store) { return engineOf(store).tables(); }

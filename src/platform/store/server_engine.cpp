@@ -1,0 +1,375 @@
+#include "platform/store/server_engine.h"
+
+#include "platform/store/busy_wait.h"
+#include "platform/store/server_dialect.h"
+#include "platform/store/sql_tokens.h"
+
+#include <libpq-fe.h>
+
+namespace {
+constexpr int rowsOfFetch = 500;
+// The types of the server's own that are not read as texts.
+enum : unsigned {
+    boolType = 16,
+    bytesType = 17,
+    bigType = 20,
+    smallType = 21,
+    intType = 23,
+    realType = 701,
+    numericType = 1700
+};
+
+QVariant numberOf(const char* text) {
+    bool whole = false;
+    const QByteArray digits(text);
+    const qlonglong number = digits.toLongLong(&whole);
+    if (whole) return number;
+    if (!digits.contains('.')) throw StoreError(StoreError::general, "integer overflow");
+    return digits.toDouble();
+}
+
+QVariant bytesOf(const char* text) {
+    size_t length = 0;
+    unsigned char* const bytes = PQunescapeBytea(reinterpret_cast<const unsigned char*>(text), &length);
+    const QByteArray value(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(length));
+    PQfreemem(bytes);
+    return value;
+}
+
+QVariant valueOf(const PGresult* result, int row, int column, unsigned type) {
+    if (PQgetisnull(result, row, column)) return QVariant(QMetaType::fromType<QString>());
+    const char* const text = PQgetvalue(result, row, column);
+    switch (type) {
+        case boolType:
+            return qlonglong{*text == 't'};
+        case bigType:
+        case smallType:
+        case intType:
+        case numericType:
+            return numberOf(text);
+        case realType:
+            return QByteArray(text).toDouble();
+        case bytesType:
+            return bytesOf(text);
+        default:
+            return QString::fromUtf8(text, PQgetlength(result, row, column));
+    }
+}
+
+std::vector<QVariantList> rowsOf(const PGresult* result, const std::vector<unsigned>& types) {
+    const int count = PQntuples(result);
+    std::vector<QVariantList> rows(static_cast<size_t>(count));
+    for (int row = 0; row < count; ++row) {
+        QVariantList& values = rows[static_cast<size_t>(row)];
+        values.reserve(static_cast<qsizetype>(types.size()));
+        for (size_t column = 0; column < types.size(); ++column)
+            values.emplaceBack(valueOf(result, row, static_cast<int>(column), types[column]));
+    }
+    return rows;
+}
+
+qsizetype marksOf(const QString& text) {
+    qsizetype marks = 0;
+    for (const Token& token : tokensOf(text)) marks += token.isSign(u'?');
+    return marks;
+}
+
+bool startsWith(const QString& text, std::initializer_list<const char*> words) {
+    const QStringView first = QStringView(text).trimmed();
+    for (const char* word : words)
+        if (first.startsWith(QLatin1StringView(word), Qt::CaseInsensitive)) return true;
+    return false;
+}
+
+QByteArray savepoint(int level) { return "unit" + QByteArray::number(level); }
+
+// The one lock of the books: whoever writes holds it.
+constexpr const char* beginStatements = "BEGIN; SELECT pg_try_advisory_xact_lock(1517842977)";
+constexpr const char* guard = "SAVEPOINT statement";
+constexpr const char* keepGuarded = "RELEASE statement";
+constexpr const char* undoGuarded = "ROLLBACK TO statement; RELEASE statement";
+}  // namespace
+
+// The rows of a reader within a unit come in pieces, through a cursor; others at once.
+class ServerRows : public BulkRows {
+  public:
+    ServerRows(ServerEngine& engine, ServerResult rows, QByteArray cursor)
+        : engine_(engine), rows_(std::move(rows)), cursor_(std::move(cursor)) {}
+
+    bool next() override {
+        if (++row_ < PQntuples(rows_.get())) return true;
+        if (cursor_.isEmpty() || PQntuples(rows_.get()) < rowsOfFetch) return false;
+        rows_ = std::move(engine_.guarded({{ServerCommand::Plain, fetch(cursor_), {}}}).front());
+        row_ = 0;
+        return PQntuples(rows_.get()) > 0;
+    }
+    qint64 integer(int column) const override { return QByteArrayView(bytes(column)).toLongLong(); }
+    bool isNull(int column) const override { return PQgetisnull(rows_.get(), row_, column) != 0; }
+    QByteArrayView bytes(int column) const override {
+        return {PQgetvalue(rows_.get(), row_, column), PQgetlength(rows_.get(), row_, column)};
+    }
+
+    static QByteArray fetch(const QByteArray& cursor) {
+        return "FETCH " + QByteArray::number(rowsOfFetch) + " FROM " + cursor;
+    }
+
+  private:
+    ServerEngine& engine_;
+    ServerResult rows_;
+    QByteArray cursor_;
+    int row_ = -1;
+};
+
+ServerEngine::ServerEngine(const QString& uri, const QString& password) : link_(uri, password) {}
+
+ServerStatement& ServerEngine::known(const QString& text) {
+    auto& statement = statements_[text];
+    if (statement) return *statement;
+    statement = std::make_shared<ServerStatement>();
+    statement->text = serverStatement(text).toUtf8();
+    statement->values = marksOf(text);
+    statement->changesTables = startsWith(text, {"CREATE", "DROP", "ALTER"});
+    statement->writes = statement->changesTables || startsWith(text, {"INSERT", "UPDATE", "DELETE"});
+    return *statement;
+}
+
+// A statement of a unit stands behind a savepoint: where it fails, the unit goes on without it.
+std::vector<ServerResult> ServerEngine::guarded(std::vector<ServerCommand> commands) {
+    if (!inUnit_) return link_.send(commands);
+    commands.insert(commands.begin(), {ServerCommand::Plain, guard, {}});
+    commands.push_back({ServerCommand::Plain, keepGuarded, {}});
+    try {
+        std::vector<ServerResult> answers = link_.send(commands);
+        answers.erase(answers.begin());
+        answers.pop_back();
+        return answers;
+    } catch (const StoreError&) {
+        if (!link_.isLost()) link_.simple(undoGuarded);
+        throw;
+    }
+}
+
+ServerResult ServerEngine::answerOnce(ServerStatement& statement, const QVariantList& values) {
+    std::vector<ServerCommand> commands;
+    const bool parses = statement.name.isEmpty();
+    const QByteArray name = parses ? "s" + QByteArray::number(++parsed_) : statement.name;
+    if (parses) commands.push_back({ServerCommand::Parse, statement.text, name});
+    commands.push_back({ServerCommand::Prepared, name, {}, values});
+    ServerResult result = std::move(guarded(std::move(commands)).back());
+    statement.name = name;
+    return result;
+}
+
+// What was in the midst of it is undone by the server; outside of a unit nothing was.
+void ServerEngine::connectAnew() {
+    for (const auto& statement : std::as_const(statements_)) statement->name.clear();
+    link_.reconnect();
+}
+
+ServerResult ServerEngine::answer(ServerStatement& statement, const QVariantList& values) {
+    requireValues(statement.values, values);
+    if (statement.changesTables) return changeTables(statement);
+    if (!inUnit_ && link_.isLost()) connectAnew();
+    try {
+        return answerOnce(statement, values);
+    } catch (const StoreError&) {
+        if (inUnit_ || !link_.isLost()) throw;
+    }
+    connectAnew();
+    return answerOnce(statement, values);
+}
+
+ServerResult ServerEngine::changeTables(const ServerStatement& statement) {
+    catalogue_.clear();
+    forgetTables();
+    link_.simple(guard);
+    try {
+        ServerResult result = link_.simple(statement.text);
+        link_.simple(keepGuarded);
+        return result;
+    } catch (const StoreError&) {
+        if (!link_.isLost()) link_.simple(undoGuarded);
+        throw;
+    }
+}
+
+const std::vector<ServerEngine::Table>& ServerEngine::catalogue() {
+    if (!catalogue_.empty()) return catalogue_;
+    const std::vector<ServerResult> answers = guarded(
+        {{ServerCommand::Plain,
+          "SELECT c.oid, c.relname, a.attnum, a.attname, format_type(a.atttypid, NULL), "
+          "a.attidentity <> '' FROM pg_class c JOIN pg_attribute a ON a.attrelid = c.oid "
+          "WHERE c.relnamespace = current_schema()::regnamespace AND c.relkind = 'r' AND a.attnum > 0 "
+          "AND NOT a.attisdropped ORDER BY c.relname, a.attnum",
+          {}}});
+    const PGresult* const found = answers.front().get();
+    const auto text = [&](int row, int column) { return QString::fromUtf8(PQgetvalue(found, row, column)); };
+    for (int row = 0; row < PQntuples(found); ++row) {
+        if (const unsigned id = text(row, 0).toUInt(); catalogue_.empty() || catalogue_.back().id != id)
+            catalogue_.push_back({id, text(row, 1), {}, {}});
+        catalogue_.back().columns += {text(row, 3), houseType(text(row, 4)), text(row, 5) == "t"};
+        catalogue_.back().places += text(row, 2).toInt();
+    }
+    return catalogue_;
+}
+
+QStringList ServerEngine::tables() {
+    QStringList names;
+    for (const Table& table : catalogue())
+        if (table.name != "storeversion") names += table.name;
+    return names;
+}
+
+QList<TableColumn> ServerEngine::readColumns(const QString& name) {
+    for (const Table& table : catalogue())
+        if (table.name.compare(name, Qt::CaseInsensitive) == 0) return table.columns;
+    return {};
+}
+
+ColumnKind ServerEngine::kindOf(unsigned id, int place) {
+    if (id == 0) return ColumnKind::Unknown;
+    for (const Table& table : catalogue()) {
+        const qsizetype at = table.id == id ? table.places.indexOf(place) : -1;
+        if (at >= 0) return declaredKind(table.columns[at].type);
+    }
+    return ColumnKind::Unknown;
+}
+
+void ServerEngine::learnColumns(ServerStatement& statement, const PGresult* result, const QString& text) {
+    if (statement.columns) return;
+    QStringList names;
+    QList<ColumnKind> kinds;
+    statement.columnCount = PQnfields(result);
+    for (int column = 0; column < statement.columnCount; ++column) {
+        names += QString::fromUtf8(PQfname(result, column));
+        const ColumnKind declared = kindOf(PQftable(result, column), PQftablecol(result, column));
+        kinds += declared == ColumnKind::Unknown ? computedKind(names.last(), text) : declared;
+        statement.types.push_back(PQftype(result, column));
+    }
+    statement.columns = columnsOf(names, kinds);
+}
+
+ReadRows ServerEngine::execute(const Sql& sql) {
+    ServerStatement& statement = known(sql.text);
+    const ServerResult result = answer(statement, sql.values);
+    learnColumns(statement, result.get(), sql.text);
+    return {statement.columns, statement.columnCount, rowsOf(result.get(), statement.types)};
+}
+
+// A write that stands alone is a unit of its own.
+qint64 ServerEngine::run(const Sql& sql) {
+    ServerStatement& statement = known(sql.text);
+    const bool alone = statement.writes && !inUnit_;
+    requireValues(statement.values, sql.values);
+    if (alone) begin(Turn::Any);
+    try {
+        if (statement.writes) tellStatement(sql.text);
+        const ServerResult result = answer(statement, sql.values);
+        if (alone) commit();
+        return QByteArrayView(PQcmdTuples(result.get())).toLongLong();
+    } catch (...) {
+        if (alone) undo();
+        throw;
+    }
+}
+
+qint64 ServerEngine::insert(const Sql& sql, const QString& key) {
+    const Sql returning(sql.text + " RETURNING " + key, sql.values);
+    const bool alone = !inUnit_;
+    if (alone) begin(Turn::Any);
+    try {
+        tellStatement(sql.text);
+        const qint64 row = execute(returning).rows.at(0).at(0).toLongLong();
+        if (alone) commit();
+        return row;
+    } catch (...) {
+        if (alone) undo();
+        throw;
+    }
+}
+
+std::unique_ptr<BulkRows> ServerEngine::read(const Sql& sql) {
+    ServerStatement& statement = known(sql.text);
+    requireValues(statement.values, sql.values);
+    if (!inUnit_) return std::make_unique<ServerRows>(*this, answer(statement, sql.values), QByteArray());
+    const QByteArray cursor = "c" + QByteArray::number(++cursors_);
+    std::vector<ServerResult> answers =
+        guarded({{ServerCommand::Plain,
+                  "DECLARE " + cursor + " NO SCROLL CURSOR FOR " + statement.text,
+                  {},
+                  sql.values},
+                 {ServerCommand::Plain, ServerRows::fetch(cursor), {}}});
+    return std::make_unique<ServerRows>(*this, std::move(answers.back()), cursor);
+}
+
+bool ServerEngine::tryBegin() {
+    const ServerResult lock = link_.simple(beginStatements);
+    inUnit_ = *PQgetvalue(lock.get(), 0, 0) == 't';
+    if (!inUnit_) link_.simple("ROLLBACK");
+    return inUnit_;
+}
+
+void ServerEngine::begin(Turn turn) {
+    if (link_.isLost()) connectAnew();
+    for (BusyWait wait(turn);;) {
+        try {
+            if (tryBegin()) return;
+        } catch (const StoreError&) {
+            if (!link_.isLost()) throw;
+            connectAnew();
+            continue;
+        }
+        if (!wait.again()) throw StoreError(StoreError::busy, busyText);
+    }
+}
+
+// Whether a commit whose answer is lost was carried out, the server alone knows.
+void ServerEngine::commit() {
+    try {
+        link_.simple("COMMIT");
+    } catch (const StoreError&) {
+        if (!link_.isLost()) throw;
+        throw StoreError(StoreError::general,
+                         "The connection to the server was lost while this was being saved. Please look "
+                         "whether it is there before you save it again.");
+    }
+    inUnit_ = false;
+}
+
+void ServerEngine::undo() {
+    inUnit_ = false;
+    if (link_.isLost()) return;
+    try {
+        link_.simple("ROLLBACK");
+    } catch (const StoreError&) {  // lost with the connection, which undoes it as well
+    }
+}
+
+void ServerEngine::setPoint(int level) { link_.simple("SAVEPOINT " + savepoint(level)); }
+
+void ServerEngine::keepPoint(int level) { link_.simple("RELEASE " + savepoint(level)); }
+
+void ServerEngine::undoToPoint(int level) {
+    if (link_.isLost()) return;
+    try {
+        link_.simple("ROLLBACK TO " + savepoint(level) + "; RELEASE " + savepoint(level));
+    } catch (const StoreError&) {
+    }
+}
+
+bool ServerEngine::hasUndoneUnit() const { return !link_.isInUnit(); }
+
+QString ServerEngine::valueOf(const char* statement) {
+    const auto answers = guarded({{ServerCommand::Plain, statement, {}}});
+    const PGresult* const found = answers.front().get();
+    return PQntuples(found) == 0 ? QString() : QString::fromUtf8(PQgetvalue(found, 0, 0));
+}
+
+qint64 ServerEngine::version() {
+    if (valueOf("SELECT to_regclass('storeversion')").isEmpty()) return 0;
+    return valueOf("SELECT Version FROM StoreVersion").toLongLong();
+}
+
+void ServerEngine::setVersion(qint64 version) {
+    link_.simple("UPDATE StoreVersion SET Version = " + QByteArray::number(version));
+}

@@ -1,0 +1,76 @@
+#pragma once
+#include "platform/store/engine.h"
+#include "platform/store/server_link.h"
+
+// A statement that the server has parsed once, and the columns it gives.
+struct ServerStatement {
+    QByteArray text;
+    QByteArray name;  // empty: not parsed yet
+    qsizetype values = 0;
+    bool writes = false;
+    bool changesTables = false;
+    std::shared_ptr<const RecordsetColumns> columns;
+    int columnCount = 0;
+    std::vector<unsigned> types;  // of the columns
+};
+
+// The books in a database of a PostgreSQL server. Whoever writes holds the one advisory lock of the books.
+class ServerEngine : public Engine {
+  public:
+    ServerEngine(const QString& uri, const QString& password);
+
+    ReadRows execute(const Sql& statement) override;
+    qint64 run(const Sql& statement) override;
+    qint64 insert(const Sql& statement, const QString& key) override;
+    std::unique_ptr<BulkRows> read(const Sql& statement) override;
+    QStringList tables() override;
+    QList<TableColumn> readColumns(const QString& table) override;
+    void begin(Turn turn) override;
+    void commit() override;
+    void undo() override;
+    void setPoint(int level) override;
+    void keepPoint(int level) override;
+    void undoToPoint(int level) override;
+    bool hasUndoneUnit() const override;
+    qint64 version() override;
+    void setVersion(qint64 version) override;
+    void prepare() override;
+    void rowsAreCopied() override;
+
+    // From here on nothing can be written.
+    void refuseWrites();
+    // The value of a statement without values; empty for null or no row.
+    QString valueOf(const char* statement);
+
+  private:
+    friend class ServerRows;
+    struct Table {
+        unsigned id;
+        QString name;
+        QList<TableColumn> columns;
+        QList<int> places;  // the server's numbers of the columns
+    };
+    ServerStatement& known(const QString& text);
+    ServerResult answer(ServerStatement& statement, const QVariantList& values);
+    ServerResult answerOnce(ServerStatement& statement, const QVariantList& values);
+    ServerResult inUnit(ServerStatement& statement, const QVariantList& values);
+    ServerResult changeTables(const ServerStatement& statement);
+    std::vector<ServerResult> guarded(std::vector<ServerCommand> commands);
+    void learnColumns(ServerStatement& statement, const pg_result* result, const QString& text);
+    ColumnKind kindOf(unsigned table, int place);
+    const std::vector<Table>& catalogue();
+    bool tryBegin();
+    void connectAnew();
+
+    ServerLink link_;
+    bool inUnit_ = false;
+    int cursors_ = 0;
+    int parsed_ = 0;
+    QHash<QString, std::shared_ptr<ServerStatement>> statements_;
+    std::vector<Table> catalogue_;
+};
+
+// What makes a database a store of this program, and the check of one that is to be made. Both throw
+// StoreError with a text for people, and write nothing.
+void requireOwnDatabase(Engine& engine, const QString& place);
+void requireEmptyDatabase(Engine& engine, const QString& place);

@@ -1,0 +1,81 @@
+#include "support/test_server.h"
+
+#include "foundation/schema.h"
+#include "platform/store/server_link.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+#include <memory>
+
+#include <gtest/gtest.h>
+
+namespace {
+QString serverUri() { return qEnvironmentVariable("ZEVRIN_TEST_SERVER"); }
+
+void tell(const QString& statement) {
+    static const auto link = std::make_unique<ServerLink>(serverUri(), QString());
+    link->simple(statement.toUtf8());
+}
+
+// "postgresql://user@host/postgres?host=..." with another database.
+QString uriOf(const QString& database) {
+    const QString uri = serverUri();
+    const qsizetype start = uri.indexOf(u'/', uri.indexOf("//") + 2) + 1;
+    const qsizetype end = uri.indexOf(u'?', start);
+    return uri.left(start) + database + (end < 0 ? QString() : uri.mid(end));
+}
+
+// Test programs run beside each other.
+QString ownName(const QString& name) {
+    return QString("test_%1_%2").arg(QCoreApplication::applicationPid()).arg(name);
+}
+
+QStringList& databases() {
+    static QStringList names;
+    return names;
+}
+
+QString create(const QString& name, const QString& model) {
+    tell(QString("CREATE DATABASE %1 TEMPLATE %2 ENCODING 'UTF8' LOCALE 'C'").arg(name, model));
+    return name;
+}
+
+void drop(const QString& name) { tell(QString("DROP DATABASE IF EXISTS %1 WITH (FORCE)").arg(name)); }
+
+QString delivered() {
+    static const QString name = [] {
+        const QString made = create(ownName("delivered"), "template0");
+        makeDeliveredStore(uriOf(made));
+        return made;
+    }();
+    return name;
+}
+
+QString newDatabase(const QString& model) {
+    static int count = 0;
+    databases() += create(ownName(QString::number(++count)), model);
+    return uriOf(databases().last());
+}
+
+class Watch : public testing::EmptyTestEventListener {
+    void OnTestEnd(const testing::TestInfo&) override {
+        for (const QString& name : std::exchange(databases(), {})) drop(name);
+    }
+    void OnTestProgramEnd(const testing::UnitTest&) override { drop(ownName("delivered")); }
+};
+}  // namespace
+
+bool onTestServer() { return !serverUri().isEmpty(); }
+
+QString newTestDatabase() { return newDatabase(delivered()); }
+
+QString newCopyOf(const QString& uri) {
+    const qsizetype start = uri.indexOf(u'/', uri.indexOf("//") + 2) + 1;
+    return newDatabase(uri.mid(start, uri.indexOf(u'?', start) - start));
+}
+
+QString newEmptyDatabase() { return newDatabase("template0"); }
+
+void watchTestDatabases() {
+    if (onTestServer()) testing::UnitTest::GetInstance()->listeners().Append(new Watch);
+}
