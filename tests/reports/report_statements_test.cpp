@@ -29,8 +29,8 @@ QMap<QString, int> statementsInBooksOf(qint64 sales) {
 }
 }  // namespace
 
-// A report that asks the store for each of its lines takes a minute in the books of a few years. One that costs the
-// ledger first begins a new unit whenever its time is up, on a slow machine more often.
+// A report that asks the store for each of its lines takes a minute in the books of a few years. One that
+// costs the ledger first begins a new unit whenever its time is up, on a slow machine more often.
 TEST(EveryReport, AsksTheStoreAFixedNumberOfTimes) {
     const QMap<QString, int> few = statementsInBooksOf(1000), many = statementsInBooksOf(20000);
     EXPECT_GE(few.size(), 10);
