@@ -67,6 +67,12 @@ const QList<TableColumn>& Engine::tableColumns(const QString& name) {
     return *tables_.insert(key, found);
 }
 
+QString Engine::keyOf(const QString& table) {
+    for (const TableColumn& column : tableColumns(table))
+        if (column.isKey) return column.name;
+    throw StoreError(StoreError::general, "The table " + table + " has no key.");
+}
+
 void requireValues(qsizetype asked, const QVariantList& given) {
     if (given.size() != asked)
         throw StoreError(StoreError::general, "The statement has other values than it asks for.");

@@ -41,6 +41,8 @@ class Engine {
     virtual QStringList tables() = 0;
     // In the order of the table, read once. Throws when there is no such table.
     const QList<TableColumn>& tableColumns(const QString& table);
+    // As keyOf of place.h.
+    QString keyOf(const QString& table);
 
     // A unit, and points within it by their depth. What undoes does not throw.
     virtual void begin(Turn turn) = 0;
@@ -59,6 +61,8 @@ class Engine {
     virtual void prepare() = 0;
     // Rows came in with the numbers that they had elsewhere: new ones get higher numbers.
     virtual void rowsAreCopied() = 0;
+    // From here on each row that is written to a table with a watch is told to RowWatch.
+    virtual void tellRows() = 0;
 
   protected:
     // None: there is no such table.

@@ -2,6 +2,7 @@
 
 #include "platform/store/dialect.h"
 #include "platform/store/like.h"
+#include "platform/store/row_watch.h"
 
 #include <QFileInfo>
 #include <QSqlDriver>
@@ -129,6 +130,14 @@ StoreError engineError(sqlite3* engine) {
 void waitOrThrow(sqlite3* engine, BusyWait& wait) {
     const StoreError error = engineError(engine);
     if (error.number() != StoreError::busy || !wait.again()) throw error;
+}
+
+// The engine's own hook, which it calls for each row.
+void tellRow(void* engine, int operation, const char* /*database*/, const char* table, sqlite3_int64 row) {
+    const RowWatch::Change change = operation == SQLITE_INSERT   ? RowWatch::Added
+                                    : operation == SQLITE_DELETE ? RowWatch::Deleted
+                                                                 : RowWatch::Changed;
+    RowWatch::tell(static_cast<const FileEngine*>(engine), QString::fromUtf8(table), change, row);
 }
 
 QString savepoint(int level) { return QString("unit%1").arg(level); }
@@ -322,3 +331,5 @@ qint64 FileEngine::version() {
 }
 
 void FileEngine::setVersion(qint64 version) { run(QString("PRAGMA user_version = %1").arg(version)); }
+
+void FileEngine::tellRows() { sqlite3_update_hook(handle(), &tellRow, this); }

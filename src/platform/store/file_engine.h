@@ -43,6 +43,7 @@ class FileEngine : public Engine {
     void setVersion(qint64 version) override;
     void prepare() override {}
     void rowsAreCopied() override {}
+    void tellRows() override;
 
     sqlite3* handle() const;
     // A statement of its own for each user, read by the engine once and kept when it is given back.

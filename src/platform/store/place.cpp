@@ -11,10 +11,6 @@ Engine& engineOf(const Connection& store) { return BulkReader::engineOf(store); 
 
 bool isOnServer(const Connection& store) { return isServer(store.path()); }
 
-QString keyOf(Connection& store, const QString& table) {
-    for (const TableColumn& column : engineOf(store).tableColumns(table))
-        if (column.isKey) return column.name;
-    throw StoreError(StoreError::general, "The table " + table + " has no key.");
-}
+QString keyOf(Connection& store, const QString& table) { return engineOf(store).keyOf(table); }
 
 QStringList tablesOf(Connection& store) { return engineOf(store).tables(); }

@@ -1,32 +1,34 @@
 #include "platform/store/row_watch.h"
 
-#include "platform/store/connection.h"
-#include "platform/store/place.h"
+#include "platform/store/engine.h"
 
-#include <sqlite3.h>
 #include <QList>
+
+#include <algorithm>
 
 static QList<RowWatch*>& watches() {
     static QList<RowWatch*> all;
     return all;
 }
 
-// One hook of the engine serves all watches of a connection. It stays when they have gone: the connection may
-// be closed by then.
 RowWatch::RowWatch(Connection& store, const QString& table, Listener listener)
-    : handle_(isOnServer(store) ? nullptr : store.handle()),
-      table_(table.toUtf8()),
-      listener_(std::move(listener)) {
-    if (!handle_) return;
+    : engine_(&engineOf(store)), table_(table), listener_(std::move(listener)) {
     watches() += this;
-    sqlite3_update_hook(handle_, &RowWatch::hear, handle_);
+    engineOf(store).tellRows();
 }
 
 RowWatch::~RowWatch() { watches().removeOne(this); }
 
-void RowWatch::hear(void* handle, int operation, const char* /*database*/, const char* table, long long row) {
-    const Change change = operation == SQLITE_INSERT ? Added : operation == SQLITE_DELETE ? Deleted : Changed;
+bool RowWatch::listensTo(const Engine* engine, QStringView table) const {
+    return engine_ == engine && table.compare(table_, Qt::CaseInsensitive) == 0;
+}
+
+bool RowWatch::isHeard(const Engine* engine, QStringView table) {
+    return std::ranges::any_of(watches(),
+                               [&](const RowWatch* watch) { return watch->listensTo(engine, table); });
+}
+
+void RowWatch::tell(const Engine* engine, QStringView table, Change change, qint64 row) {
     for (const RowWatch* watch : watches())
-        if (watch->handle_ == handle && qstricmp(watch->table_.constData(), table) == 0)
-            watch->listener_(change, row);
+        if (watch->listensTo(engine, table)) watch->listener_(change, row);
 }

@@ -1,14 +1,13 @@
 #pragma once
-#include <QByteArray>
 #include <QString>
 #include <functional>
 
 class Connection;
-struct sqlite3;
+class Engine;
 
 // Listens to what a connection itself writes to one table, row by row, whoever writes and in whatever
 // statement. What other workstations write is not heard. The rows are told as they are written: their unit
-// may still be undone. A server tells nothing of the kind: there it stays silent.
+// may still be undone.
 class RowWatch {
   public:
     enum Change { Added, Changed, Deleted };
@@ -19,10 +18,14 @@ class RowWatch {
     RowWatch(const RowWatch&) = delete;
     RowWatch& operator=(const RowWatch&) = delete;
 
-  private:
-    static void hear(void* handle, int operation, const char* database, const char* table, long long row);
+    // For the engines: whether anybody listens to a table of theirs, and what they have written to it.
+    static bool isHeard(const Engine* engine, QStringView table);
+    static void tell(const Engine* engine, QStringView table, Change change, qint64 row);
 
-    sqlite3* handle_;
-    QByteArray table_;
+  private:
+    bool listensTo(const Engine* engine, QStringView table) const;
+
+    const Engine* engine_;  // only to compare: the connection may be closed by now
+    QString table_;
     Listener listener_;
 };

@@ -51,7 +51,7 @@ class SortLists {
   private:
     bool isOpen() const { return !lists_.isEmpty(); }
     static bool endsList(const Token& token) {
-        return token.is("LIMIT") || token.is("OFFSET") || token.is("UNION");
+        return token.is("LIMIT") || token.is("OFFSET") || token.is("UNION") || token.is("RETURNING");
     }
     QList<int> lists_;  // the depths at which they stand
     int depth_ = 0;

@@ -4,7 +4,11 @@
 #include "platform/store/server_dialect.h"
 #include "platform/store/sql_tokens.h"
 
+#include <QRegularExpression>
+
 #include <libpq-fe.h>
+#include <cmath>
+#include <limits>
 
 namespace {
 constexpr int rowsOfFetch = 500;
@@ -81,6 +85,50 @@ bool startsWith(const QString& text, std::initializer_list<const char*> words) {
     return false;
 }
 
+// "INSERT INTO t", "UPDATE t", "DELETE FROM t"
+WrittenRows rowsWrittenBy(const QString& text) {
+    static const QRegularExpression write("^\\s*(INSERT INTO|UPDATE|DELETE FROM)\\s+(\\w+)",
+                                          QRegularExpression::CaseInsensitiveOption);
+    const auto found = write.match(text);
+    if (!found.hasMatch()) return {};
+    const QChar first = found.captured(1).front().toUpper();
+    return {found.captured(2), first == u'I'   ? RowWatch::Added
+                               : first == u'D' ? RowWatch::Deleted
+                                               : RowWatch::Changed};
+}
+
+// A reading statement compares all of its values, a writing one those of its own WHERE.
+qsizetype firstCompared(const QString& text, bool writes) {
+    qsizetype marks = 0;
+    int depth = 0;
+    for (const Token& token : tokensOf(text)) {
+        if (!writes || (depth == 0 && token.is("WHERE"))) return marks;
+        if (token.isSign(u'(')) ++depth;
+        if (token.isSign(u')')) --depth;
+        marks += token.isSign(u'?');
+    }
+    return marks;
+}
+
+bool isWholeType(unsigned type) { return type == bigType || type == intType || type == smallType; }
+
+// Texts compare with a number column as they do in a file: "7.0" is a number, and one that is none is beyond
+// all numbers.
+QVariant asNumber(const QString& text) {
+    constexpr double bound = 9.0e18;
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    if (isNumber && number <= -bound) return std::numeric_limits<qlonglong>::min();
+    const bool isWhole = isNumber && number < bound && std::floor(number) == number;
+    return isWhole ? static_cast<qlonglong>(number) : std::numeric_limits<qlonglong>::max();
+}
+
+bool isWholeNumber(const QString& text) {
+    bool isNumber = false;
+    text.trimmed().toLongLong(&isNumber);
+    return isNumber;
+}
+
 QByteArray savepoint(int level) { return "unit" + QByteArray::number(level); }
 
 // The one lock of the books: whoever writes holds it.
@@ -130,6 +178,8 @@ ServerStatement& ServerEngine::known(const QString& text) {
     statement->values = marksOf(text);
     statement->changesTables = startsWith(text, {"CREATE", "DROP", "ALTER"});
     statement->writes = statement->changesTables || startsWith(text, {"INSERT", "UPDATE", "DELETE"});
+    statement->compared = firstCompared(text, statement->writes);
+    statement->rows = rowsWrittenBy(text);
     return *statement;
 }
 
@@ -160,6 +210,32 @@ ServerResult ServerEngine::answerOnce(ServerStatement& statement, const QVariant
     return result;
 }
 
+// The server refuses a text where a number stands, and a number too long for one: whoever looks for it finds
+// nothing.
+QVariantList ServerEngine::comparable(const ServerStatement& statement, QVariantList values) {
+    const std::vector<ServerResult> answers =
+        guarded({{ServerCommand::Parse, statement.text, {}}, {ServerCommand::Describe, {}, {}}});
+    for (qsizetype at = statement.compared; at < values.size(); ++at) {
+        const QVariant stored = storedValue(values[at]);
+        if (stored.isNull() || stored.metaType() != QMetaType::fromType<QString>()) continue;
+        if (!isWholeType(PQparamtype(answers.back().get(), static_cast<int>(at)))) continue;
+        if (!isWholeNumber(stored.toString())) values[at] = asNumber(stored.toString());
+    }
+    return values;
+}
+
+template <class Ask>
+auto ServerEngine::asked(const ServerStatement& statement, const QVariantList& values, const Ask& ask) {
+    try {
+        return ask(values);
+    } catch (const StoreError&) {
+        if (link_.isLost() || !link_.refusedValue()) throw;
+        const QVariantList others = comparable(statement, values);
+        if (others == values) throw;
+        return ask(others);
+    }
+}
+
 // What was in the midst of it is undone by the server; outside of a unit nothing was.
 void ServerEngine::connectAnew() {
     for (const auto& statement : std::as_const(statements_)) statement->name.clear();
@@ -169,14 +245,15 @@ void ServerEngine::connectAnew() {
 ServerResult ServerEngine::answer(ServerStatement& statement, const QVariantList& values) {
     requireValues(statement.values, values);
     if (statement.changesTables) return changeTables(statement);
+    const auto ask = [&](const QVariantList& given) { return answerOnce(statement, given); };
     if (!inUnit_ && link_.isLost()) connectAnew();
     try {
-        return answerOnce(statement, values);
+        return asked(statement, values, ask);
     } catch (const StoreError&) {
         if (inUnit_ || !link_.isLost()) throw;
     }
     connectAnew();
-    return answerOnce(statement, values);
+    return asked(statement, values, ask);
 }
 
 ServerResult ServerEngine::changeTables(const ServerStatement& statement) {
@@ -256,15 +333,29 @@ ReadRows ServerEngine::execute(const Sql& sql) {
     return {statement.columns, statement.columnCount, rowsOf(result.get(), statement.types)};
 }
 
+// A write to a table that a watch listens to brings the keys of its rows along.
+ServerStatement& ServerEngine::heard(const QString& text) {
+    ServerStatement& statement = known(text);
+    const QString table = statement.rows.table;
+    if (table.isEmpty() || !RowWatch::isHeard(this, table)) return statement;
+    return known(text + " RETURNING " + table + u'.' + keyOf(table));
+}
+
+void ServerEngine::tell(const WrittenRows& rows, const PGresult* keys) const {
+    for (int row = 0; row < PQntuples(keys); ++row)
+        RowWatch::tell(this, rows.table, rows.change, QByteArrayView(PQgetvalue(keys, row, 0)).toLongLong());
+}
+
 // A write that stands alone is a unit of its own.
 qint64 ServerEngine::run(const Sql& sql) {
-    ServerStatement& statement = known(sql.text);
+    ServerStatement& statement = heard(sql.text);
     const bool alone = statement.writes && !inUnit_;
     requireValues(statement.values, sql.values);
     if (alone) begin(Turn::Any);
     try {
         if (statement.writes) tellStatement(sql.text);
         const ServerResult result = answer(statement, sql.values);
+        if (PQnfields(result.get()) > 0) tell(statement.rows, result.get());
         if (alone) commit();
         return QByteArrayView(PQcmdTuples(result.get())).toLongLong();
     } catch (...) {
@@ -280,6 +371,7 @@ qint64 ServerEngine::insert(const Sql& sql, const QString& key) {
     try {
         tellStatement(sql.text);
         const qint64 row = execute(returning).rows.at(0).at(0).toLongLong();
+        RowWatch::tell(this, known(sql.text).rows.table, RowWatch::Added, row);
         if (alone) commit();
         return row;
     } catch (...) {
@@ -293,12 +385,14 @@ std::unique_ptr<BulkRows> ServerEngine::read(const Sql& sql) {
     requireValues(statement.values, sql.values);
     if (!inUnit_) return std::make_unique<ServerRows>(*this, answer(statement, sql.values), QByteArray());
     const QByteArray cursor = "c" + QByteArray::number(++cursors_);
-    std::vector<ServerResult> answers =
-        guarded({{ServerCommand::Plain,
-                  "DECLARE " + cursor + " NO SCROLL CURSOR FOR " + statement.text,
-                  {},
-                  sql.values},
-                 {ServerCommand::Plain, ServerRows::fetch(cursor), {}}});
+    const auto open = [&](const QVariantList& given) {
+        return guarded({{ServerCommand::Plain,
+                         "DECLARE " + cursor + " NO SCROLL CURSOR FOR " + statement.text,
+                         {},
+                         given},
+                        {ServerCommand::Plain, ServerRows::fetch(cursor), {}}});
+    };
+    std::vector<ServerResult> answers = asked(statement, sql.values, open);
     return std::make_unique<ServerRows>(*this, std::move(answers.back()), cursor);
 }
 

@@ -1,14 +1,23 @@
 #pragma once
 #include "platform/store/engine.h"
+#include "platform/store/row_watch.h"
 #include "platform/store/server_link.h"
+
+// The table that a statement writes, and what becomes of its rows; no name: it writes none.
+struct WrittenRows {
+    QString table;
+    RowWatch::Change change = RowWatch::Changed;
+};
 
 // A statement that the server has parsed once, and the columns it gives.
 struct ServerStatement {
     QByteArray text;
     QByteArray name;  // empty: not parsed yet
     qsizetype values = 0;
+    qsizetype compared = 0;  // from this one on the values are only compared with columns
     bool writes = false;
     bool changesTables = false;
+    WrittenRows rows;
     std::shared_ptr<const RecordsetColumns> columns;
     int columnCount = 0;
     std::vector<unsigned> types;  // of the columns
@@ -36,6 +45,7 @@ class ServerEngine : public Engine {
     void setVersion(qint64 version) override;
     void prepare() override;
     void rowsAreCopied() override;
+    void tellRows() override {}
 
     // From here on nothing can be written.
     void refuseWrites();
@@ -52,6 +62,11 @@ class ServerEngine : public Engine {
     };
     ServerStatement& known(const QString& text);
     ServerResult answer(ServerStatement& statement, const QVariantList& values);
+    ServerStatement& heard(const QString& text);
+    void tell(const WrittenRows& rows, const pg_result* keys) const;
+    QVariantList comparable(const ServerStatement& statement, QVariantList values);
+    template <class Ask>
+    auto asked(const ServerStatement& statement, const QVariantList& values, const Ask& ask);
     ServerResult answerOnce(ServerStatement& statement, const QVariantList& values);
     ServerResult inUnit(ServerStatement& statement, const QVariantList& values);
     ServerResult changeTables(const ServerStatement& statement);

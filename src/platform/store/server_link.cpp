@@ -124,6 +124,8 @@ bool sent(PGconn* connection, const ServerCommand& command) {
     switch (command.kind) {
         case ServerCommand::Parse:
             return PQsendPrepare(connection, command.name.constData(), command.text.constData(), 0, nullptr);
+        case ServerCommand::Describe:
+            return PQsendDescribePrepared(connection, command.text.constData()) != 0;
         case ServerCommand::Prepared:
             return PQsendQueryPrepared(connection, command.text.constData(), given.count(),
                                        given.values.constData(), given.lengths.constData(),
@@ -237,7 +239,10 @@ std::vector<ServerResult> ServerLink::send(const std::vector<ServerCommand>& com
     for (size_t at = 0; underWay && at < commands.size(); ++at) {
         ServerResult answer(PQgetResult(connection));
         if (brokenOff(answer.get())) break;
-        if (!failure && isFailure(answer.get())) failure = serverError(answer.get());
+        if (!failure && isFailure(answer.get())) {
+            failure = serverError(answer.get());
+            failedState_ = PQresultErrorField(answer.get(), PG_DIAG_SQLSTATE);
+        }
         while (const ServerResult rest{PQgetResult(connection)}) continue;
         answers.push_back(std::move(answer));
     }

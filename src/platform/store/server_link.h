@@ -19,8 +19,8 @@ using ServerResult = std::unique_ptr<pg_result, ResultEnd>;
 // What is sent to the server in one go, to be answered in one: a round trip over the network costs more than
 // most statements.
 struct ServerCommand {
-    enum Kind { Plain, Parse, Prepared } kind;
-    QByteArray text;  // of the statement; of the name for a prepared one
+    enum Kind { Plain, Parse, Describe, Prepared } kind;
+    QByteArray text;  // of the statement; the name of one that was parsed
     QByteArray name;  // under which to parse it
     QVariantList values = {};
 };
@@ -40,6 +40,8 @@ class ServerLink {
     ServerResult simple(const QByteArray& statements);
 
     bool isLost() const;
+    // Whether the last statement that failed did so for a value that it was given, or came to.
+    bool refusedValue() const { return failedState_.startsWith("22"); }
     // Connects anew; throws when the server is away.
     void reconnect();
     bool isInUnit() const;  // and the unit is sound
@@ -54,6 +56,7 @@ class ServerLink {
 
     QString name_;
     QSqlDatabase database_;
+    QByteArray failedState_;
     bool lost_ = false;
 };
 
