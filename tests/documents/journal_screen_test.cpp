@@ -1,6 +1,7 @@
 #include "books/posting_queue.h"
 #include "documents/journal.h"
 #include "foundation/shared_routines.h"
+#include "foundation/store_place.h"
 #include "platform/store/transaction.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/screen_registry.h"
@@ -8,7 +9,6 @@
 #include "purchases/frmPurchaseGrid.h"
 #include "sales/frmSalesGrid.h"
 #include "support/box_script.h"
-#include "support/test_server.h"
 #include "support/test_store.h"
 
 #include <QAbstractButton>
@@ -204,7 +204,6 @@ TEST_F(JournalScreen, KeysOfTheSearchText) {
 }
 
 TEST_F(JournalScreen, ShowsAtOnceAndInItsRowWhatItsOwnProgramDoes) {
-    SKIP_ON_SERVER();
     const auto cell = [this](int row, const char* column) {
         QTest::qWait(60);  // a unit that has ended is looked at again after fifty milliseconds
         const int place =
@@ -222,7 +221,7 @@ TEST_F(JournalScreen, ShowsAtOnceAndInItsRowWhatItsOwnProgramDoes) {
     }
     EXPECT_EQ(cell(1, "RecordLock"), "No");
     Connection other;
-    other.open(storePath(), storePassword);
+    other.open(storePlace(), passwordFor(storePlace()));
     setRecordLock(other, salesBook, "1", true);
     EXPECT_EQ(cell(1, "RecordLock"), "No");
     journal->RefreshRecord();

@@ -1,5 +1,6 @@
 #include "masters/unit_master.h"
 #include "masters_fixture.h"
+#include "support/test_server.h"
 
 namespace {
 class UnitMaster : public MastersTest {
@@ -48,7 +49,7 @@ TEST_F(UnitMaster, ARenamedUnitLeavesTheItemsAlone) {
 
 TEST_F(UnitMaster, AUnitThatHasGoneIsToldAndOtherRefusalsArePassedOver) {
     EXPECT_EQ(faultOf(SaveUnit(store(), "NEW", false, "GONE")).focus, "txtUnit");
-    store().run("CREATE TRIGGER Refusal BEFORE UPDATE ON tblUnitMaster BEGIN SELECT RAISE(ABORT, 'no'); END");
+    refuseWrites(store(), "UPDATE ON tblUnitMaster");
     EXPECT_TRUE(isDone(SaveUnit(store(), "NEW", false, "PC")));
     EXPECT_EQ(UnitCodes(store()), (QStringList{"BOX", "PC", "PCS"}));
 }

@@ -98,19 +98,21 @@ TEST_F(PaymentPapers, DueChecksAreThoseOfTodayAndBefore) {
 
 // The paper of one payment, the flags of its records, and those of what it must leave alone.
 TEST_F(PaymentPapers, AreTaggedWithTheirChecksFirst) {
-    SKIP_ON_SERVER();
-    store().run(
-        "CREATE TRIGGER first BEFORE UPDATE OF Printed ON tblDisbursementMaster WHEN EXISTS (SELECT 1 FROM "
-        "tblChecks WHERE VoucherID = NEW.VoucherNo AND Printed <> NEW.Printed) BEGIN SELECT "
-        "RAISE(ABORT, 'the checks come first'); END");
+    refuseWrites(
+        store(), "UPDATE OF Printed ON tblDisbursementMaster",
+        "EXISTS (SELECT 1 FROM tblChecks WHERE VoucherID = NEW.VoucherNo AND Printed <> NEW.Printed)");
     const auto flags = [this] {
-        return valueOf(store(),
-                       "SELECT GROUP_CONCAT(VoucherNo || Printed || RecordLock, ' ') AS V FROM "
-                       "(SELECT * FROM tblDisbursementMaster ORDER BY VoucherNo)") +
-               valueOf(store(),
-                       "SELECT ' ' || SUM(Printed * (VoucherID = 'V1')) || SUM(Printed) AS V FROM "
-                       "tblChecks") +
-               valueOf(store(), "SELECT ' ' || Printed || RecordLock AS V FROM tblReceiptMaster");
+        QString all;
+        for (auto row = store().execute("SELECT VoucherNo AS V, Printed AS P, RecordLock AS L FROM "
+                                        "tblDisbursementMaster ORDER BY VoucherNo");
+             !row.eof(); row.moveNext())
+            all += row.text("V") + row.text("P") + row.text("L") + u' ';
+        for (const char* figure :
+             {"SELECT SUM(Printed) FROM tblChecks WHERE VoucherID = 'V1'",
+              "SELECT SUM(Printed) FROM tblChecks", "SELECT ' ' FROM tblReceiptMaster",
+              "SELECT Printed FROM tblReceiptMaster", "SELECT RecordLock FROM tblReceiptMaster"})
+            all += valueOf(store(), figure);
+        return all;
     };
     const QString file = folder_.filePath("paper.txt");
     const auto print = [&](std::optional<ReportJobParts> report, const DocumentTagging& tagging,

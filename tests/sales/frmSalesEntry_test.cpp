@@ -4,7 +4,6 @@
 #include "platform/ui/screen_registry.h"
 #include "support/box_script.h"
 #include "support/screen_driver.h"
-#include "support/test_server.h"
 
 #include <QCheckBox>
 
@@ -239,7 +238,6 @@ TEST_F(SalesEntry, SortsByAClickOnAHeading) {
 }
 
 TEST_F(SalesEntry, TakesTenThousandLines) {
-    SKIP_ON_SERVER();
     open();
     person::type("Nena");
     QList<QStringList> rows(10000, line("I2", "1", "1", "6").texts());

@@ -8,6 +8,7 @@
 #include "sales/sales_document.h"
 #include "shell/frmForUpload.h"
 #include "support/box_script.h"
+#include "support/test_server.h"
 #include "support/test_store.h"
 
 #include <QDir>
@@ -139,7 +140,8 @@ TEST_F(EndOfDayScreen, ADocumentSavedAfterTheListsWaitsAndARefreshClosesWhenNoth
     save(purchaseOrders, "P9", "03/09/2026", "I2", 3, 7);
     boxes.expect(success);
     press(screen, "imgUpload");
-    EXPECT_EQ(QDir(folder_.filePath(backupFolder)).entryList(QDir::Files).size(), 1);
+    EXPECT_EQ(QDir(folder_.filePath(backupFolder)).entryList(QDir::Files).size(), onTestServer() ? 0 : 1)
+        << "a server is copied by its own helper";
     EXPECT_EQ(count("tblForPosting"), 1);
     EXPECT_EQ(count("tblForPostingItem"), 1);
     screen = open();

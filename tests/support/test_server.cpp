@@ -1,6 +1,8 @@
 #include "support/test_server.h"
 
 #include "foundation/schema.h"
+#include "platform/store/connection.h"
+#include "platform/store/place.h"
 #include "platform/store/server_link.h"
 
 #include <QCoreApplication>
@@ -75,6 +77,19 @@ QString newCopyOf(const QString& uri) {
 }
 
 QString newEmptyDatabase() { return newDatabase("template0"); }
+
+void refuseWrites(Connection& store, const QString& writes, const QString& condition) {
+    if (!isOnServer(store)) {
+        store.run(
+            QString("CREATE TRIGGER refusal BEFORE %1 WHEN %2 BEGIN SELECT RAISE(ABORT, 'refused'); END")
+                .arg(writes, condition));
+        return;
+    }
+    store.run(QString("CREATE FUNCTION refuse() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN IF %1 THEN "
+                      "RAISE 'refused' USING ERRCODE = 'check_violation'; END IF; RETURN NEW; END $$")
+                  .arg(condition));
+    store.run("CREATE TRIGGER refusal BEFORE " + writes + " FOR EACH ROW EXECUTE FUNCTION refuse()");
+}
 
 void watchTestDatabases() {
     if (onTestServer()) testing::UnitTest::GetInstance()->listeners().Append(new Watch);

@@ -1,6 +1,8 @@
 #pragma once
 #include <QString>
 
+class Connection;
+
 // The tests run on files, or on the PostgreSQL server whose URI is in ZEVRIN_TEST_SERVER: each test store is
 // a database of its own there, made after the delivered one.
 bool onTestServer();
@@ -16,6 +18,10 @@ QString newEmptyDatabase();
 QString newStoreIn(const QString& folder);
 // Sees to that. Called once by a test program.
 void watchTestDatabases();
+
+// From now on the store refuses these writes, "UPDATE OF Printed ON tblChecks", where the condition on NEW
+// holds.
+void refuseWrites(Connection& store, const QString& writes, const QString& condition = "1 = 1");
 
 // What only a file has.
 #define SKIP_ON_SERVER() \
