@@ -6,7 +6,7 @@
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
-#include "platform/ui/field_width.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/form.h"
 #include "platform/ui/settled.h"
 #include "platform/ui/text_box.h"
@@ -28,10 +28,8 @@ CheckDialog::CheckDialog(const CheckBook& book, const QString& name, qint64 key)
     txtCheckNo = new TextBox("txtCheckNo");
     txtCheckNo->setKeyFilter(keys::freeText());
     txtCheckNo->setCapacity(width::documentNo);
-    txtCheckDate = new TextBox("txtCheckDate");
-    txtCheckDate->setKeyFilter(keys::date());
-    txtCheckDate->setCapacity(width::date);
-    field_width::fix(txtCheckDate, field_width::date);
+    txtCheckDate = new DateBox("txtCheckDate");
+    txtCheckDate->setRefusal(invalidStatusDate());
     cboCheckStatus = new ComboBox("cboCheckStatus", ComboBox::Open);
     cboCheckStatus->setKeyFilter(keys::freeText());
     cboCheckStatus->addItems(offeredStatuses());
@@ -62,9 +60,6 @@ void CheckDialog::layOut() {
 void CheckDialog::connectControls() {
     connect(txtCheckNo, &TextBox::focusLost, this,
             [this] { txtCheckNo->setText(txtCheckNo->text().toUpper()); });
-    connect(txtCheckDate, &TextBox::focusLost, this, [this] {
-        if (const auto date = parseDate(txtCheckDate->text())) txtCheckDate->setText(formatDate(*date));
-    });
     connect(cboCheckStatus, &ComboBox::picked, this, [this] {
         change([this](CheckStatusEntry& typed) { chooseStatus(typed, cboCheckStatus->text()); });
     });

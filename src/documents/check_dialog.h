@@ -4,6 +4,7 @@
 
 class ComboBox;
 class QCheckBox;
+class DateBox;
 class TextBox;
 
 // "Update Check Status": what one check stands at. It goes with the loss of the front.
@@ -36,7 +37,7 @@ class CheckDialog : public ChildScreen {
 
     TextBox* txtPaymentNo;
     TextBox* txtCheckNo;
-    TextBox* txtCheckDate;
+    DateBox* txtCheckDate;
     ComboBox* cboCheckStatus;
     QCheckBox* chkCash;
     QCheckBox* chkNegotiated;

@@ -7,7 +7,7 @@
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
-#include "platform/ui/field_width.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/form.h"
 #include "platform/ui/frmStatus.h"
 #include "platform/ui/list_look.h"
@@ -22,13 +22,10 @@ QList<ListColumn> listColumns(const CheckBook& book) {
     return columns;
 }
 
-TextBox* dateBox(const char* name, const QString& accessibleName, const QString& text) {
-    auto* box = new TextBox(name);
-    box->setKeyFilter(keys::date());
-    box->setCapacity(width::date);
+DateBox* dateBox(const char* name, const QString& accessibleName, const QString& text) {
+    auto* box = new DateBox(name);
     box->setText(text);
     box->setAccessibleName(accessibleName);
-    field_width::fix(box, field_width::date);
     return box;
 }
 
@@ -73,6 +70,8 @@ void CheckList::makeControls() {
     txtSearch->setAccessibleName("Search text");
     txtFrom = dateBox("txtFrom", "From", "01/01/" + year);
     txtTo = dateBox("txtTo", "To", "12/31/" + year);
+    for (DateBox* date : {txtFrom, txtTo})
+        date->setRefusal([this] { return checkPeriodFault(typedSearch()); });
     lblTo = form::label("to");
     cmdSearch = form::button("cmdSearch", "&Search", "search");
     lvwRecord = new ListView("lvwRecord", listColumns(*words_.book));

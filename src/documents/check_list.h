@@ -10,6 +10,7 @@ class QBoxLayout;
 class QLabel;
 class QPushButton;
 class QToolButton;
+class DateBox;
 class TextBox;
 
 // The names and words that the screens of the checks received and of the checks issued differ in.
@@ -69,8 +70,8 @@ class CheckList : public ChildScreen {
     ComboBox* cboSearchBy;
     ComboBox* cboCheckStatus;
     TextBox* txtSearch;
-    TextBox* txtFrom;
-    TextBox* txtTo;
+    DateBox* txtFrom;
+    DateBox* txtTo;
     QLabel* lblTo;
     QPushButton* cmdSearch;
     ListView* lvwRecord;

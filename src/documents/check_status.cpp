@@ -53,10 +53,8 @@ Sql andCondition(const QString& column, const char* comparison, const QVariantLi
 }
 
 std::variant<Sql, Fault> periodClause(const QString& column, const CheckSearch& search) {
-    const auto from = parseDate(search.from);
-    const auto to = parseDate(search.to);
-    if (!from || !to) return errorFault("Invalid Check Date Range!", from ? "txtTo" : "txtFrom");
-    return andCondition(column, "BETWEEN ? AND ?", {*from, *to});
+    if (const auto fault = checkPeriodFault(search)) return *fault;
+    return andCondition(column, "BETWEEN ? AND ?", {*parseDate(search.from), *parseDate(search.to)});
 }
 
 std::variant<Sql, Fault> dateClause(const QString& column, const CheckSearch& search) {
@@ -140,10 +138,10 @@ std::optional<Fault> statusFault(const CheckStatusEntry& entry) {
          "chkNegotiated"},
         {cash && !entry.cash,
          "You have to check Cash Payment option since you have selected Cash Payment in Check Status!",
-         "chkCash"},
-        {!entry.cash && !isDate(entry.date), "Invalid Check Date!", "txtCheckDate"}};
+         "chkCash"}};
     for (const auto& test : tests)
         if (test.fails) return errorFault(test.text, test.focus);
+    if (!entry.cash && !isDate(entry.date)) return invalidStatusDate();
     return std::nullopt;
 }
 
@@ -155,6 +153,14 @@ void writeCheck(Recordset& row, const CheckStatusEntry& entry) {
     row.update();
 }
 }  // namespace
+
+Fault invalidStatusDate() { return errorFault("Invalid Check Date!", "txtCheckDate"); }
+
+std::optional<Fault> checkPeriodFault(const CheckSearch& search) {
+    const bool isFrom = isDate(search.from);
+    if (isFrom && isDate(search.to)) return std::nullopt;
+    return errorFault("Invalid Check Date Range!", isFrom ? "txtTo" : "txtFrom");
+}
 
 QList<CheckView> commonCheckViews() {
     return {{.name = "Pending Checks",

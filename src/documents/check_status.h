@@ -92,6 +92,8 @@ struct CheckSearch {
     QString to;
 };
 const CheckCategory* findCheckCategory(const CheckBook& book, const QString& name);
+// Of a search for a period.
+std::optional<Fault> checkPeriodFault(const CheckSearch& search);
 std::variant<Sql, Fault> checkSearchClause(const CheckBook& book, const CheckSearch& search);
 
 // Tags the marked checks as cleared, as one unit, after its question (key "tag"). A check that has changed in
@@ -111,6 +113,8 @@ struct CheckStatusEntry {
 // The statuses that the dialog offers.
 QStringList offeredStatuses();
 CheckStatusEntry statusEntryOf(const StoredCheck& check);
+// The refusal of a check without a date.
+Fault invalidStatusDate();
 // The controls move each other.
 void chooseStatus(CheckStatusEntry& entry, const QString& status);
 void tickCash(CheckStatusEntry& entry, bool ticked);

@@ -22,7 +22,9 @@ void DocumentControls::makeHead() {
     txtCode = freeTextBox("txtCode", width::documentNo);
     if (std::holds_alternative<numbering::RowKey>(words_.number)) txtCode->setKeyFilter(keys::wholeNumber());
     number = NumberEntry::make(words_.number, words_.incrementText);
-    txtRefDate = freeTextBox(words_.dateName, width::date);
+    txtRefDate = new DateBox(words_.dateName);
+    txtRefDate->setKeyFilter(keys::freeText());
+    txtRefDate->setRefusal(errorFault(words_.invalidDate, words_.dateName));
     cboCustomer = new ComboBox("cboCustomer", ComboBox::Open);
     cboCustomer->setKeyFilter(keys::freeText());
     cboCustomer->setCapacity(width::contactName);
@@ -47,7 +49,6 @@ void DocumentControls::makeList() {
 
 QGridLayout* DocumentControls::head() const {
     field_width::fix(txtCode, field_width::number);
-    field_width::fix(txtRefDate, field_width::date);
     for (TextBox* figure : {txtTerm, txtCustomerBalance}) field_width::fix(figure, field_width::figure);
     auto* grid = new QGridLayout;
     grid->setColumnStretch(2, 1);

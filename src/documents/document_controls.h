@@ -1,6 +1,7 @@
 #pragma once
 #include "documents/document_screen.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/date_box.h"
 
 #include <QPushButton>
 
@@ -28,7 +29,7 @@ class DocumentControls {
 
     TextBox* txtCode;
     NumberEntry* number;
-    TextBox* txtRefDate;
+    DateBox* txtRefDate;
     ComboBox* cboCustomer;
     QToolButton* cmdSearch;
     TextBox* txtRemarks;

@@ -26,8 +26,7 @@ DocumentEntry::DocumentEntry(const DocumentScreen& words)
 void DocumentEntry::connectHead() {
     connect(ui.number, &NumberEntry::composed, ui.txtCode, &QLineEdit::setText);
     connect(ui.number, &NumberEntry::left, this, [this] { ui.txtRefDate->setFocus(); });
-    connect(ui.txtRefDate, &TextBox::entered, this, [this] { ui.cboCustomer->setFocus(); });
-    connect(ui.txtRefDate, &TextBox::focusLost, this, &DocumentEntry::leaveDate);
+    connect(ui.txtRefDate, &TextBox::entered, this, [this] { ui.cboCustomer->setFocus(Qt::TabFocusReason); });
     connect(ui.cboCustomer, &ComboBox::entered, this, [this] {
         mblnUpdated = true;
         findContact();
@@ -37,14 +36,6 @@ void DocumentEntry::connectHead() {
     connect(ui.cmdSearch, &QToolButton::clicked, this, &DocumentEntry::findContact);
     // The list of the contact box is the search itself; it opens when the box is done with its key or click.
     ui.cboCustomer->setFiller([this] { QTimer::singleShot(0, this, &DocumentEntry::findContact); });
-}
-
-// What would be refused by the save in the end is told at once: a line is tested as of this date.
-void DocumentEntry::leaveDate() {
-    if (const auto date = parseDate(ui.txtRefDate->text()))
-        ui.txtRefDate->setText(formatDate(*date));
-    else
-        showFault(errorFault(words_.invalidDate, words_.dateName), this);
 }
 
 // Whatever a person types is asked about before it is left, in a combo's box too.
@@ -190,7 +181,9 @@ bool DocumentEntry::lineReady(const DocumentScreen::ContactMissing& missing) {
     if (trim(name).isEmpty()) return refuse(exclamation("Error!", missing.notChosen));
     bool found = false;
     if (!guarded([&] { found = contactExists(StoreConnection(), name); })) return false;
-    return found || refuse({"Does not exist!", missing.unknown, words_.unknownIcon});
+    if (!found) return refuse({"Does not exist!", missing.unknown, words_.unknownIcon});
+    // A line is tested as of the document's date.
+    return ui.txtRefDate->settle();
 }
 
 // Lines

@@ -57,7 +57,6 @@ class DocumentEntry : public RecordScreen {
 
   private:
     void connectHead();
-    void leaveDate();
     void connectDirtying();
     void connectList();
 

@@ -59,7 +59,7 @@ Check entryFault(Connection& store, const ItemEntry& entry) {
     if (!RecordFound(store, "tblContactMaster", "ContactName", trim(entry.SupplierName)))
         return errorFault("Supplier Does Not Exist!", "txtSupplierCode");
     if (const Check found = pricesFault(entry)) return found;
-    if (!isDate(entry.DateAquired)) return errorFault("Invalid Aquisition Date!", "txtDateAquired");
+    if (!isDate(entry.DateAquired)) return errorFault(invalidAquisitionDate, "txtDateAquired");
     if (!RecordFound(store, "tblUnitMaster", "UnitCode", trim(entry.Unit)))
         return errorFault("Unit Code Does Not Exist!", "txtUnit");
     return {};

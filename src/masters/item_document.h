@@ -22,6 +22,9 @@ struct ItemEntry {
     MasterEdit edit = {};  // of an old item
 };
 
+// Of a text that is no date.
+inline constexpr const char* invalidAquisitionDate = "Invalid Aquisition Date!";
+
 // Checks, in the system's order, and writes: a new item, or what of the one of the entry's code was changed.
 // All or nothing. The balance is recomputed from the books, whatever was typed; the code of a new item is the
 // base of the next. An edit with an empty currentCode passes the checks and writes nothing. One of an item

@@ -6,6 +6,7 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
@@ -88,6 +89,12 @@ QString dateShape(const QString& text) {
     return date ? formatDate(*date) : text;
 }
 
+TextBox* dateBox(const MasterField& field) {
+    auto* made = new DateBox(field.control);
+    if (field.invalidDate) made->setRefusal(errorFault(field.invalidDate, field.control));
+    return made;
+}
+
 // The text after the field was left; what does not convert stays as it was typed.
 QString shapeOf(MasterField::Kind kind, const QString& text) {
     switch (kind) {
@@ -132,7 +139,7 @@ QWidget* MasterFields::makeControl(const MasterField& field) {
 }
 
 TextBox* MasterFields::makeBox(const MasterField& field) {
-    auto* made = new TextBox(field.control);
+    TextBox* made = field.kind == MasterField::Date ? dateBox(field) : new TextBox(field.control);
     made->setKeyFilter(keysOf(field.kind));
     made->setCapacity(field.capacity);
     if (isFigure(field.kind)) made->setAlignment(Qt::AlignRight);

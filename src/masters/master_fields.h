@@ -50,6 +50,7 @@ struct MasterField {
     int pair = 0;
     int pairs = 1;
     MasterLookup lookup = {};
+    const char* invalidDate = nullptr;  // of a Date that must be one, as the save says it
 };
 
 // The record half of a master screen, built from a table of fields.

@@ -5,6 +5,7 @@
 #include "masters/frmContactFound.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
@@ -29,10 +30,10 @@ static TextBox* box(const char* name, const KeyFilter& filter, int capacity) {
 
 void frmAddCheck::makeFields() {
     txtCheckNo = box("txtCheckNo", keys::freeText(), width::documentNo);
-    txtDate = box("txtDate", keys::date(), width::date);
+    txtDate = new DateBox("txtDate");
+    txtDate->setRefusal(invalidCheckDate());
     txtCheckAmount = box("txtCheckAmount", keys::amount(), width::number);
     txtCheckAmount->setAlignment(Qt::AlignRight);
-    field_width::fix(txtDate, field_width::date);
     field_width::fix(txtCheckAmount, field_width::figure);
     chkCross = new QCheckBox("&Payee's Account Only");
     chkCross->setObjectName("chkCross");

@@ -4,6 +4,7 @@
 
 class QCheckBox;
 class QToolButton;
+class DateBox;
 class TextBox;
 
 // "Issue Cheque": one check of a voucher. A new one begins with the voucher's payee and amount, so that the
@@ -33,7 +34,7 @@ class frmAddCheck : public LinePopupOf<CheckLine> {
     QString amount_;
 
     TextBox* txtCheckNo;
-    TextBox* txtDate;
+    DateBox* txtDate;
     TextBox* txtCheckAmount;
     QCheckBox* chkCross;
     TextBox* txtPayee;

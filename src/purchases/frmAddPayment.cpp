@@ -7,6 +7,7 @@
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
@@ -28,10 +29,8 @@ void frmAddPayment::makeFields() {
     cboCode->setKeyFilter(keys::freeText());
     cboCode->setCapacity(width::documentNo);
     cmdSearch = form::imageButton("cmdSearch", "search", "Search Unpaid Purchase Orders");
-    txtDate = new TextBox("txtDate");
-    txtDate->setKeyFilter(keys::date());
-    txtDate->setCapacity(width::date);
-    field_width::fix(txtDate, field_width::date);
+    txtDate = new DateBox("txtDate");
+    txtDate->setRefusal(invalidPaymentDate());
     txtAmount = new TextBox("txtAmount");
     txtAmount->setAlignment(Qt::AlignRight);
     txtAmount->setKeyFilter(keys::amount());

@@ -6,6 +6,7 @@ class ComboBox;
 class QCheckBox;
 class QLabel;
 class QToolButton;
+class DateBox;
 class TextBox;
 
 // "Add Payment": one payment of a voucher, of a purchase order or of an expense, and stays open for the next.
@@ -45,7 +46,7 @@ class frmAddPayment : public LinePopupOf<PaymentLine> {
     QLabel* lblDate;
     ComboBox* cboCode;
     QToolButton* cmdSearch;
-    TextBox* txtDate;
+    DateBox* txtDate;
     TextBox* txtAmount;
     TextBox* txtParticulars;
     QCheckBox* chkDirect;

@@ -39,13 +39,15 @@ CheckLine lineOf(const CheckEntry& entry) {
             trim(entry.payee)};
 }
 
+Fault invalidCheckDate() { return errorFault("Invalid Check Date Entered!", "txtDate"); }
+
 Outcome checkIssued(Connection& store, const CheckEntry& entry, const IsUsed& isUsed) {
     const QString number = trim(entry.number);
     if (number.isEmpty()) return errorFault("Please Enter Check No.!", "txtCheckNo");
     if (number.toUpper() == "CASH")
         return errorFault("You Cannot Enter the word 'Cash' as Your Check No.!", "txtCheckNo");
     if (!isNumeric(entry.amount)) return errorFault("Invalid Check Amount Entered!", "txtCheckAmount");
-    if (!isDate(entry.date)) return errorFault("Invalid Check Date Entered!", "txtDate");
+    if (!isDate(entry.date)) return invalidCheckDate();
     if (!RecordFound(store, "tblContactMaster", "ContactName", trim(entry.payee)))
         return errorFault("Payee Not Found! Please Enter Payee to Contact Master File!", "txtPayee");
     if (isUsed(number)) return errorFault("Check No. Already Been Used Below!", "txtCheckNo");

@@ -45,6 +45,7 @@ struct CheckEntry {
 CheckEntry newCheck();
 CheckEntry entryOf(const CheckLine& check);
 CheckLine lineOf(const CheckEntry& entry);
+Fault invalidCheckDate();
 
 // The checks of a check, in their order. Done: it may become a line of the voucher. A number is used once in
 // a voucher; "Cash" is no number, for it tells a payment in cash.

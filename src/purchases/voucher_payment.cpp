@@ -17,7 +17,7 @@ Recordset orderRow(Connection& store, const QString& code) {
 std::optional<Fault> typedFault(const VoucherPaymentEntry& entry) {
     if (trim(entry.code).isEmpty()) return errorFault("Please Enter Reference for This Payment!", "cboCode");
     if (!isNumeric(entry.amount)) return errorFault("Invalid Amount Entered!", "txtAmount");
-    if (!isDate(entry.date)) return errorFault("Invalid Date Entered!", "txtDate");
+    if (!isDate(entry.date)) return invalidPaymentDate();
     return std::nullopt;
 }
 
@@ -39,6 +39,8 @@ std::optional<Fault> directFault(const Recordset& order) {
         "cboCode");
 }
 }  // namespace
+
+Fault invalidPaymentDate() { return errorFault("Invalid Date Entered!", "txtDate"); }
 
 PaymentLine PaymentLine::fromTexts(const QStringList& texts) {
     return {texts.value(Reference), texts.value(Date), texts.value(Amount), texts.value(Particulars),

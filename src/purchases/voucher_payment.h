@@ -46,6 +46,7 @@ struct VoucherPaymentEntry {
 };
 VoucherPaymentEntry entryOf(const PaymentLine& payment);
 PaymentLine lineOf(const VoucherPaymentEntry& entry);
+Fault invalidPaymentDate();
 
 // Looks the purchase order up and fills the entry with it: the amount is all that is still owed. False, with
 // nothing filled, when there is no such order; an empty code empties the date and the amount.

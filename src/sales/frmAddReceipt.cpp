@@ -6,6 +6,7 @@
 #include "masters/field_widths.h"
 #include "masters/order_pickers.h"
 #include "platform/ui/boxes.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/text_box.h"
@@ -52,8 +53,8 @@ void frmAddReceipt::makeFields() {
     chkCash = new QCheckBox("Cash &Payment");
     chkCash->setObjectName("chkCash");
     txtCheckNo = fieldBox("txtCheckNo", keys::freeText(), width::documentNo);
-    txtCheckDate = fieldBox("txtCheckDate", keys::date(), width::date);
-    field_width::fix(txtCheckDate, field_width::date);
+    txtCheckDate = new DateBox("txtCheckDate");
+    txtCheckDate->setRefusal([this] { return checkDateFault(entry()); });
     for (TextBox* figure :
          {txtDiscount, txtPayment, txtJournalAmount, txtBalance, txtTotalDiscount, txtRequired})
         field_width::fix(figure, field_width::figure);
@@ -97,7 +98,6 @@ void frmAddReceipt::connectFigures() {
     connect(txtDiscount, &TextBox::focusLost, this, [this] { apply(leaveDiscount); });
     connect(txtPayment, &TextBox::focusLost, this, [this] { apply(leavePayment); });
     connect(txtCheckNo, &TextBox::focusLost, this, [this] { apply(leaveCheckNo); });
-    connect(txtCheckDate, &TextBox::focusLost, this, [this] { apply(leaveCheckDate); });
     connect(chkCash, &QCheckBox::clicked, this,
             [this](bool cash) { apply([cash](PaymentEntry& typed) { setCash(typed, cash); }); });
 }
@@ -127,7 +127,7 @@ void frmAddReceipt::showEntry(const PaymentEntry& entry) {
     setChanged(txtCheckNo, entry.checkNo);
     setChanged(txtCheckDate, entry.checkDate);
     chkCash->setChecked(entry.cash);
-    for (TextBox* box : {txtCheckNo, txtCheckDate}) box->setEnabled(!entry.cash);
+    for (TextBox* box : {txtCheckNo, static_cast<TextBox*>(txtCheckDate)}) box->setEnabled(!entry.cash);
 }
 
 // A figure beyond the range leaves the fields as they are: saving the line refuses it.

@@ -4,6 +4,7 @@
 
 class QCheckBox;
 class QToolButton;
+class DateBox;
 class TextBox;
 
 // "Add Entry": one order that a receipt pays, with its discount and its means of payment. The check stays for
@@ -53,5 +54,5 @@ class frmAddReceipt : public LinePopupOf<ReceiptLine> {
     TextBox* txtPayment;
     QCheckBox* chkCash;
     TextBox* txtCheckNo;
-    TextBox* txtCheckDate;
+    DateBox* txtCheckDate;
 };

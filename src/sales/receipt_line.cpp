@@ -70,9 +70,7 @@ std::optional<Fault> checkFault(const PaymentEntry& entry) {
             "You Cannot Enter 'CASH' as your Check No.! If this is a cash payment you may want to check Cash "
             "Payment Option or Leave Check No. Blank!",
             "txtCheckNo");
-    if (isDate(entry.checkDate)) return std::nullopt;
-    return errorFault("Invalid Check Date! You have entered a Check No. so you must also Enter a Check Date!",
-                      "txtCheckDate");
+    return checkDateFault(entry);
 }
 
 std::optional<Fault> unknownFault(Connection& store, const QString& orderNo) {
@@ -105,6 +103,12 @@ QStringList ReceiptLine::texts() const {
 ReceiptLine ReceiptLine::fromTexts(const QStringList& texts) {
     return {texts.value(Reference), texts.value(RefDate), texts.value(RefAmount), texts.value(Discount),
             texts.value(NetAmount), texts.value(CheckNo), texts.value(CheckDate), texts.value(Remarks)};
+}
+
+std::optional<Fault> checkDateFault(const PaymentEntry& entry) {
+    if (entry.checkNo.isEmpty() || isDate(entry.checkDate)) return std::nullopt;
+    return errorFault("Invalid Check Date! You have entered a Check No. so you must also Enter a Check Date!",
+                      "txtCheckDate");
 }
 
 Currency receiptTotal(const QList<ReceiptLine>& lines) {
@@ -192,10 +196,6 @@ void leavePayment(PaymentEntry& entry) {
 void leaveCheckNo(PaymentEntry& entry) {
     entry.checkNo = trim(entry.checkNo.toUpper());
     ValidatePaymentMode(entry);
-}
-
-void leaveCheckDate(PaymentEntry& entry) {
-    if (const auto date = parseDate(entry.checkDate)) entry.checkDate = formatDate(*date);
 }
 
 void setCash(PaymentEntry& entry, bool cash) {

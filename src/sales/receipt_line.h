@@ -64,7 +64,8 @@ void ComputeDiscounts(PaymentEntry& entry);
 void leaveDiscount(PaymentEntry& entry);  // throws OverflowError
 void leavePayment(PaymentEntry& entry);
 void leaveCheckNo(PaymentEntry& entry);
-void leaveCheckDate(PaymentEntry& entry);
+// The refusal of a check without a date.
+std::optional<Fault> checkDateFault(const PaymentEntry& entry);
 
 // Ticking cash, or clearing it, empties both check fields.
 void setCash(PaymentEntry& entry, bool cash);

@@ -2,12 +2,16 @@
 
 #include "documents/document_entry.h"
 #include "foundation/start.h"
+#include "platform/ui/combo_box.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/screen_registry.h"
 #include "support/contrast_check.h"
 #include "support/dark_desk.h"
 #include "support/growth.h"
 #include "support/screen_checks.h"
 #include "support/screen_tour.h"
+
+#include <QPushButton>
 
 namespace {
 
@@ -70,6 +74,57 @@ TEST_F(EveryScreen, IsReadableInDarkColours) {
         EXPECT_EQ(check::weakTexts(screen).join('\n').toStdString(), "") << qPrintable(name);
     });
     useLightDesk();
+}
+
+// The date that a person can type into, as the screen is ready for it.
+QList<DateBox*> openDates(QWidget* screen) {
+    if (screen->metaObject()->indexOfMethod("NewRecord()") >= 0)
+        QMetaObject::invokeMethod(screen, "NewRecord");
+    if (screen->findChild<QWidget*>("chkCash") && screen->findChild<QWidget*>("txtSANo"))
+        person::fill(screen, "txtCheckNo", "BPI 000452");
+    if (auto* category = screen->findChild<ComboBox*>("cboSearchBy")) category->setText("Check Date Period");
+    person::settle();
+    QList<DateBox*> open;
+    for (DateBox* date : screen->findChildren<DateBox*>())
+        if (date->isVisible() && date->isEnabled() && !date->isReadOnly()) open += date;
+    return open;
+}
+
+// Another field of the screen, or the button of this name.
+void leaveFor(QWidget* screen, const DateBox* date, const QString& button = {}) {
+    if (!button.isEmpty()) return person::goTo(screen, button);
+    for (QWidget* field : screen->findChildren<QWidget*>())
+        if (field != date && field->isVisible() && field->isEnabled() && !field->focusProxy() &&
+            (field->focusPolicy() & Qt::TabFocus) && !qobject_cast<QAbstractButton*>(field))
+            return person::goTo(screen, field->objectName());
+    ADD_FAILURE() << qPrintable(screen->objectName()) << " has no other field";
+}
+
+TEST_F(EveryScreen, TestsADateWhenItsFieldIsLeft) {
+    QStringList tested;
+    int boxes = 0;
+    tourScreens("ADMIN", "admin", [&](const QString& name, QWidget* screen) {
+        setBoxAnswerer([&](const Box& box) {
+            ++boxes;
+            return box.buttons == BoxButtons::YesNoCancel ? BoxAnswer::No : defaultAnswer(box);
+        });
+        for (DateBox* date : openDates(screen)) {
+            const std::string which = (name + ' ' + date->objectName()).toStdString();
+            const auto boxesOf = [&](const char* typed, const QString& button = {}) {
+                boxes = 0;
+                person::fill(screen, date->objectName(), typed);
+                leaveFor(screen, date, button);
+                return boxes;
+            };
+            EXPECT_EQ(boxesOf("11/31/2026"), 1) << which;
+            for (const char* button : {"cmdCancel", "cmdExit", "cmdOK"})
+                EXPECT_EQ(screen->findChild<QPushButton*>(button) ? boxesOf("23", button) : 0, 0) << which;
+            EXPECT_EQ(boxesOf("3/2/26"), 0) << which;
+            EXPECT_EQ(date->text(), "03/02/2026") << which;
+            tested += name + "." + date->objectName();
+        }
+    });
+    EXPECT_GE(tested.size(), 27) << qPrintable(tested.join(' '));
 }
 
 TEST_F(EveryScreen, OfADocumentAsksAboutWhateverWasTyped) {

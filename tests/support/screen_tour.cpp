@@ -94,14 +94,16 @@ void leave(const QString& popup) {
 void tourPayments(const VisitScreen& visit) {
     const struct {
         const char *entry, *button, *popup, *picker;
+        const char* name = popup;
     } popups[] = {{"frmReceiptEntry", "cmdAdd", "frmAddReceipt", "frmSalesFound"},
                   {"frmDisbursementEntry", "cmdAdd", "frmAddPayment", "frmDisbursementFound"},
+                  {"frmDisbursementEntry", "cmdInsert", "frmAddPayment", "", "frmAddPayment direct"},
                   {"frmDisbursementEntry", "cmdAddCheck", "frmAddCheck", ""}};
     for (const auto& each : popups) {
         QWidget* entry = openRegistered(each.entry);
         pickFirstContact(entry);
         person::pushButton(entry, each.button);
-        visit(each.popup, person::screen(each.popup));
+        visit(each.name, person::screen(each.popup));
         if (*each.picker) person::press(Qt::Key_Return);
         if (person::isOpen(each.picker)) {
             visit(each.picker, person::screen(each.picker));

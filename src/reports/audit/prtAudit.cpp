@@ -88,7 +88,7 @@ std::optional<Fault> auditFault(Connection&, const PrintRequest& request) {
     if (trim(request.selection).isEmpty())
         return Fault{refusal("Please Select a Transaction to Audit!"), "cboSelection"};
     if (!bookOf(request.selection)) return Fault{refusal("Invalid Audit Type Selected!"), "cboSelection"};
-    if (auto fault = periodFault(request, refusal("Invalid Date Value!"))) return fault;
+    if (auto fault = periodFault(request, invalidDateValue)) return fault;
     const Period period = *periodOf(request);
     if (period.from.daysTo(period.to) > 0) return {};
     return Fault{exclamation("Two Days Minimum!", "Please Make Audit Date to at least Two Days!"), "txtFrom"};

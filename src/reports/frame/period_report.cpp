@@ -15,9 +15,9 @@ std::optional<Period> periodOf(const PrintRequest& request) {
     return Period{*from, *to};
 }
 
-std::optional<Fault> periodFault(const PrintRequest& request, const Box& box) {
+std::optional<Fault> periodFault(const PrintRequest& request, const char* invalidDate) {
     if (request.allDays || periodOf(request)) return {};
-    return Fault{box, isDate(request.from) ? "txtTo" : "txtFrom"};
+    return errorFault(invalidDate, isDate(request.from) ? "txtTo" : "txtFrom");
 }
 
 Sql inPeriod(const QString& dateColumn, const std::optional<Period>& period) {

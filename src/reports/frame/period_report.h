@@ -29,7 +29,9 @@ std::optional<Period> periodOf(const PrintRequest& request);
 // "03/01/2026 To 03/31/2026"; empty for all days.
 QString rangeText(const std::optional<Period>& period);
 // The fault of a period that is in force and is no period of dates.
-std::optional<Fault> periodFault(const PrintRequest& request, const Box& box);
+std::optional<Fault> periodFault(const PrintRequest& request, const char* invalidDate);
+inline constexpr const char* invalidDateValue = "Invalid Date Value!";
+inline constexpr const char* invalidDateEntered = "Invalid Date Value Entered!";
 // "tblSalesMaster.RefDate BETWEEN ? AND ?"; empty for all days.
 Sql inPeriod(const QString& dateColumn, const std::optional<Period>& period);
 // " WHERE (tblSalesMaster.RefDate BETWEEN ? AND ?)"; empty for all days.

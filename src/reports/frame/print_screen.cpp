@@ -5,8 +5,8 @@
 #include "platform/clock.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/form.h"
-#include "platform/ui/text_box.h"
 #include "reports/frame/print_choice.h"
 
 #include <QCheckBox>
@@ -14,14 +14,6 @@
 #include <QVBoxLayout>
 
 namespace {
-TextBox* dateBox(const char* name) {
-    auto* box = new TextBox(name);
-    box->setKeyFilter(keys::date());
-    box->setCapacity(10);
-    box->setMinimumWidth(form::charactersWide(box, 14));
-    return box;
-}
-
 QRadioButton* option(const char* name, const char* caption) {
     auto* button = new QRadioButton(caption);
     button->setObjectName(name);
@@ -86,8 +78,10 @@ QGroupBox* PrintScreen::optionFrame() {
 
 QGroupBox* PrintScreen::periodFrame() {
     QGroupBox* frame = form::frame("fraDate", book_.periodFrame);
-    txtFrom = dateBox("txtFrom");
-    txtTo = dateBox("txtTo");
+    txtFrom = new DateBox("txtFrom");
+    txtTo = new DateBox("txtTo");
+    for (DateBox* date : {txtFrom, txtTo})
+        date->setRefusal([this] { return periodFault(request(), book_.invalidDate); });
     auto* grid = new QGridLayout(frame);
     form::row(grid, 0, 0, "&From :", txtFrom);
     form::row(grid, 0, 2, "&To :", txtTo);
@@ -105,7 +99,7 @@ void PrintScreen::showPeriod() {
     const bool isExcluded = chkExclude && chkExclude->isChecked();
     txtFrom->setText(isExcluded ? book_.excluded : inThisYear("01/01/"));
     txtTo->setText(isExcluded ? book_.excluded : inThisYear("12/31/"));
-    for (TextBox* box : {txtFrom, txtTo}) box->setEnabled(!isExcluded);
+    for (DateBox* box : {txtFrom, txtTo}) box->setEnabled(!isExcluded);
 }
 
 bool PrintScreen::receive(const ScreenArguments& arguments) {

@@ -4,12 +4,12 @@
 #include "reports/frame/print_fields.h"
 
 class ComboBox;
+class DateBox;
 class PrintChoice;
 class QBoxLayout;
 class QCheckBox;
 class QGroupBox;
 class QRadioButton;
-class TextBox;
 
 // A check box of a print screen.
 struct PrintTick {
@@ -30,8 +30,9 @@ struct PrintBook {
     QList<PrintTick> ticks = {};
     const char* optionFrame = nullptr;  // optSummary and optDetailed
     const char* periodFrame = nullptr;  // txtFrom and txtTo, which open on the present year
-    const char* excluded = nullptr;     // what they show while chkExclude is set; null: it is not offered
-    bool printsFromPreview = false;     // the printer, too, is reached through the preview
+    const char* invalidDate = invalidDateValue;
+    const char* excluded = nullptr;  // what they show while chkExclude is set; null: it is not offered
+    bool printsFromPreview = false;  // the printer, too, is reached through the preview
     bool hidesReportMenu = false;
     Box noFile = noExportFile();
     std::optional<Box> badTextFile = {};  // a name was given for plain text, and is none of a file
@@ -73,8 +74,8 @@ class PrintScreen : public ChildScreen {
     ComboBox* cboSelection = nullptr;
     QRadioButton* optSummary = nullptr;
     QRadioButton* optDetailed = nullptr;
-    TextBox* txtFrom = nullptr;
-    TextBox* txtTo = nullptr;
+    DateBox* txtFrom = nullptr;
+    DateBox* txtTo = nullptr;
     QCheckBox* chkExclude = nullptr;
     PrintChoice* fraChoice;
 };

@@ -28,7 +28,7 @@ frmPrintInventory::frmPrintInventory() : PrintScreen(book()) {}
 std::optional<Fault> inventoryFault(Connection&, const PrintRequest& request) {
     if (trim(request.selection).isEmpty())
         return errorFault("Please Select a Journal to Print!", "cboSelection");
-    return periodFault(request, exclamation("Error!", "Invalid Date Value!"));
+    return periodFault(request, invalidDateValue);
 }
 
 static QString orderOf(const QString& selection) {

@@ -36,7 +36,7 @@ std::optional<Fault> stockCardFault(Connection& store, const PrintRequest& reque
         return Fault{
             exclamation("Does not exist!", "Item Does Not Exist, Please Add This to Item Master File..."),
             "cboItem"};
-    if (const auto fault = periodFault(request, exclamation("Error!", "Invalid Date Value!"))) return fault;
+    if (const auto fault = periodFault(request, invalidDateValue)) return fault;
     const auto period = periodOf(request);
     if (period && period->from > period->to)
         return errorFault("Date From Should Not be Greater than Date To!", "txtFrom");

@@ -8,6 +8,7 @@ static const PrintBook& book() {
         .caption = "Print Sales Report...",
         .optionFrame = "Print Parameters :",
         .periodFrame = "Date Range :",
+        .invalidDate = invalidDateEntered,
         .excluded = "Excluded",
         .hidesReportMenu = true,
         .noFile = exclamation("No File!", "Please specify a valid Filename and Location!"),

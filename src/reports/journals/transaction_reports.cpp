@@ -163,7 +163,7 @@ QHash<QString, QString> labelsOf(const JournalReport& report) {
 }  // namespace
 
 std::optional<Fault> transactionFault(Connection&, const PrintRequest& request) {
-    return periodFault(request, exclamation("Error!", "Invalid Date Value Entered!"));
+    return periodFault(request, invalidDateEntered);
 }
 
 static std::optional<ReportJobParts> run(Connection& store, const JournalReport& report,

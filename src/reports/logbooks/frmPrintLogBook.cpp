@@ -13,6 +13,7 @@ static const PrintBook& book() {
                                                .whenEmpty = "All Contacts",
                                                .captionOfSupplier = "S&upplier :"}},
                                    .periodFrame = "Date Range :",
+                                   .invalidDate = invalidDateEntered,
                                    .excluded = "Excluded",
                                    .check = logBookFault,
                                    .report = logBookReport};

@@ -123,7 +123,7 @@ std::optional<Fault> logBookFault(Connection& store, const PrintRequest& request
                                  QString("%1 Does Not Exist, Please Select Proper %1 to Generate Report...")
                                      .arg(request.kind == "P" ? "Supplier" : "Customer")),
                      "cboContact"};
-    return periodFault(request, exclamation("Error!", "Invalid Date Value Entered!"));
+    return periodFault(request, invalidDateEntered);
 }
 
 std::optional<ReportJobParts> logBookReport(Connection& store, const PrintRequest& request) {

@@ -51,7 +51,7 @@ std::optional<Fault> salesQuotaFault(Connection& store, const PrintRequest& requ
         !RecordFound(store, "tblItemMaster", "Description", request.description))
         return unknown("Product Does Not Exist, Please Select Proper Product to Generate Report...",
                        "txtDescription");
-    return periodFault(request, exclamation("Error!", "Invalid Date Value!"));
+    return periodFault(request, invalidDateValue);
 }
 
 std::optional<ReportJobParts> salesQuotaReport(Connection& store, const PrintRequest& request) {

@@ -89,9 +89,11 @@ Outcome saveCash(Connection& store, const CashEntry& entry, std::optional<qint64
 
 void deleteCash(Connection& store, qint64 key) { store.run({"DELETE FROM tblPOS WHERE ZevRef = ?", {key}}); }
 
+Fault invalidAuditDate() { return errorFault("Invalid Transaction Date Value!", "txtDate"); }
+
 std::optional<Fault> auditFault(const CashAuditRequest& request) {
     if (trim(request.cashier).isEmpty()) return errorFault("Please Select Cashier to Audit!", "cboCashier");
-    if (!isDate(request.date)) return errorFault("Invalid Transaction Date Value!", "txtDate");
+    if (!isDate(request.date)) return invalidAuditDate();
     return {};
 }
 

@@ -37,5 +37,6 @@ struct CashAuditRequest {
 };
 // The audit, or what refuses it: an unknown cashier, no date, a day without a payment.
 std::variant<CashAudit, Fault> auditCash(Connection& store, const CashAuditRequest& request);
+Fault invalidAuditDate();
 // What is tested before anything else is asked.
 std::optional<Fault> auditFault(const CashAuditRequest& request);

@@ -7,9 +7,8 @@
 #include "platform/masks.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
-#include "platform/ui/field_width.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/form.h"
-#include "platform/ui/text_box.h"
 #include "reports/frame/export_file.h"
 #include "reports/frame/print_choice.h"
 #include "tools/counter/prtPOS.h"
@@ -19,15 +18,13 @@
 frmPrintPOS::frmPrintPOS()
     : ChildScreen("frmPrintPOS", "Print Point of Sale Audit"),
       cboCashier(new ComboBox("cboCashier", ComboBox::Open)),
-      txtDate(new TextBox("txtDate")),
+      txtDate(new DateBox("txtDate")),
       fraChoice(new PrintChoice) {
     cboCashier->setKeyFilter(keys::freeText());
     cboCashier->setCapacity(width::contactName);
     cboCashier->setMinimumWidth(form::charactersWide(cboCashier, 36));
     cboCashier->setFiller([this] { fillCashiers(); });
-    txtDate->setKeyFilter(keys::date());
-    txtDate->setCapacity(width::date);
-    field_width::fix(txtDate, field_width::date);
+    txtDate->setRefusal(invalidAuditDate());
     txtDate->setText(formatDate(Clock::today()));
 
     auto* fields = new QGridLayout;

@@ -2,8 +2,8 @@
 #include "platform/ui/child_screen.h"
 
 class ComboBox;
+class DateBox;
 class PrintChoice;
-class TextBox;
 
 // Chooses a cashier, or all of them, and a day, and prints the audit of its collections.
 class frmPrintPOS : public ChildScreen {
@@ -18,6 +18,6 @@ class frmPrintPOS : public ChildScreen {
     void fillCashiers();
 
     ComboBox* cboCashier;
-    TextBox* txtDate;
+    DateBox* txtDate;
     PrintChoice* fraChoice;
 };

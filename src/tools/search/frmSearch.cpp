@@ -6,7 +6,7 @@
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
-#include "platform/ui/field_width.h"
+#include "platform/ui/date_box.h"
 #include "platform/ui/form.h"
 #include "platform/ui/list_look.h"
 #include "platform/ui/text_box.h"
@@ -100,12 +100,16 @@ QLayout* frmSearch::makeFilters(const SearchKind& kind, Panel& panel) {
     return line;
 }
 
-TextBox* frmSearch::makeFilter(const SearchKind& kind, const SearchFilter& filter) {
+static TextBox* emptyFilter(const SearchFilter& filter) {
+    if (filter.match == SearchFilter::Date) return new DateBox(filter.control);
     auto* box = new TextBox(filter.control);
-    const bool isDate = filter.match == SearchFilter::Date;
-    box->setKeyFilter(isDate ? keys::date() : keys::freeText());
-    box->setCapacity(isDate ? width::date : width::search);
-    if (isDate) field_width::fix(box, field_width::date);
+    box->setKeyFilter(keys::freeText());
+    box->setCapacity(width::search);
+    return box;
+}
+
+TextBox* frmSearch::makeFilter(const SearchKind& kind, const SearchFilter& filter) {
+    TextBox* box = emptyFilter(filter);
     box->installEventFilter(this);
     if (kind.followsKeys)
         connect(box, &TextBox::keyTyped, this, [this] { search(); });
