@@ -5,6 +5,7 @@
 #include <QVariant>
 
 namespace {
+constexpr const char *editing = "Editing...", *upToDate = "Up to date";
 
 QLabel* addPanel(QStatusBar* bar, const QString& key, const QString& accessibleName, int stretch) {
     auto* panel = new QLabel;
@@ -37,5 +38,9 @@ void FrameState::mirror(const QObject* child) {
     if (!addMode.isValid()) return;
     write(EditMode, addMode.toBool() ? "New" : "Edit");
     const QVariant updated = child->property("mblnUpdated");
-    if (updated.isValid()) write(Status, updated.toBool() ? "Editing..." : "Up to date");
+    if (updated.isValid()) write(Status, updated.toBool() ? editing : upToDate);
+}
+
+void FrameState::nothingIsEdited() {
+    if (Status->text() == editing) write(Status, upToDate);
 }

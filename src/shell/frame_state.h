@@ -12,6 +12,8 @@ class FrameState {
     // Shows the flags mblnAddmode and mblnUpdated of the child. Without a child, or for one without these
     // flags, the panels keep their text.
     void mirror(const QObject* child);
+    // Takes "Editing..." back: the screen that was edited has gone.
+    void nothingIsEdited();
 
   private:
     QLabel* UserName;

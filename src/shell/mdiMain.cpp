@@ -180,6 +180,8 @@ void mdiMain::readActiveChild() {
                                     [](const ChildScreen* screen) { return screen->hidesReportMenu(); });
     menus_->menu("mnuReport")->menuAction()->setVisible(!hidden);
     menus_->showCommandsOf(active);
+    const auto isEdited = [](const ChildScreen* screen) { return screen->property("mblnUpdated").toBool(); };
+    if (std::none_of(screens.begin(), screens.end(), isEdited)) state_.nothingIsEdited();
 }
 
 void mdiMain::run(const MenuAction& action, const QString& caption) {

@@ -260,10 +260,11 @@ TEST_F(EmptyFrame, TheStatusBarMirrorsTheFlagsAndKeepsItsLastText) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     waitForTimers();
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(panel(frame, "Status")->text(), "Editing...");
     screen->unload();
     waitForTimers();
     EXPECT_EQ(panel(frame, "EditMode")->text(), "Edit");
-    EXPECT_EQ(panel(frame, "Status")->text(), "Editing...");
+    EXPECT_EQ(panel(frame, "Status")->text(), "Up to date") << "nothing is edited any longer";
 }
 
 TEST_F(FrameTest, ThePanelLiesOverTheEmptyFrameOnly) {
