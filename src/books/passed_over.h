@@ -7,6 +7,9 @@
 // Steps whose errors are passed over. Each answers false after a failure, which then has changed nothing; a
 // busy store is thrown all the same, because there the answer is to wait and try again.
 
+// To the log zevrin.books, for whoever looks for the reason later.
+void logPassedOver(const StoreError& error);
+
 template <class Step>
 bool passOverRead(Step step) {
     try {
@@ -14,6 +17,7 @@ bool passOverRead(Step step) {
         return true;
     } catch (const StoreError& error) {
         if (error.number() == StoreError::busy) throw;
+        logPassedOver(error);
         return false;
     }
 }
