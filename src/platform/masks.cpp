@@ -59,36 +59,44 @@ quint64 roundedTo(quint64 tenThousandths, int decimals) {
     return tenThousandths / unit + (tenThousandths % unit >= unit / 2 ? 1 : 0);
 }
 
-// With commas between the thousands.
-QString grouped(quint64 whole) {
-    QString text = QString::number(whole);
-    for (qsizetype at = text.size() - 3; at > 0; at -= 3) text.insert(at, u',');
-    return text;
+// The digits of the whole part, with commas between the thousands where the mask groups.
+void appendWhole(QString& text, quint64 whole, const NumberMask& mask) {
+    constexpr int room = 64;
+    QChar digits[room];
+    int at = room;
+    for (int count = 0; whole > 0 || count < mask.leastDigits; ++count, whole /= 10) {
+        if (mask.grouped && whole > 0 && count > 0 && count % 3 == 0) digits[--at] = u',';
+        digits[--at] = QChar(u'0' + static_cast<char16_t>(whole % 10));
+    }
+    text.append(digits + at, room - at);
 }
 
-QString wholePart(quint64 whole, const NumberMask& mask) {
-    const QString digits = whole == 0 ? QString() : mask.grouped ? grouped(whole) : QString::number(whole);
-    return digits.rightJustified(mask.leastDigits, u'0');
-}
-
-QString decimalPart(quint64 fraction, const NumberMask& mask) {
-    QString digits = QString::number(fraction).rightJustified(mask.decimals, u'0');
-    while (digits.size() > mask.leastDecimals && digits.endsWith(u'0')) digits.chop(1);
-    return mask.decimals == 0 || digits.isEmpty() ? QString() : u'.' + digits;
+void appendDecimals(QString& text, quint64 fraction, const NumberMask& mask) {
+    int shown = mask.decimals;
+    for (; shown > mask.leastDecimals && fraction % 10 == 0; fraction /= 10) --shown;
+    if (shown == 0) return;
+    text += u'.';
+    for (quint64 unit = powerOfTen(shown - 1); unit > 0; unit /= 10)
+        text += QChar(u'0' + static_cast<char16_t>(fraction / unit % 10));
 }
 
 QString applied(quint64 rounded, const NumberMask& mask) {
     const quint64 unit = powerOfTen(mask.decimals);
-    return mask.prefix + wholePart(rounded / unit, mask) + decimalPart(rounded % unit, mask) + mask.suffix;
+    QString text;
+    text.reserve(32);
+    text += mask.prefix;
+    appendWhole(text, rounded / unit, mask);
+    appendDecimals(text, rounded % unit, mask);
+    return text += mask.suffix;
 }
 
 // The sections of a mask, read once.
 const QList<NumberMask>& sectionsOf(const char* numberMask) {
     static thread_local QHash<QByteArray, QList<NumberMask>> known;
+    const auto found = known.constFind(QByteArray::fromRawData(numberMask, qstrlen(numberMask)));
+    if (found != known.constEnd()) return *found;
     QList<NumberMask>& sections = known[numberMask];
-    if (sections.isEmpty())
-        for (const QString& section : QString::fromLatin1(numberMask).split(u';'))
-            sections += readMask(section);
+    for (const QString& section : QString::fromLatin1(numberMask).split(u';')) sections += readMask(section);
     return sections;
 }
 
@@ -128,8 +136,9 @@ QString formatNumber(Currency value, const char* numberMask) {
 }
 
 QString formatCount(qint64 value) {
-    const QString digits = grouped(magnitude(value));
-    return value < 0 ? u'-' + digits : digits;
+    QString text(value < 0 ? "-" : "");
+    appendWhole(text, magnitude(value), sectionsOf(mask::count).first());
+    return text;
 }
 
 QString formatDate(const QDate& date, const char* dateMask) {

@@ -144,13 +144,11 @@ Recordset Connection::execute(const Sql& statement) {
 
 Recordset Connection::openTable(const QString& table, const Sql& where) {
     Recordset set;
-    if (where.isEmpty()) {
-        set.connection_ = this;
-        set.columns_ = tableColumns(table);
-        set.columnCount_ = static_cast<int>(engineOf(*this).tableColumns(table).size()) + 1;
-    } else {
+    if (!where.isEmpty())
         set = execute(Sql("SELECT " + keyOf(*this, table) + " AS \"#row\", * FROM " + table + u' ') + where);
-    }
+    set.connection_ = this;
+    set.columns_ = tableColumns(table);
+    set.columnCount_ = static_cast<int>(engineOf(*this).tableColumns(table).size()) + 1;
     set.table_ = table;
     return set;
 }

@@ -49,16 +49,38 @@ QVariant asText(const QVariant& value) {
 }
 
 // A value in the form that the column keeps.
-QVariant normalised(const QString& column, const QString& type, const QVariant& value) {
+QVariant normalised(const QString& column, ColumnKind kind, const QVariant& value) {
     if (!value.isValid()) return value;
-    if (type.contains(u"BOOL")) return value.toBool();
-    if (type.contains(u"CURRENCY")) return asCurrency(column, value);
-    if (type.contains(u"DATE")) return asDate(column, value);
-    if (type.contains(u"INT")) return asInteger(column, value);
-    return asText(value);
+    switch (kind) {
+        case ColumnKind::Flag:
+            return value.toBool();
+        case ColumnKind::Currency:
+            return asCurrency(column, value);
+        case ColumnKind::Date:
+            return asDate(column, value);
+        case ColumnKind::Integer:
+            return asInteger(column, value);
+        default:
+            return asText(value);
+    }
 }
 
-QDate dateOf(const QString& stored) { return QDate::fromString(stored.left(10), Qt::ISODate); }
+// Dates are stored as "2026-01-31", with or without a time behind. Read here: Qt's reader costs a list of ten
+// thousand rows a tenth of its time.
+QDate dateOf(const QString& stored) {
+    if (stored.size() < 10 || stored[4] != u'-' || stored[7] != u'-') return {};
+    int numbers[3] = {};  // year, month, day
+    int* number = numbers;
+    for (const QChar character : QStringView(stored).first(10)) {
+        if (character == u'-')
+            ++number;
+        else if (const int digit = character.unicode() - u'0'; digit >= 0 && digit <= 9)
+            *number = *number * 10 + digit;
+        else
+            return {};
+    }
+    return {numbers[0], numbers[1], numbers[2]};
+}
 
 [[noreturn]] void noRow() {
     throw StoreError(StoreError::noCurrentRow,
@@ -136,9 +158,8 @@ void Recordset::addNew() {
 void Recordset::set(const QString& column, const QVariant& value) {
     if (table_.isEmpty()) throw StoreError(StoreError::general, "The rows are read only.");
     if (!adding_) current();
-    columnIndex(column);
-    const QString type = connection_->columnTypes(table_).value(column.toLower());
-    const QVariant stored = storedValue(normalised(column, type, value));
+    const ColumnKind declared = columns_->kinds[columnIndex(column)];
+    const QVariant stored = storedValue(normalised(column, declared, value));
     for (auto& [name, pending] : changes_)
         if (name.compare(column, Qt::CaseInsensitive) == 0) {
             pending = stored;
@@ -149,16 +170,17 @@ void Recordset::set(const QString& column, const QVariant& value) {
 
 Sql Recordset::insertStatement() const {
     if (changes_.isEmpty()) return "INSERT INTO " + table_ + " DEFAULT VALUES";
-    QStringList names;
-    QStringList marks;
+    QString names;
+    QString marks;
     QVariantList values;
+    values.reserve(changes_.size());
     for (const auto& [name, value] : changes_) {
-        names += name;
-        marks += "?";
+        const QLatin1String comma(names.isEmpty() ? "" : ", ");
+        (names += comma) += name;
+        (marks += comma) += u'?';
         values += value;
     }
-    return {QString("INSERT INTO %1 (%2) VALUES (%3)").arg(table_, names.join(", "), marks.join(", ")),
-            values};
+    return {"INSERT INTO " + table_ + " (" + names + ") VALUES (" + marks + u')', values};
 }
 
 Sql Recordset::updateStatement() const {
