@@ -13,6 +13,7 @@
 
 #include <sqlite3.h>
 #include <atomic>
+#include <optional>
 
 namespace {
 int numberOf(int engineCode) {
@@ -224,15 +225,18 @@ void FileEngine::fail(PreparedStatement& statement) const {
     throw error;
 }
 
-bool stepped(sqlite3_stmt* statement, BusyWait wait) {
-    sqlite3* const engine = sqlite3_db_handle(statement);
+bool stepped(sqlite3_stmt* statement, Turn turn) {
     const bool underWay = sqlite3_stmt_busy(statement) != 0;
+    // Made when it is needed: it reads the clock, and a pass takes a step for every row.
+    std::optional<BusyWait> wait;
     for (;;) {
         const int code = sqlite3_step(statement);
         if (code == SQLITE_ROW || code == SQLITE_DONE) return code == SQLITE_ROW;
+        sqlite3* const engine = sqlite3_db_handle(statement);
         if (underWay) throw engineError(engine);
         sqlite3_reset(statement);
-        waitOrThrow(engine, wait);
+        if (!wait) wait.emplace(turn);
+        waitOrThrow(engine, *wait);
     }
 }
 
@@ -256,10 +260,10 @@ void FileEngine::giveBack(const QString& text, sqlite3_stmt* statement) {
         idle_.insert(text, statement);
 }
 
-void FileEngine::control(const QString& statement, BusyWait wait) {
+void FileEngine::control(const QString& statement, Turn turn) {
     sqlite3_stmt* const taken = take(statement);
     try {
-        stepped(taken, wait);
+        stepped(taken, turn);
     } catch (...) {
         giveBack(statement, taken);
         throw;
@@ -306,7 +310,7 @@ QList<TableColumn> FileEngine::readColumns(const QString& table) {
     return columns;
 }
 
-void FileEngine::begin(Turn turn) { control("BEGIN IMMEDIATE", BusyWait(turn)); }
+void FileEngine::begin(Turn turn) { control("BEGIN IMMEDIATE", turn); }
 
 void FileEngine::commit() { control("COMMIT"); }
 

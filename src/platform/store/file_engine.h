@@ -56,7 +56,7 @@ class FileEngine : public Engine {
     std::shared_ptr<PreparedStatement> prepared(const QString& text);
     bool tryStart(PreparedStatement& statement, const Sql& sql);
     // BEGIN, COMMIT and their kin, waiting for other workstations.
-    void control(const QString& statement, BusyWait wait = BusyWait());
+    void control(const QString& statement, Turn turn = Turn::Any);
     void undoBy(const QString& statements) const;
     // The rows of a statement that was started, to their end.
     std::vector<QVariantList> readRows(PreparedStatement& statement) const;
@@ -71,4 +71,4 @@ class FileEngine : public Engine {
 
 // One step of a statement; true when it gave a row. A first step that met another workstation's lock is tried
 // again; later ones hold a lock of their own.
-bool stepped(sqlite3_stmt* statement, BusyWait wait = BusyWait());
+bool stepped(sqlite3_stmt* statement, Turn turn = Turn::Any);
