@@ -5,6 +5,8 @@
 #include "books/passed_over.h"
 #include "foundation/shared_routines.h"
 
+#include <array>
+
 static Term termOf(const Recordset& row, const char* alias) {
     return row.isNull(alias) ? Term() : Term(row.currency(alias));
 }
@@ -14,6 +16,19 @@ static Term sumOf(Connection& store, const Sql& query, const char* alias) {
     Term sum;
     passOverRead([&] { sum = termOf(store.execute(query), alias); });
     return sum;
+}
+
+// The terms of a figure in one statement, for every line of a save asks for them. Nothing where it fails:
+// then each sum counts by itself.
+template <size_t count>
+static std::optional<std::array<Term, count>> termsOf(Connection& store, const Sql& query,
+                                                      const char* const (&aliases)[count]) {
+    std::array<Term, count> terms;
+    const bool together = passOverRead([&] {
+        const Recordset row = store.execute(query);
+        for (size_t i = 0; i < count; ++i) terms[i] = termOf(row, aliases[i]);
+    });
+    return together ? std::optional(terms) : std::nullopt;
 }
 
 namespace {
@@ -39,12 +54,33 @@ static Currency receivable(Connection& store, const Sql& sales, const Sql& recei
     return receivableFigure(sold, paid, granted);
 }
 
+static const QString termsOfSale =
+    "(SELECT SUM(TotalAmount) AS Halin FROM tblSalesMaster WHERE RefNo = ?) AS Halin,"
+    " SUM(Amount) AS Bayad, SUM(DiscountAmount) AS Palugit FROM tblReceiptDetails WHERE Reference = ?";
+
 Currency SalesBalance(Connection& store, const QString& refNo) {
+    static const QString together = "SELECT " + termsOfSale;
+    if (const auto terms = termsOf(store, {together, {refNo, refNo}}, {"Halin", "Bayad", "Palugit"}))
+        return receivableFigure((*terms)[0], (*terms)[1], (*terms)[2]);
     return receivable(store,
                       {"SELECT SUM(TotalAmount) AS Halin FROM tblSalesMaster WHERE RefNo = ?", {refNo}},
                       {"SELECT SUM(Amount) AS Bayad, SUM(DiscountAmount) AS Palugit FROM tblReceiptDetails "
                        "WHERE Reference = ?",
                        {refNo}});
+}
+
+std::optional<PostedOnSale> postedOnSale(Connection& store, const QString& refNo) {
+    static const QString together =
+        "SELECT (SELECT MAX(RefNo) FROM tblSalesMaster WHERE RefNo = ?) AS Found, " + termsOfSale;
+    std::optional<PostedOnSale> posted;
+    passOverRead([&] {
+        const Recordset row = store.execute({together, {refNo, refNo, refNo}});
+        if (row.isNull("Found")) return;
+        const Term granted = termOf(row, "Palugit");
+        posted = {receivableFigure(termOf(row, "Halin"), termOf(row, "Bayad"), granted),
+                  granted.value_or(Currency())};
+    });
+    return posted;
 }
 
 Currency CustomerBalance(Connection& store, const QString& contactId) {
@@ -55,17 +91,18 @@ Currency CustomerBalance(Connection& store, const QString& contactId) {
          {contactId}});
 }
 
+static constexpr const char* purchasedOnOrder =
+    "SELECT SUM(PurchaseAmount) AS Gipalit FROM tblPurchaseMaster WHERE PurchaseNo = ?";
+static constexpr const char* paidOnOrder =
+    "SELECT SUM(PayAmount) AS Bayad FROM tblDisbursementDetails WHERE PuchaseID = ? AND DirectPayment = 0";
+
 Currency PurchaseBalance(Connection& store, const QString& purchaseNo) {
-    const Term purchased = sumOf(
-        store,
-        {"SELECT SUM(PurchaseAmount) AS Gipalit FROM tblPurchaseMaster WHERE PurchaseNo = ?", {purchaseNo}},
-        "Gipalit");
-    const Term paid = sumOf(store,
-                            {"SELECT SUM(PayAmount) AS Bayad FROM tblDisbursementDetails WHERE PuchaseID = ? "
-                             "AND DirectPayment = 0",
-                             {purchaseNo}},
-                            "Bayad");
-    return differenceFigure(purchased, paid);
+    static const QString together =
+        QString("SELECT (%1) AS Gipalit, (%2) AS Bayad").arg(purchasedOnOrder, paidOnOrder);
+    if (const auto terms = termsOf(store, {together, {purchaseNo, purchaseNo}}, {"Gipalit", "Bayad"}))
+        return differenceFigure((*terms)[0], (*terms)[1]);
+    const Term purchased = sumOf(store, {purchasedOnOrder, {purchaseNo}}, "Gipalit");
+    return differenceFigure(purchased, sumOf(store, {paidOnOrder, {purchaseNo}}, "Bayad"));
 }
 
 Currency SupplierBalance(Connection& store, const QString& contactId) {
@@ -90,21 +127,13 @@ static constexpr const char* deliveredOfItem =
 static constexpr const char* servedOfItem =
     "SELECT SUM(Served) As TotalSales FROM tblSalesDetails WHERE ItemID = ?";
 
-// Both sums in one statement, for every line of a save asks for them; where that fails, each by itself.
 Currency ItemBalance(Connection& store, const QString& itemCode) {
-    Term delivered, served;
-    const bool together = passOverRead([&] {
-        const Recordset row = store.execute(
-            {QString("SELECT (%1) AS TotalDelivery, (%2) AS TotalSales").arg(deliveredOfItem, servedOfItem),
-             {itemCode, itemCode}});
-        delivered = termOf(row, "TotalDelivery");
-        served = termOf(row, "TotalSales");
-    });
-    if (!together) {
-        delivered = sumOf(store, {deliveredOfItem, {itemCode}}, "TotalDelivery");
-        served = sumOf(store, {servedOfItem, {itemCode}}, "TotalSales");
-    }
-    return differenceFigure(delivered, served);
+    static const QString together =
+        QString("SELECT (%1) AS TotalDelivery, (%2) AS TotalSales").arg(deliveredOfItem, servedOfItem);
+    if (const auto terms = termsOf(store, {together, {itemCode, itemCode}}, {"TotalDelivery", "TotalSales"}))
+        return differenceFigure((*terms)[0], (*terms)[1]);
+    const Term delivered = sumOf(store, {deliveredOfItem, {itemCode}}, "TotalDelivery");
+    return differenceFigure(delivered, sumOf(store, {servedOfItem, {itemCode}}, "TotalSales"));
 }
 
 static QDate firstDocumentDate(Connection& store) {

@@ -5,6 +5,7 @@
 #include "platform/store/connection.h"
 
 #include <QDate>
+#include <optional>
 
 // Balances are recomputed from the books by summing, never kept up. Compute routines write nothing; a term
 // with no rows, or a failed one, counts 0. The cached Balance columns are rebuilt by the Store, Update and
@@ -18,6 +19,14 @@ Currency ItemBalance(Connection& store, const QString& itemCode);        // Tota
 // On hand as of the date: from the earliest document to the date, both inside.
 Currency ItemBalanceBetween(Connection& store, const QString& itemCode, const QDate& date);
 Currency ServedOnOrder(Connection& store, const QString& itemCode, const QString& reference);
+
+// What stands against a sales order, by one statement. Nothing: no order of this number, or a sum of it
+// leaves its range.
+struct PostedOnSale {
+    Currency balance;
+    Currency discount;  // granted on it so far
+};
+std::optional<PostedOnSale> postedOnSale(Connection& store, const QString& refNo);
 
 void StoreSalesBalance(Connection& store, const QString& refNo, Boxes& boxes);
 void StorePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes& boxes);

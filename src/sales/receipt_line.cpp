@@ -232,12 +232,15 @@ std::optional<Fault> ValidateLine(Connection& store, const QString& customerName
 }
 
 std::optional<Fault> overtakenLine(Connection& store, const ReceiptLine& line) {
-    if (auto fault = unknownFault(store, line.reference)) return fault;
-    const Currency balance = SalesBalance(store, line.reference);
+    const auto posted = postedOnSale(store, line.reference);
+    if (!posted)
+        if (auto fault = unknownFault(store, line.reference)) return fault;
+    const Currency balance = posted ? posted->balance : SalesBalance(store, line.reference);
     if (auto fault = paidFault(line.reference, balance)) return fault;
     PaymentEntry entry = entryOf(line);
     entry.balance = asAmount(balance);
     ComputeDiscounts(entry);
     if (auto fault = overPaymentFault(entry, balance)) return fault;
+    if (posted && posted->discount.isZero()) return std::nullopt;
     return discountFault(store, line.reference);
 }
