@@ -35,10 +35,27 @@ QString textOf(const Recordset& row, const CheckColumn& column) {
     return row.trimmed(column.field);
 }
 
+// What the check itself has read is not read again.
+QString textOf(const Recordset& row, const CheckBook& book, int column, const StoredCheck& check) {
+    switch (column) {
+        case check_column::control:
+            return QString::number(check.key);
+        case check_column::number:
+            return check.number;
+        case check_column::date:
+            return formatDate(check.date);
+        case check_column::status:
+            return check.status;
+        default:
+            return textOf(row, book.columns[column]);
+    }
+}
+
 CheckRow rowOf(const Recordset& row, const CheckBook& book) {
     CheckRow listed{storedCheck(row), {}};
     listed.texts.reserve(book.columns.size());
-    for (const CheckColumn& column : book.columns) listed.texts += textOf(row, column);
+    for (int column = 0; column < book.columns.size(); ++column)
+        listed.texts += textOf(row, book, column, listed.check);
     return listed;
 }
 

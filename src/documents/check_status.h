@@ -58,7 +58,7 @@ QList<CheckView> commonCheckViews();
 
 // The columns of the list that mean the same on both sides.
 namespace check_column {
-inline constexpr int control = 1, number = 4, date = 5;
+inline constexpr int control = 1, number = 4, date = 5, status = 7;
 }
 
 // A check as it stands in the store.
