@@ -6,7 +6,7 @@
 #include <sqlite3.h>
 #include <algorithm>
 #include <cstdio>
-#include <vector>
+#include <utility>
 
 namespace bare {
 namespace {
@@ -50,13 +50,11 @@ void finish(sqlite3* engine, sqlite3_stmt* statement, int result) {
     if (result != SQLITE_DONE) fail(engine, sqlite3_sql(statement));
 }
 
-int record(unsigned, void* statements, void* statement, void* text) {
-    // A comment stands for the statement of a trigger, which its own statement runs.
-    if (static_cast<const char*>(text)[0] == '-') return 0;
-    char* expanded = sqlite3_expanded_sql(static_cast<sqlite3_stmt*>(statement));
-    static_cast<QByteArrayList*>(statements)->append(expanded);
-    sqlite3_free(expanded);
-    return 0;
+QByteArray expanded(sqlite3_stmt* statement) {
+    char* const text = sqlite3_expanded_sql(statement);
+    const QByteArray copy(text);
+    sqlite3_free(text);
+    return copy;
 }
 }  // namespace
 
@@ -70,11 +68,47 @@ qint64 readAll(sqlite3* engine, const Sql& statement) {
     return rows;
 }
 
-Recorder::Recorder(sqlite3* engine) : engine_(engine) {
-    sqlite3_trace_v2(engine_, SQLITE_TRACE_STMT, record, &statements_);
+Recorder::Recorder(sqlite3* engine) : engine_(engine), changed_(sqlite3_total_changes(engine)) {
+    sqlite3_trace_v2(engine_, SQLITE_TRACE_STMT | SQLITE_TRACE_PROFILE, &Recorder::record, this);
+}
+
+int Recorder::record(unsigned event, void* recorder, void* statement, void* text) {
+    auto* const self = static_cast<Recorder*>(recorder);
+    auto* const traced = static_cast<sqlite3_stmt*>(statement);
+    if (event == SQLITE_TRACE_STMT)
+        self->began(traced, static_cast<const char*>(text));
+    else
+        self->ended(traced);
+    return 0;
+}
+
+// A comment stands for the statement of a trigger, which its own statement runs.
+void Recorder::began(sqlite3_stmt* statement, const char* text) {
+    if (text[0] != '-') statements_ += expanded(statement);
+}
+
+void Recorder::ended(sqlite3_stmt* statement) {
+    const int changed = sqlite3_total_changes(engine_);
+    if (std::exchange(changed_, changed) != changed) changes_ += expanded(statement);
 }
 
 Recorder::~Recorder() { sqlite3_trace_v2(engine_, 0, nullptr, nullptr); }
+
+QByteArrayList asOneUnit(const QByteArrayList& changes) {
+    QByteArrayList unit{"BEGIN IMMEDIATE"};
+    QHash<QByteArray, qsizetype> inserts;  // by all that stands before the values
+    for (const QByteArray& change : changes) {
+        const qsizetype values = change.indexOf(" VALUES (");
+        const auto earlier = inserts.constFind(change.left(values));
+        if (values >= 0 && earlier != inserts.constEnd()) {
+            unit[*earlier] += ", " + change.mid(values + 8);
+            continue;
+        }
+        if (values >= 0) inserts[change.left(values)] = unit.size();
+        unit += change;
+    }
+    return unit << "COMMIT";
+}
 
 double replay(sqlite3* engine, const QByteArrayList& statements) {
     std::vector<Statement> prepared;
@@ -91,13 +125,26 @@ double replay(sqlite3* engine, const QByteArrayList& statements) {
 
 double milliseconds(const std::function<void()>& work) { return secondsOf(work) * 1e3; }
 
-double median(const std::function<void()>& work) {
+double medianOf(std::vector<double> times) {
+    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+    std::ranges::nth_element(times, middle);
+    return *middle;
+}
+
+std::pair<double, double> medians(const std::function<void()>& measured,
+                                  const std::function<void()>& bareWork) {
     constexpr int runs = 9;
-    work();
-    std::vector<double> times;
-    for (int run = 0; run < runs; ++run) times.push_back(milliseconds(work));
-    std::ranges::nth_element(times, times.begin() + runs / 2);
-    return times[runs / 2];
+    std::vector<double> times, bareTimes;
+    for (int run = 0; run <= runs; ++run) {
+        times.push_back(milliseconds(measured));
+        bareTimes.push_back(milliseconds(bareWork));
+        if (run == 0) times.clear(), bareTimes.clear();
+    }
+    return {medianOf(times), medianOf(bareTimes)};
+}
+
+double median(const std::function<void()>& work) {
+    return medians(work, [] {}).first;
 }
 
 void report(const QString& name, double measured, double bareTime) {

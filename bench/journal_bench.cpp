@@ -165,8 +165,8 @@ void measure(const QList<View>& views) {
     DataGrid grid("dbgMyGrid", "adcMyControl", {{"Remarks", "Remarks"}});
     for (const View& view : views) {
         const Sql first = firstRows(view.source);
-        const double bareTime = bare::median([&] { bare::readAll(store.handle(), first); });
-        const double gridTime = bare::median([&] { grid.setSource(store, view.source); });
+        const auto [gridTime, bareTime] = bare::medians([&] { grid.setSource(store, view.source); },
+                                                        [&] { bare::readAll(store.handle(), first); });
         bare::report(view.name, gridTime, bareTime);
     }
 }
@@ -183,14 +183,15 @@ void measureChecks(const CheckScreen& screen) {
     Connection& store = StoreConnection();
     const CheckView& pending = book.views.first();
     const auto rows = std::get<QList<CheckRow>>(loadChecks(store, book, pending.name, {}));
+    const auto columns = static_cast<int>(book.columns.size());
     Sql query = checksOf(book, pending, {});
     query.text.replace("= True", "= -1").replace("= False", "= 0");
-    const double bareTime = bare::median([&] {
-        bare::readAll(store.handle(), query);
-        fillBareList(rows, static_cast<int>(book.columns.size()));
-    });
     CheckList list(screen);
-    const double listTime = bare::median([&] { list.LoadGrid({}); });
+    const auto [listTime, bareTime] = bare::medians([&] { list.LoadGrid({}); },
+                                                    [&] {
+                                                        bare::readAll(store.handle(), query);
+                                                        fillBareList(rows, columns);
+                                                    });
     bare::report(QString("%1, %2 pending").arg(screen.name).arg(rows.size()), listTime, bareTime);
 }
 }  // namespace
