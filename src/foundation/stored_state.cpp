@@ -13,15 +13,17 @@ QString momentOf(const QString& stored) {
 }
 
 // The change need not be the last save itself, so no more is claimed.
-Fault changedMeanwhile(const QString& updatedBy, const QString& dateUpdate) {
+QString lastSave(const QString& updatedBy, const QString& dateUpdate) {
     const QString who = trim(updatedBy).isEmpty() ? QString("another user") : trim(updatedBy);
-    return {
-        exclamation("Record Changed!",
-                    QString("This record was changed while it was open here. It was last saved by %1 on %2."
+    return QString(" It was last saved by %1 on %2.").arg(who, momentOf(dateUpdate));
+}
+
+Fault changedMeanwhile(const QString& lastSave) {
+    return {exclamation("Record Changed!",
+                        "This record was changed while it was open here." + lastSave +
                             "\nNothing was saved now. Press F5 to see it as it is stored, and enter your "
-                            "change again.")
-                        .arg(who, momentOf(dateUpdate))),
-        {}};
+                            "change again."),
+            {}};
 }
 }  // namespace
 
@@ -61,5 +63,6 @@ std::optional<Fault> StoredState::overtaken(Connection& store, const QSet<QStrin
     };
     if (std::ranges::equal(now.rows_, rows_, alike) || now.rows_.first().empty()) return std::nullopt;
     const Row& head = *now.rows_.first().begin();
-    return changedMeanwhile(head.at("updatedby"), head.at("dateupdate"));
+    const auto who = head.find("updatedby");
+    return changedMeanwhile(who == head.end() ? QString() : lastSave(who->second, head.at("dateupdate")));
 }

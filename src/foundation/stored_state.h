@@ -25,9 +25,9 @@ class StoredState {
   public:
     // Of something new: nothing was loaded, and nobody can have changed it.
     StoredState() = default;
-    // All rows with this key, by one statement for each table; the first one's row is the head, which has
-    // UpdatedBy and DateUpdate. To be read before what is shown: a change that comes between is then refused
-    // rather than missed. Throws StoreError.
+    // All rows with this key, by one statement for each table; the first one's row is the head, whose
+    // UpdatedBy and DateUpdate, where it has them, a refusal names. To be read before what is shown: a change
+    // that comes between is then refused rather than missed. Throws StoreError.
     StoredState(Connection& store, const QList<KeyedTable>& tables, const QVariant& key);
 
     // Within the unit of the save: the refusal when what is stored by now differs, in whatever order its rows

@@ -21,9 +21,11 @@ const std::vector<CompanyField>& companyFields() {
 }
 
 CompanyProfile loadCompany(Connection& store) {
-    const Recordset row = store.execute("SELECT * FROM tblSystemProfile");
+    const Recordset key = store.execute("SELECT RowNo FROM tblSystemProfile");
     CompanyProfile profile;
-    if (row.eof()) return profile;
+    if (key.eof()) return profile;
+    profile.loaded = StoredState(store, {{"tblSystemProfile", "RowNo"}}, key.integer("RowNo"));
+    const Recordset row = store.execute("SELECT * FROM tblSystemProfile");
     for (const CompanyField& field : companyFields()) profile.texts[field.column] = row.trimmed(field.column);
     profile.tax = formatNumber(row.currency("ValueTax"), mask::price);
     return profile;
@@ -35,6 +37,7 @@ Outcome saveCompany(Connection& store, const CompanyProfile& profile) {
     const auto tax = parseNumber(profile.tax);
     if (!tax) return errorFault("Please Enter Numeric Value for Value Added Tax!", "txtTax");
     Transaction save(store);
+    if (auto fault = profile.loaded.overtaken(store, {})) return *fault;
     Recordset row = store.openTable("tblSystemProfile", "WHERE 1 = 1");
     if (row.eof()) row.addNew();
     for (const CompanyField& field : companyFields())

@@ -1,4 +1,5 @@
 #pragma once
+#include "foundation/stored_state.h"
 #include "platform/outcome.h"
 #include "platform/store/connection.h"
 
@@ -19,9 +20,10 @@ const std::vector<CompanyField>& companyFields();
 struct CompanyProfile {
     QHash<QString, QString> texts;  // by column
     QString tax;                    // as typed; read as "#,##0.0000"
+    StoredState loaded;             // the row as it was then
 };
 
 // Empty texts from a store that has no row.
 CompanyProfile loadCompany(Connection& store);
-// Writes the one row, or adds it. Throws StoreError.
+// Writes the one row, or adds it; one that someone else has changed meanwhile is refused. Throws StoreError.
 Outcome saveCompany(Connection& store, const CompanyProfile& profile);

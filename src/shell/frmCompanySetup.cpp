@@ -92,6 +92,7 @@ QLayout* frmCompanySetup::makeLogo() {
 
 void frmCompanySetup::load() {
     const CompanyProfile profile = loadCompany(StoreConnection());
+    loaded_ = profile.loaded;
     for (auto box = boxes_.begin(); box != boxes_.end(); ++box)
         box.value()->setText(profile.texts.value(box.key()));
     txtTax->setText(profile.tax);
@@ -104,6 +105,7 @@ CompanyProfile frmCompanySetup::typed() const {
     for (auto box = boxes_.begin(); box != boxes_.end(); ++box)
         profile.texts[box.key()] = box.value()->text();
     profile.tax = txtTax->text();
+    profile.loaded = loaded_;
     return profile;
 }
 
@@ -120,12 +122,19 @@ void frmCompanySetup::showLogo() {
 bool frmCompanySetup::SaveRecord() {
     try {
         const Outcome outcome = saveCompany(StoreConnection(), typed());
-        if (isDone(outcome)) mblnUpdated = false;
+        if (isDone(outcome)) load();
         return settled(outcome, this);
     } catch (const StoreError& error) {
         showBox(saveErrorBox(error));
         return false;
     }
+}
+
+void frmCompanySetup::RefreshRecord() {
+    static const Box forget = question(
+        "Refresh?", "What You Have Typed Will Be Gone! Show the Details as They are Stored?", BoxAnswer::No);
+    if (mblnUpdated && !askYes(forget)) return;
+    guarded([this] { load(); });
 }
 
 bool frmCompanySetup::queryUnload() {

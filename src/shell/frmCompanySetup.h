@@ -15,6 +15,7 @@ class frmCompanySetup : public RecordScreen {
 
   public slots:
     bool SaveRecord();
+    void RefreshRecord();  // as it is stored by now
 
   private:
     void build();
@@ -28,6 +29,7 @@ class frmCompanySetup : public RecordScreen {
     void cmdClear_Click();
 
     QHash<QString, TextBox*> boxes_;  // by column
+    StoredState loaded_;
     TextBox* txtTax;
     QLabel* imgLogo;
 };

@@ -5,6 +5,7 @@
 #include "masters/unit_master.h"
 #include "purchases/voucher_books.h"
 #include "sales/receipt_document.h"
+#include "shell/company_document.h"
 
 #include <functional>
 
@@ -60,6 +61,10 @@ class TwoPrograms : public VoucherBooks {
         return [this, entry, id = QString("C1")]() mutable { return SaveContact(store, entry, false, id); };
     }
 
+    Save editCompany() {
+        return [this, profile = loadCompany(store)] { return saveCompany(store, profile); };
+    }
+
     Connection other;
     QString sale_, voucher_;
 };
@@ -72,6 +77,7 @@ TEST_F(TwoPrograms, AChangeOfSomeoneElseIsNotSavedOver) {
     const auto description = [this] { return editItem({"Description"}); };
     const auto price = [this] { return editItem({"Description", "SellingPrice"}); };
     const auto contact = [this] { return editContact(); };
+    const auto company = [this] { return editCompany(); };
     const struct {
         std::function<Save()> open;
         const char* change;
@@ -93,6 +99,7 @@ TEST_F(TwoPrograms, AChangeOfSomeoneElseIsNotSavedOver) {
         {description, "UPDATE tblItemMaster SET Remarks = 'theirs'", true},
         {description, "UPDATE tblItemMaster SET SellingPrice = 170000, Balance = 1", false},
         {price, "UPDATE tblItemMaster SET SellingPrice = 180000", true},
+        {company, "UPDATE tblSystemProfile SET Approved = 'theirs'", true},
         {contact, "UPDATE tblContactMaster SET TelNo = '123'", true},
         {contact, "UPDATE tblContactMaster SET Remarks = 'theirs' WHERE ContactID = 'C2'", false}};
     for (const auto& [open, change, isRefused] : cases) {
