@@ -1,7 +1,6 @@
 #include "tools/search/search_query.h"
 
-#include "books/balance_figures.h"
-#include "books/balances.h"
+#include "books/contact_balances.h"
 #include "masters/master_records.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
@@ -13,18 +12,7 @@
 namespace {
 constexpr const char* notApplicable = "-NA-";
 
-// The sums of a contact's two balances, as the routines for one contact take them, for all rows at once.
-constexpr const char* contactSums =
-    "ContactName, Address, TelNo, Terms, CreditLimit, "
-    "(SELECT SUM(TotalAmount) FROM tblSalesMaster WHERE ContactNo = ContactID) AS Halin, "
-    "(SELECT SUM(PaymentAmount) FROM tblReceiptMaster WHERE CustomerNo = ContactID) AS Bayad, "
-    "(SELECT SUM(TotalDiscAmount) FROM tblReceiptMaster WHERE CustomerNo = ContactID) AS Palugit, "
-    "(SELECT SUM(PurchaseAmount) FROM tblPurchaseMaster WHERE ContactNo = ContactID) AS Gipamalit, "
-    "(SELECT SUM(tblDisbursementDetails.PayAmount) FROM tblDisbursementMaster INNER JOIN "
-    "tblDisbursementDetails ON tblDisbursementMaster.VoucherNo = tblDisbursementDetails.VoucherID "
-    "WHERE tblDisbursementMaster.ContactNo = ContactID AND tblDisbursementDetails.DirectPayment = 0) "
-    "AS Gipangbayran";
-constexpr const char* contactsAlone = "ContactName, Address, TelNo, Terms, CreditLimit, ContactID";
+constexpr const char* contactColumns = "ContactName, Address, TelNo, Terms, CreditLimit, ContactID";
 
 Search itemSearch(const SearchKind& kind) {
     // An item without a known supplier is found, too.
@@ -40,7 +28,7 @@ Search itemSearch(const SearchKind& kind) {
 }
 
 Search contactSearch(const SearchKind& kind) {
-    return {&kind, nullptr, contactSums, "*", "tblContactMaster", "tblContactMaster", {}};
+    return {&kind, nullptr, contactColumns, "*", "tblContactMaster", "tblContactMaster", {}};
 }
 
 Search transactionSearch(const SearchKind& kind, const SearchJournal& journal) {
@@ -97,7 +85,7 @@ class FoundRow {
     QString days(int column) const { return row_.currency(column).toPlainText() + " Days"; }
     qint64 wholeDays(int column) const { return row_.currency(column).tenThousandths() / 10000; }
     QDate date(int column) const { return QDate::fromString(row_.text(column).left(10), Qt::ISODate); }
-    Term term(int column) const { return row_.isNull(column) ? Term() : Term(row_.currency(column)); }
+    QString key(int column) const { return row_.text(column); }
 
   private:
     const BulkReader& row_;
@@ -108,14 +96,9 @@ QStringList itemRow(const FoundRow& row) {
             row.text(6), row.amount(7), row.text(8), row.text(9)};
 }
 
-QStringList contactRow(const FoundRow& row, Currency receivable, Currency payable) {
-    return {row.text(1),
-            row.text(2),
-            row.text(3),
-            row.days(4),
-            row.amount(5),
-            formatNumber(receivable, mask::amount),
-            formatNumber(payable, mask::amount)};
+// Without its balances.
+QStringList contactRow(const FoundRow& row) {
+    return {row.text(1), row.text(2), row.text(3), row.days(4), row.amount(5)};
 }
 
 QStringList transactionRow(const FoundRow& row, const SearchJournal& journal) {
@@ -131,13 +114,6 @@ QStringList transactionRow(const FoundRow& row, const SearchJournal& journal) {
             row.amount(5),
             row.amount(6),
             row.text(1)};
-}
-
-QStringList shownRow(const Search& search, const FoundRow& row) {
-    if (search.journal) return transactionRow(row, *search.journal);
-    if (!search.kind->followsKeys) return itemRow(row);
-    return contactRow(row, receivableFigure(row.term(6), row.term(7), row.term(8)),
-                      differenceFigure(row.term(9), row.term(10)));
 }
 
 Sql pageOf(Connection& store, const Search& search, qint64 after, int rows) {
@@ -162,12 +138,27 @@ SearchPage pageFrom(Connection& store, const Search& search, qint64 after, int r
     return page;
 }
 
-// One contact whose sum leaves the range would fail the page for all: there each is computed by itself.
-SearchPage contactsOneByOne(Connection& store, Search search, qint64 after, int rows) {
-    search.columns = contactsAlone;
-    return pageFrom(store, search, after, rows, [&](const FoundRow& row) {
-        return contactRow(row, CustomerBalance(store, row.text(6)), SupplierBalance(store, row.text(6)));
+Sql contactsWith(const QStringList& keys) {
+    const QVariantList values(keys.begin(), keys.end());
+    const QString marks = QStringList(keys.size(), "?").join(", ");
+    return {"SELECT ContactID FROM tblContactMaster WHERE ContactID IN (" + marks + ')', values};
+}
+
+// The balances of a page's contacts come by two statements, not by two for each.
+SearchPage contactsFrom(Connection& store, const Search& search, qint64 after, int rows) {
+    QStringList keys;
+    SearchPage page = pageFrom(store, search, after, rows, [&](const FoundRow& row) {
+        keys += row.key(6);
+        return contactRow(row);
     });
+    if (keys.isEmpty()) return page;
+    const Sql contacts = contactsWith(keys);
+    const KeyedFigures receivable = CustomerBalances(store, contacts);
+    const KeyedFigures payable = SupplierBalances(store, contacts);
+    for (qsizetype at = 0; at < keys.size(); ++at)
+        for (const KeyedFigures* balances : {&receivable, &payable})
+            page.rows[at] += formatNumber(balances->of(keys[at]), mask::amount);
+    return page;
 }
 }  // namespace
 
@@ -282,11 +273,8 @@ SearchAnswer prepareSearch(const SearchRequest& request) {
 }
 
 SearchPage readPage(Connection& store, const Search& search, qint64 after, int rows) {
-    try {
-        return pageFrom(store, search, after, rows,
-                        [&](const FoundRow& row) { return shownRow(search, row); });
-    } catch (const StoreError& error) {
-        if (search.columns != contactSums || error.number() == StoreError::busy) throw;
-        return contactsOneByOne(store, search, after, rows);
-    }
+    if (search.kind->followsKeys) return contactsFrom(store, search, after, rows);
+    return pageFrom(store, search, after, rows, [&](const FoundRow& row) {
+        return search.journal ? transactionRow(row, *search.journal) : itemRow(row);
+    });
 }
