@@ -22,6 +22,23 @@ inline int compareKeys(QByteArrayView a, QByteArrayView b) {
 
 inline bool comesBefore(QByteArrayView a, QByteArrayView b) { return compareKeys(a, b) < 0; }
 
+// Of containers by such keys, which look one up by the bytes of a row.
+struct KeyHash {
+    using is_transparent = void;
+    size_t operator()(QByteArrayView key) const {
+        size_t hash = 14695981039346656037U;
+        for (const char letter : key)
+            hash = (hash ^ static_cast<unsigned char>(foldedLetter(letter))) * 1099511628211U;
+        return hash ^ hash >> 32;
+    }
+};
+struct KeyEqual {
+    using is_transparent = void;
+    bool operator()(QByteArrayView a, QByteArrayView b) const {
+        return a.size() == b.size() && compareKeys(a, b) == 0;
+    }
+};
+
 inline QByteArray foldedKey(QByteArrayView key) {
     QByteArray folded = key.toByteArray();
     std::transform(folded.begin(), folded.end(), folded.begin(), foldedLetter);

@@ -2,11 +2,15 @@
 
 #include "books/balances.h"
 #include "books/item_costs.h"
+#include "books/key_numbers.h"
 #include "books/numbering.h"
 #include "books/passed_over.h"
 #include "books/stock_rows.h"
 #include "foundation/shared_routines.h"
 #include "platform/store/bulk.h"
+
+#include <algorithm>
+#include <tuple>
 
 static QString stockInsert(const char* quantity, const char* price) {
     return QString(
@@ -95,28 +99,67 @@ Currency ValuationCost(Connection& store, const QDate& from, const QDate& to, co
     return toldFigure(boxes, [&] { return layersValue(store, from, to, itemCode); });
 }
 
-// From the last row of one item to that of the next; false: there is none.
-static bool passItem(BulkReader& row, KeyedFigures& values, Boxes& boxes) {
-    const QByteArray item = row.bytes(3).toByteArray();
-    LayersOnHand layers(row.currency(2));
-    bool more = true;
-    for (; more && compareKeys(row.bytes(3), item) == 0; more = row.next()) try {
-            layers.take(row.currency(0), row.currency(1));
+namespace {
+// A row of the ledger, by numbers: all of them are read as they lie, which takes a third of the time that the
+// engine takes to bring them in their order.
+struct LedgerRow {
+    int item, date, book;
+    qint64 key;
+    Currency stockIn, price, balance;
+};
+
+struct LedgerRows {
+    KeyNumbers items, dates, books;
+    std::vector<LedgerRow> rows;
+};
+}  // namespace
+
+static LedgerRows ledgerOf(Connection& store, const QDate& from, const QDate& to) {
+    LedgerRows ledger;
+    for (BulkReader row(store,
+                        {"SELECT v.ItemCode, v.TransDate, v.BookID, v.ZevRef, v.StockIn, v.InPrice, "
+                         "v.Balance FROM tblStockValuation v WHERE v.TransDate BETWEEN ? AND ? ORDER BY "
+                         "v.ZevRef",
+                         {from, to}});
+         row.next();)
+        ledger.rows.push_back({ledger.items.add(row.bytes(0)), ledger.dates.add(row.bytes(1)),
+                               ledger.books.add(row.bytes(2)), row.integer(3), row.currency(4),
+                               row.currency(5), row.currency(6)});
+    return ledger;
+}
+
+// Item by item, the newest row first.
+static void sortBackwards(LedgerRows& ledger) {
+    const std::vector<int> dates = ledger.dates.places(), books = ledger.books.places();
+    for (LedgerRow& row : ledger.rows) {
+        row.date = dates[static_cast<size_t>(row.date)];
+        row.book = books[static_cast<size_t>(row.book)];
+    }
+    std::ranges::sort(ledger.rows, std::ranges::greater(),
+                      [](const LedgerRow& row) { return std::tuple(row.item, row.date, row.book, row.key); });
+}
+
+// From the last row of an item to its first; the end of it is the last row of the next.
+using LedgerPlace = std::vector<LedgerRow>::const_iterator;
+static Currency valueOfItem(LedgerPlace& row, LedgerPlace end, Boxes& boxes) {
+    LayersOnHand layers(row->balance);
+    for (const int item = row->item; row != end && row->item == item; ++row) try {
+            layers.take(row->stockIn, row->price);
         } catch (const OverflowError& error) {
             boxes += exclamation("Error!", error.what());
             layers = LayersOnHand({});
         }
-    values[item] = layers.value();
-    return more;
+    return layers.value();
 }
 
 KeyedFigures ValuationCosts(Connection& store, const QDate& from, const QDate& to, Boxes& boxes) {
+    LedgerRows ledger = ledgerOf(store, from, to);
+    sortBackwards(ledger);
     KeyedFigures values;
-    BulkReader row(store, {"SELECT v.StockIn, v.InPrice, v.Balance, v.ItemCode FROM tblStockValuation v"
-                           " WHERE v.TransDate BETWEEN ? AND ?"
-                           " ORDER BY v.ItemCode DESC, v.TransDate DESC, v.BookID DESC, v.ZevRef DESC",
-                           {from, to}});
-    for (bool more = row.next(); more;) more = passItem(row, values, boxes);
+    for (LedgerPlace row = ledger.rows.cbegin(); row != ledger.rows.cend();) {
+        const QByteArray& item = ledger.items.at(row->item);
+        values[item] = valueOfItem(row, ledger.rows.cend(), boxes);
+    }
     return values;
 }
 

@@ -176,7 +176,7 @@ TEST_F(StockValuationTest, AValueBeyondTheRangeAndAPeriodWithoutRowsAreTold) {
     write("UPDATE tblStockValuation SET Balance = 20000");
     Boxes boxes;
     EXPECT_EQ(ValuationCost(store, day(1), day(1), "A", boxes), Currency());
-    EXPECT_EQ(ValuationCosts(store, day(1), day(1), boxes).of("A"), Currency());
+    EXPECT_EQ(ValuationCosts(store, day(1), day(1), boxes).of(QString("A")), Currency());
     EXPECT_EQ(PeriodSalesCost(store, day(2), day(9), "A", boxes), Currency());
     const Box overflow = exclamation("Error!", "Overflow");
     EXPECT_EQ(boxes, (Boxes{overflow, overflow, exclamation("Error!", "Invalid use of Null")}));
