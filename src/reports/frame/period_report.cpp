@@ -41,15 +41,24 @@ QString rangeText(const std::optional<Period>& period) {
     return period ? formatDate(period->from) + " To " + formatDate(period->to) : QString();
 }
 
-std::optional<ReportJobParts> runOfPeriod(Connection& store, const PeriodReport& report,
-                                          const std::optional<Period>& period) {
+static RunTexts textsOf(Connection& store, const PeriodReport& report, const std::optional<Period>& period) {
     RunTexts texts = companyTexts(store);
     texts.labels.insert(report.labels);
     texts.range = rangeText(period);
     texts.processing = report.processing;
-    return reportOfQuery(store, report.layout,
-                         Sql(report.rows) +
-                             whereAll(report.conditions + QList{inPeriod(report.dateColumn, period)}) +
-                             Sql(report.order),
-                         report.events, texts);
+    return texts;
+}
+
+std::optional<ReportJobParts> runOfPeriod(Connection& store, const PeriodReport& report,
+                                          const std::optional<Period>& period) {
+    const RunTexts texts = textsOf(store, report, period);
+    if (!report.worked)
+        return reportOfQuery(store, report.layout,
+                             Sql(report.rows) +
+                                 whereAll(report.conditions + QList{inPeriod(report.dateColumn, period)}) +
+                                 Sql(report.order),
+                             report.events, texts);
+    auto rows = report.worked(store, period);
+    if (!rows) return {};
+    return ReportJobParts{report.layout, std::move(rows), report.events, texts};
 }

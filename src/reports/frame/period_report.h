@@ -50,6 +50,9 @@ struct PeriodReport {
     QHash<QString, QString> labels = {};  // besides those of the company
     QList<Sql> conditions = {};           // of its rows, before that of the period: "ContactName = ?"
     QString processing = {};              // what the status screen says while it works
+    // Instead of the query: the rows of the period worked out in memory; null when there are none.
+    std::function<std::unique_ptr<ReportSource>(Connection& store, const std::optional<Period>& period)>
+        worked = {};
 };
 // Its run; none when no row lies in the period.
 std::optional<ReportJobParts> runOfPeriod(Connection& store, const PeriodReport& report,

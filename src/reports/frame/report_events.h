@@ -2,6 +2,7 @@
 #include "reports/frame/report_layout.h"
 #include "reports/frame/report_source.h"
 
+#include <QAnyStringView>
 #include <QHash>
 #include <functional>
 #include <memory>
@@ -16,35 +17,47 @@ class SectionFields {
     explicit SectionFields(const ReportSection& section)
         : section_(&section), states_(section.controls.size()) {}
 
-    QString text(const QString& name) const { return states_[indexOf(name)].text; }
-    void setText(const QString& name, const QString& text) { states_[indexOf(name)].text = text; }
-    void setVisible(const QString& name, bool visible) { states_[indexOf(name)].isVisible = visible; }
-    void setPicture(const QString& name, const QString& path) { states_[indexOf(name)].text = path; }
+    QString text(QAnyStringView name) const { return shownText(indexOf(name)); }
+    void setText(QAnyStringView name, const QString& text) { state(indexOf(name)).show(text); }
+    void setVisible(QAnyStringView name, bool visible) { states_[indexOf(name)].isVisible = visible; }
+    void setPicture(QAnyStringView name, const QString& path) { setText(name, path); }
     // A computed figure, shown in the field's mask. Sums of the field's name add it up.
-    void setFigure(const QString& name, Currency figure);
+    void setFigure(QAnyStringView name, Currency figure) { state(indexOf(name)).show(figure); }
     // What the field sums up, or the figure that it was given; 0 where it has none.
-    Currency figure(const QString& name) const { return states_[indexOf(name)].figure.value_or(Currency()); }
+    Currency figure(QAnyStringView name) const { return states_[indexOf(name)].figure.value_or(Currency()); }
     // The report ends: what has not been printed of its rows does not print. The row of the heading or of the
     // line that is being formatted has not.
     void endReport() { isLast_ = true; }
-    void setSubReport(const QString& name, std::shared_ptr<ReportJobParts> run) {
+    void setSubReport(QAnyStringView name, std::shared_ptr<ReportJobParts> run) {
         states_[indexOf(name)].subReport = std::move(run);
     }
 
     struct State {
-        QString text;
+        QString text = {};
         bool isVisible = true;
+        bool showsFigure = false;  // instead of the text
         std::optional<Currency> figure = {};
-        std::shared_ptr<ReportJobParts> subReport;
+        std::shared_ptr<ReportJobParts> subReport = {};
+
+        void show(const QString& shown) {
+            text = shown;
+            showsFigure = false;
+        }
+        void show(Currency shown) {
+            figure = shown;
+            showsFigure = true;
+        }
     };
     // By the place of the control in its section.
     State& state(qsizetype control) { return states_[control]; }
     const State& state(qsizetype control) const { return states_[control]; }
+    // Its text, or its figure in the control's mask.
+    QString shownText(qsizetype control) const;
     const ReportSection& section() const { return *section_; }
     bool endsReport() const { return isLast_; }
 
   private:
-    qsizetype indexOf(const QString& name) const;
+    qsizetype indexOf(QAnyStringView name) const;
 
     const ReportSection* section_;
     QList<State> states_;

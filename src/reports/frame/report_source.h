@@ -14,6 +14,9 @@ class ReportSource {
     virtual Currency currency(const QString& column) const = 0;  // of any number: a count of 5 is 5
     virtual QDateTime dateTime(const QString& column) const = 0;
     virtual bool isNull(const QString& column) const = 0;
+    virtual QDate date(const QString& column) const { return dateTime(column).date(); }
+    // A text as it is stored, to look up what belongs to it.
+    virtual QByteArray key(const QString& column) const { return text(column).toUtf8(); }
 };
 
 // The rows of a query.
@@ -36,7 +39,9 @@ class RecordsetSource : public ReportSource {
                                                          : rows_.currency(column);
     }
     QDateTime dateTime(const QString& column) const override { return rows_.dateTime(column); }
+    QDate date(const QString& column) const override { return rows_.date(column); }
     bool isNull(const QString& column) const override { return rows_.isNull(column); }
+    QByteArray key(const QString& column) const override { return rows_.text(column).toUtf8(); }
 
   private:
     Recordset rows_;

@@ -190,8 +190,7 @@ void ReportWalk::fill(const ReportControl& control, SectionFields::State& state,
         state.text = control.text.isEmpty() ? texts_.labels.value(control.name) : control.text;
     } else if (control.shows == Shows::Sum || control.shows == Shows::Count) {
         if (!band.sums) return;
-        state.figure = band.sums->of(control);
-        state.text = figureText(*state.figure, control.mask);
+        state.show(band.sums->of(control));
     } else if (control.shows != Shows::Column) {
         state.text = ownText(control, band.page);
     } else if (!control.column.isEmpty()) {

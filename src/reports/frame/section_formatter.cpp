@@ -11,16 +11,15 @@
 #include <cstring>
 #include <stdexcept>
 
-qsizetype SectionFields::indexOf(const QString& name) const {
+qsizetype SectionFields::indexOf(QAnyStringView name) const {
     for (qsizetype i = 0; i < section_->controls.size(); ++i)
-        if (section_->controls[i].name == name) return i;
-    throw std::logic_error(("the section has no control " + name).toStdString());
+        if (name == section_->controls[i].name) return i;
+    throw std::logic_error(("the section has no control " + name.toString()).toStdString());
 }
 
-void SectionFields::setFigure(const QString& name, Currency figure) {
-    const qsizetype control = indexOf(name);
-    states_[control].figure = figure;
-    states_[control].text = figureText(figure, section_->controls[control].mask);
+QString SectionFields::shownText(qsizetype control) const {
+    const State& state = states_[control];
+    return state.showsFigure ? figureText(*state.figure, section_->controls[control].mask) : state.text;
 }
 
 QString figureText(Currency figure, const char* mask) {
@@ -30,7 +29,8 @@ QString figureText(Currency figure, const char* mask) {
 QString fieldText(const ReportSource& row, const QString& column, const char* mask) {
     if (row.isNull(column)) return {};
     if (!mask) return row.text(column);
-    if (std::strpbrk(mask, "ymdhs")) return formatDateTime(row.dateTime(column), mask);
+    if (std::strpbrk(mask, "hs")) return formatDateTime(row.dateTime(column), mask);
+    if (std::strpbrk(mask, "ymd")) return formatDate(row.date(column), mask);
     return formatNumber(row.currency(column), mask);
 }
 
@@ -74,7 +74,7 @@ class Layer {
 
     FormattedSection lay() {
         formatted_.height = section_.height;
-        for (const qsizetype index : fromTheTop()) layControl(section_.controls[index], fields_.state(index));
+        for (const qsizetype index : fromTheTop()) layControl(index);
         formatted_.lastRow = besideWholes(formatted_, formatted_.lastRow);
         return std::move(formatted_);
     }
@@ -101,11 +101,13 @@ class Layer {
         return shift;
     }
 
-    void layControl(const ReportControl& control, State& state) {
+    void layControl(qsizetype index) {
+        const ReportControl& control = section_.controls[index];
+        const State& state = fields_.state(index);
         if (!state.isVisible) return;
         const int top = control.top + shiftAt(control.top);
         const int height = state.subReport ? laySubReport(control, *state.subReport, top)
-                                           : layItem(control, state.text, top);
+                                           : layItem(control, fields_.shownText(index), top);
         const int grown = top - control.top + height - control.height;
         if (grown > 0) growths_ += {control.top, control.top + control.height, grown};
         // The space that the section keeps below its lowest control stays.
