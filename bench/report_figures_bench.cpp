@@ -190,7 +190,10 @@ void measure(Connection& store, const MeasuredReport& report, int runs) {
 
 void cost(Connection& store) { RecomputeStockValuation(store, Progress::none()); }
 
-void costAndSumUp(Connection& store) { cost(store); }
+void costAndSumUp(Connection& store) {
+    RecomputeInventoryBalances(store, Progress::none());
+    cost(store);
+}
 
 std::function<Made(Connection&)> journal(const char* kind, const char* option) {
     return [=](Connection& store) {

@@ -9,14 +9,11 @@
 #include "platform/ui/boxes.h"
 #include "platform/ui/frmStatus.h"
 #include "reports/frame/list_report.h"
-#include "reports/journals/payment_discount.h"
 #include "reports/profitability/profitability_figures.h"
 
 namespace {
 constexpr const char* processing = "System is Processing Stock Card...";
-constexpr const char* salesOfItem = " FROM tblStockValuation WHERE ItemCode = ? AND BookID = 'S'";
 
-using Figures = QHash<QString, Currency>;
 using Span = std::optional<Period>;
 
 // Below the totals: what is left, what it is worth, and what the sales cost.
@@ -39,29 +36,28 @@ ReportLayout withFootings(ReportLayout layout) {
     return layout;
 }
 
-// The first figure of each sale that the statement finds.
-Figures firstOfSales(Connection& store, const Sql& figures) {
-    Figures first;
-    for (BulkReader row(store, figures); row.next();) {
-        const QString sale = discountKey(row.text(0));
-        if (!first.contains(sale)) first.insert(sale, row.currency(1));
-    }
+// The first figure of each document that the statement finds.
+KeyedFigures firstOfDocuments(Connection& store, const Sql& figures) {
+    KeyedFigures first;
+    for (BulkReader row(store, figures); row.next();) first.giveFirst(row.bytes(0), row.currency(1));
     return first;
 }
 
-Sql ofSales(const char* figures, const QString& item, const Span& period) {
-    Sql sales(QString("%1 IN (SELECT Reference%2").arg(figures, salesOfItem), {item});
-    if (period) sales += Sql(" AND ") + inPeriod("TransDate", period);
-    return sales + Sql(")");
+// Whatever their book: told to look for sales, the engine walks the sales of all items.
+Sql ofDocuments(const char* figures, const QString& item, const Span& period) {
+    Sql documents(QString("%1 IN (SELECT Reference FROM tblStockValuation WHERE ItemCode = ?").arg(figures),
+                  {item});
+    if (period) documents += Sql(" AND ") + inPeriod("TransDate", period);
+    return documents + Sql(")");
 }
 
 FormatEvent movement(Connection& store, const QString& item, const Span& period) {
     return [charged = chargedOnSales(store, item, period)](const ReportSource& row, SectionFields& fields) {
         const Currency out = row.currency("StockOut");
-        const QString sale = discountKey(row.text("Reference"));
+        const QByteArray sale = row.key("Reference");
         const bool isSale = row.text("BookID").compare("S", Qt::CaseInsensitive) == 0;
         const Currency price =
-            isSale && charged.contains(sale) ? perUnit(charged.value(sale), out) : row.currency("OutPrice");
+            isSale && charged.contains(sale) ? perUnit(charged.of(sale), out) : row.currency("OutPrice");
         fields.setFigure("txtSelling", price);
         fields.setFigure("txtCostAmount", row.currency("StockIn") * row.currency("InPrice"));
         fields.setFigure("txtSellingAmount", out * price);
@@ -89,15 +85,17 @@ QString titleOf(Connection& store, const QString& code) {
 }
 }  // namespace
 
-QHash<QString, Currency> chargedOnSales(Connection& store, const QString& item, const Span& period) {
-    Figures charged = firstOfSales(
-        store, Sql("SELECT Reference, Total FROM tblSalesDetails WHERE ItemID = ? AND ", {item}) +
-                   ofSales("Reference", item, period));
-    const Figures percents = firstOfSales(
-        store, ofSales("SELECT Reference, Discount FROM tblReceiptDetails WHERE Reference", item, period) +
-                   Sql(" ORDER BY ZevRef"));
-    for (auto sale = charged.begin(); sale != charged.end(); ++sale)
-        *sale = NetOfPercent(percents.value(sale.key()), *sale);
+KeyedFigures chargedOnSales(Connection& store, const QString& item, const Span& period) {
+    const KeyedFigures percents = firstOfDocuments(
+        store,
+        ofDocuments("SELECT Reference, Discount FROM tblReceiptDetails WHERE Reference", item, period) +
+            Sql(" ORDER BY ZevRef"));
+    KeyedFigures charged;
+    for (BulkReader line(store,
+                         Sql("SELECT Reference, Total FROM tblSalesDetails WHERE ItemID = ? AND ", {item}) +
+                             ofDocuments("Reference", item, period));
+         line.next();)
+        charged.giveFirst(line.bytes(0), NetOfPercent(percents.of(line.bytes(0)), line.currency(1)));
     return charged;
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include "books/keyed_figures.h"
 #include "reports/frame/period_report.h"
 
 // The movements of one item in the ledger, by date, purchases before sales, with their amounts.
@@ -9,6 +10,5 @@ const ReportLayout& prtStockCard();
 std::optional<ReportJobParts> stockCardReport(Connection& store, const PrintRequest& request);
 
 // What was charged for an item on each sale of the period, less the percent of the sale's first payment, by
-// discountKey of the sale's number: two statements.
-QHash<QString, Currency> chargedOnSales(Connection& store, const QString& item,
-                                        const std::optional<Period>& period);
+// the sale's number: two statements.
+KeyedFigures chargedOnSales(Connection& store, const QString& item, const std::optional<Period>& period);

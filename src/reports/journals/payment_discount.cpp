@@ -1,39 +1,43 @@
 #include "reports/journals/payment_discount.h"
 
 #include "foundation/shared_routines.h"
-#include "platform/parsing.h"
 #include "platform/store/bulk.h"
 
 namespace {
-// A line, and the percent of its sale's first payment. Sales that got none are left out.
-Sql discountedLines(const char* key) {
-    return QString(
-               "SELECT line.%1, line.UnitPrice, line.Discount, line.Served, paid.Discount FROM "
-               "tblSalesDetails AS line INNER JOIN tblReceiptDetails AS paid ON paid.ZevRef = (SELECT "
-               "MIN(ZevRef) FROM tblReceiptDetails WHERE Reference = line.Reference) AND paid.Discount <> 0")
-        .arg(key);
+// The percent of the first payment of each sale.
+KeyedFigures firstPercents(Connection& store, const Sql& sales) {
+    KeyedFigures percents;
+    for (BulkReader paid(
+             store, Sql("SELECT Reference, Discount FROM tblReceiptDetails") + sales + " ORDER BY ZevRef");
+         paid.next();)
+        percents.giveFirst(paid.bytes(0), paid.currency(1));
+    return percents;
 }
 
-QHash<QString, Currency> summedUp(Connection& store, const Sql& lines) {
-    QHash<QString, Currency> discounts;
-    for (BulkReader line(store, lines); line.next();) {
+// Lines of sales that got none count nothing.
+KeyedFigures summedUp(Connection& store, const char* key, const Sql& sales) {
+    const KeyedFigures percents = firstPercents(store, sales);
+    KeyedFigures discounts;
+    const QString lines = "SELECT Reference, UnitPrice, Discount, Served, %1 FROM tblSalesDetails";
+    for (BulkReader line(store, Sql(lines.arg(key)) + sales); line.next();) {
+        const Currency percent = percents.of(line.bytes(0));
+        if (percent.isZero()) continue;
         const Currency price = line.currency(1);
         const Currency net = price - PercentOf(line.currency(2), price);
-        discounts[discountKey(line.text(0))] += PercentOf(line.currency(4), net) * line.currency(3);
+        discounts[line.bytes(4)] += PercentOf(percent, net) * line.currency(3);
     }
     return discounts;
 }
 }  // namespace
 
-QString discountKey(const QString& code) { return trim(code).toLower(); }
-
-QHash<QString, Currency> discountsOfSales(Connection& store, const std::optional<Period>& period) {
-    if (!period) return summedUp(store, discountedLines("Reference"));
-    return summedUp(store, discountedLines("Reference") +
-                               " WHERE line.Reference IN (SELECT RefNo FROM tblSalesMaster" +
-                               wherePeriod("RefDate", period) + ")");
+Sql ofSales(const char* before, const std::optional<Period>& period) {
+    if (!period) return {};
+    return Sql(before) + Sql("Reference IN (SELECT RefNo FROM tblSalesMaster") +
+           wherePeriod("RefDate", period) + Sql(")");
 }
 
-QHash<QString, Currency> discountsOfItems(Connection& store) {
-    return summedUp(store, discountedLines("ItemID"));
+KeyedFigures discountsOfSales(Connection& store, const std::optional<Period>& period) {
+    return summedUp(store, "Reference", ofSales(" WHERE ", period));
 }
+
+KeyedFigures discountsOfItems(Connection& store) { return summedUp(store, "ItemID", {}); }

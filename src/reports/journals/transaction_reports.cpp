@@ -4,9 +4,11 @@
 #include "platform/box.h"
 #include "platform/progress_scope.h"
 #include "platform/ui/frmStatus.h"
+#include "reports/journals/item_sums.h"
 #include "reports/journals/payment_discount.h"
 #include "reports/journals/transaction_layouts.h"
 #include "reports/profitability/profitability_events.h"
+#include "reports/profitability/profitability_figures.h"
 #include "reports/profitability/profitability_layouts.h"
 
 #include <algorithm>
@@ -14,26 +16,27 @@
 
 namespace {
 using Events = ReportEvents (*)(Connection& store, const std::optional<Period>& period);
+using Worked = std::unique_ptr<ReportSource> (*)(Connection& store, const std::optional<Period>& period);
 
 struct JournalReport {
     const char* kind;
     const char* option;
     const ReportLayout& (*layout)();
     const char* title;
-    const char* rows;
+    const char* rows;  // null: they are worked out
     const char* dateColumn;
     const char* order;
     Events events = nullptr;
     std::array<const char*, 3> heads = {};  // of number, contact and remarks, where the list has none
     const char* processing = nullptr;  // of a report that rests on the costing: what the status screen says
+    Worked worked = nullptr;
 };
 
 // What a document is worth after the discount that its payment was given.
 ReportEvents netOfDocuments(Connection& store, const std::optional<Period>& period) {
     return {{on(SectionKind::Detail),
              [discounts = discountsOfSales(store, period)](const ReportSource& row, SectionFields& fields) {
-                 fields.setFigure("txtAmount", row.currency("TotalAmount") -
-                                                   discounts.value(discountKey(row.text("RefNo"))));
+                 fields.setFigure("txtAmount", row.currency("TotalAmount") - discounts.of(row.key("RefNo")));
              }}};
 }
 
@@ -41,10 +44,18 @@ ReportEvents netOfDocuments(Connection& store, const std::optional<Period>& peri
 ReportEvents netOfItems(Connection& store, const std::optional<Period>&) {
     return {{on(SectionKind::Detail),
              [discounts = discountsOfItems(store)](const ReportSource& row, SectionFields& fields) {
-                 const Currency discount = discounts.value(discountKey(row.text("ItemID")));
+                 const Currency discount = discounts.of(row.text("ItemID"));
                  fields.setFigure("txtDiscount", discount);
                  fields.setFigure("txtNetTotal", row.currency("SumTotal") - discount);
              }}};
+}
+
+std::unique_ptr<ReportSource> soldItems(Connection& store, const std::optional<Period>& period) {
+    return sumsOfItems(store, DocumentLines::Side::Sales, wherePeriod("RefDate", period));
+}
+
+std::unique_ptr<ReportSource> boughtItems(Connection& store, const std::optional<Period>& period) {
+    return sumsOfItems(store, DocumentLines::Side::Purchases, wherePeriod("PurchaseDate", period));
 }
 
 constexpr const char* processingProfit = "System is Processing Profitability Report...";
@@ -53,8 +64,8 @@ constexpr const char* byContact =
     " ORDER BY tblContactMaster.ContactName, tblContactMaster.TelNo, tblContactMaster.Address";
 
 constexpr const char* salesOfContacts =
-    "SELECT tblContactMaster.ContactName, tblSalesMaster.* FROM tblContactMaster INNER JOIN tblSalesMaster "
-    "ON "
+    "SELECT tblContactMaster.ContactName, tblSalesMaster.RefNo, tblSalesMaster.RefDate, "
+    "tblSalesMaster.TotalAmount, tblSalesMaster.Remarks FROM tblContactMaster INNER JOIN tblSalesMaster ON "
     "tblContactMaster.ContactID = tblSalesMaster.ContactNo";
 
 constexpr const char* salesByDay = " ORDER BY tblSalesMaster.RefDate, tblSalesMaster.RefNo";
@@ -62,15 +73,17 @@ constexpr const char* salesByDay = " ORDER BY tblSalesMaster.RefDate, tblSalesMa
 const JournalReport reports[] = {
     {"S", "optSummary", prtSalesReport, "Sales Summary Report", salesOfContacts, "tblSalesMaster.RefDate",
      salesByDay, netOfDocuments},
-    {"S", "optDetailed", prtSalesDetails, "Sales Details Report",
-     "SELECT tblSalesDetails.ItemID, tblSalesDetails.Unit, SUM(tblSalesDetails.Served) AS SumQty, "
-     "SUM(tblSalesDetails.Total) AS SumTotal, tblItemMaster.Description FROM (tblSalesDetails INNER JOIN "
-     "tblSalesMaster ON tblSalesDetails.Reference = tblSalesMaster.RefNo) INNER JOIN tblItemMaster ON "
-     "tblSalesDetails.ItemID = tblItemMaster.ItemCode",
-     "tblSalesMaster.RefDate",
-     " GROUP BY tblSalesDetails.Unit, tblSalesDetails.ItemID, tblItemMaster.Description"
-     " ORDER BY tblSalesDetails.ItemID, tblSalesDetails.Unit",
-     netOfItems},
+    {"S",
+     "optDetailed",
+     prtSalesDetails,
+     "Sales Details Report",
+     nullptr,
+     nullptr,
+     nullptr,
+     netOfItems,
+     {},
+     nullptr,
+     soldItems},
     {"R", "optSummary", prtReceiptSummary, "Payment Receipt Summary Report",
      "SELECT SUM(tblReceiptMaster.PaymentAmount) AS SumTotal, SUM(tblReceiptMaster.TotalDiscAmount) AS "
      "SumDiscount, tblContactMaster.ContactName, tblContactMaster.TelNo, tblContactMaster.Address FROM "
@@ -94,16 +107,17 @@ const JournalReport reports[] = {
      " ORDER BY tblPurchaseMaster.PurchaseDate, tblPurchaseMaster.PurchaseNo",
      nullptr,
      {"P.O. No.", "Supplier Name", "Particulars"}},
-    {"P", "optDetailed", prtTransactionDetails, "Purchase Details Report",
-     "SELECT tblPurchaseDetails.ItemID, tblPurchaseDetails.Unit, SUM(tblPurchaseDetails.Delivered) AS "
-     "SumQty, "
-     "SUM(tblPurchaseDetails.Total) AS SumTotal, tblItemMaster.Description FROM (tblPurchaseDetails INNER "
-     "JOIN "
-     "tblPurchaseMaster ON tblPurchaseDetails.Reference = tblPurchaseMaster.PurchaseNo) INNER JOIN "
-     "tblItemMaster ON tblPurchaseDetails.ItemID = tblItemMaster.ItemCode",
-     "tblPurchaseMaster.PurchaseDate",
-     " GROUP BY tblPurchaseDetails.Unit, tblPurchaseDetails.ItemID, tblItemMaster.Description"
-     " ORDER BY tblPurchaseDetails.ItemID, tblPurchaseDetails.Unit"},
+    {"P",
+     "optDetailed",
+     prtTransactionDetails,
+     "Purchase Details Report",
+     nullptr,
+     nullptr,
+     nullptr,
+     nullptr,
+     {},
+     nullptr,
+     boughtItems},
     {"D", "optSummary", prtTransactionPayments, "Disbursement Summary Report",
      "SELECT SUM(tblDisbursementMaster.VoucherAmount) AS SumTotal, tblContactMaster.ContactName, "
      "tblContactMaster.TelNo, tblContactMaster.Address FROM tblDisbursementMaster INNER JOIN "
@@ -136,15 +150,13 @@ const JournalReport reports[] = {
      "optDetailed",
      prtProfitabilityDetails,
      "Sales Profitability Report",
-     "SELECT tblSalesDetails.*, tblSalesMaster.RefNo, tblSalesMaster.RefDate, tblSalesMaster.Remarks, "
-     "tblSalesMaster.TotalAmount, tblItemMaster.Description FROM (tblSalesMaster INNER JOIN tblSalesDetails "
-     "ON tblSalesMaster.RefNo = tblSalesDetails.Reference) LEFT OUTER JOIN tblItemMaster ON "
-     "tblSalesDetails.ItemID = tblItemMaster.ItemCode",
-     "tblSalesMaster.RefDate",
-     " ORDER BY tblSalesDetails.ItemID, tblSalesMaster.RefDate, tblSalesMaster.RefNo",
+     nullptr,
+     nullptr,
+     nullptr,
      profitOfLines,
      {},
-     processingProfit}};
+     processingProfit,
+     soldLines}};
 
 const JournalReport* asked(const PrintRequest& request) {
     const auto* report = std::ranges::find_if(reports, [&](const JournalReport& row) {
@@ -175,7 +187,8 @@ static std::optional<ReportJobParts> run(Connection& store, const JournalReport&
                         .order = report.order,
                         .events = report.events ? report.events(store, period) : ReportEvents(),
                         .labels = labelsOf(report),
-                        .processing = report.processing},
+                        .processing = report.processing,
+                        .worked = report.worked},
                        period);
 }
 

@@ -40,7 +40,7 @@ std::optional<ReportJobParts> contactListReport(Connection& store, const Sql& qu
     texts.labels.insert("lblCount", count);
     const auto line = [receivable = CustomerBalances(store), payable = SupplierBalances(store)](
                           const ReportSource& row, SectionFields& fields) {
-        const QString contact = row.text("ContactID");
+        const QByteArray contact = row.key("ContactID");
         fields.setText("txtTerm", termText(row.currency("Terms")));
         fields.setFigure("txtReceivable", receivable.of(contact));
         fields.setFigure("txtPayable", payable.of(contact));

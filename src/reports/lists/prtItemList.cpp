@@ -1,5 +1,6 @@
 #include "reports/lists/prtItemList.h"
 
+#include "books/balances.h"
 #include "books/stock_valuation.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/frmStatus.h"
@@ -31,9 +32,11 @@ const ReportLayout& prtItemList() {
     return layout;
 }
 
-// The ledger is costed anew: what was dropped from a document since the last end of day has no value here.
+// The stock is summed up and the ledger costed anew: what was dropped from a document since is neither on hand
+// nor worth anything here.
 static KeyedFigures stockValues(Connection& store) {
     frmStatus status;
+    RecomputeInventoryBalances(store, status);
     RecomputeStockValuation(store, status);
     Boxes failures;
     const KeyedFigures values = StockValues(store, failures);
@@ -45,7 +48,7 @@ std::optional<ReportJobParts> itemListReport(Connection& store, const Sql& query
     RunTexts texts = companyTexts(store);
     texts.labels.insert("lblCount", count);
     const auto line = [values = stockValues(store)](const ReportSource& row, SectionFields& fields) {
-        fields.setFigure("txtInventoryAmount", values.of(row.text("ItemCode")));
+        fields.setFigure("txtInventoryAmount", values.of(row.key("ItemCode")));
     };
     return reportOfQuery(store, prtItemList(), query, {{on(SectionKind::Detail), line}}, texts);
 }

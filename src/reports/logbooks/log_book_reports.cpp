@@ -5,15 +5,13 @@
 #include "platform/clock.h"
 #include "platform/masks.h"
 #include "reports/frame/credit_terms.h"
+#include "reports/logbooks/log_book_rows.h"
 #include "reports/logbooks/log_books.h"
 
 namespace {
-// A document, and one row for each of its payments; one without payments comes once.
 struct LogBook {
     const ReportLayout& (*layout)();
-    const char* rows;
-    const char* date;
-    const char* order;
+    LogBookTables tables;
     FormatEvent pageHeading = {};
     FormatEvent document;
     KeyedFigures (*balances)(Connection& store, const Sql& contacts);
@@ -28,46 +26,41 @@ void fillNet(const ReportSource& row, SectionFields& fields) {
 }
 
 void fillDueDate(const ReportSource& row, SectionFields& fields) {
-    fields.setText("txtDueDate",
-                   formatDate(dueDate(row.dateTime("PurchaseDate").date(), row.currency("Terms"))));
+    fields.setText("txtDueDate", formatDate(dueDate(row.date("PurchaseDate"), row.currency("Terms"))));
 }
 
 const LogBook& bookOf(const QString& kind) {
     static const LogBook receivable{
         .layout = prtReceivableLogBook,
-        .rows =
-            "SELECT tblContactMaster.ContactID, tblContactMaster.ContactName, tblContactMaster.Address, "
-            "tblContactMaster.TelNo, tblSalesMaster.RefNo, tblSalesMaster.RefDate, tblSalesMaster.Remarks, "
-            "tblSalesMaster.TotalAmount, (SELECT SUM(DiscountAmount) FROM tblReceiptDetails WHERE Reference "
-            "= "
-            "tblSalesMaster.RefNo) AS Granted, paid.Amount, paid.CheckNo, tblReceiptMaster.PayRemarks FROM "
-            "((tblSalesMaster INNER JOIN tblContactMaster ON tblSalesMaster.ContactNo = "
-            "tblContactMaster.ContactID) LEFT JOIN tblReceiptDetails AS paid ON paid.Reference = "
-            "tblSalesMaster.RefNo) LEFT JOIN tblReceiptMaster ON tblReceiptMaster.PayNo = paid.PayCode",
-        .date = "tblSalesMaster.RefDate",
-        .order =
-            " ORDER BY tblContactMaster.ContactName, tblContactMaster.ContactID, tblSalesMaster.RefDate, "
-            "tblSalesMaster.RefNo, paid.ZevRef",
+        .tables = {.master = "tblSalesMaster",
+                   .number = "RefNo",
+                   .date = "RefDate",
+                   .amount = "TotalAmount",
+                   .payments =
+                       "SELECT paid.Reference, paid.Amount, paid.DiscountAmount, paid.CheckNo, "
+                       "tblReceiptMaster.PayRemarks, NULL, NULL, paid.ZevRef FROM tblReceiptDetails AS "
+                       "paid LEFT JOIN tblReceiptMaster ON tblReceiptMaster.PayNo = paid.PayCode",
+                   .paidNumber = "paid.Reference",
+                   .paymentFilter = "",
+                   .payment = "Amount",
+                   .texts = {"CheckNo", "PayRemarks"}},
         .pageHeading = fillAddress,
         .document = fillNet,
         .balances = CustomerBalances};
     static const LogBook payable{
         .layout = prtPayableLogBook,
-        .rows =
-            "SELECT tblContactMaster.ContactID, tblContactMaster.ContactName, tblContactMaster.Terms, "
-            "tblPurchaseMaster.PurchaseNo, tblPurchaseMaster.PurchaseDate, tblPurchaseMaster.Remarks, "
-            "tblPurchaseMaster.PurchaseAmount, paid.PayAmount, paid.Particulars FROM ((tblPurchaseMaster "
-            "INNER JOIN tblContactMaster ON tblPurchaseMaster.ContactNo = tblContactMaster.ContactID) LEFT "
-            "JOIN tblDisbursementDetails AS paid ON paid.PuchaseID = tblPurchaseMaster.PurchaseNo AND "
-            "paid.DirectPayment = False) LEFT JOIN tblDisbursementMaster ON tblDisbursementMaster.VoucherNo "
-            "= "
-            "paid.VoucherID",
-        .date = "tblPurchaseMaster.PurchaseDate",
-        .order =
-            " ORDER BY tblContactMaster.ContactName, tblContactMaster.ContactID, "
-            "tblPurchaseMaster.PurchaseDate, tblPurchaseMaster.PurchaseNo, "
-            "tblDisbursementMaster.VoucherDate, "
-            "paid.VoucherID, paid.PayAmount, paid.Particulars",
+        .tables = {.master = "tblPurchaseMaster",
+                   .number = "PurchaseNo",
+                   .date = "PurchaseDate",
+                   .amount = "PurchaseAmount",
+                   .payments = "SELECT paid.PuchaseID, paid.PayAmount, 0, paid.Particulars, NULL, "
+                               "tblDisbursementMaster.VoucherDate, paid.VoucherID, paid.PayAmount FROM "
+                               "tblDisbursementDetails AS paid LEFT JOIN tblDisbursementMaster ON "
+                               "tblDisbursementMaster.VoucherNo = paid.VoucherID",
+                   .paidNumber = "paid.PuchaseID",
+                   .paymentFilter = "paid.DirectPayment = False",
+                   .payment = "PayAmount",
+                   .texts = {"Particulars", "#none"}},
         .document = fillDueDate,
         .balances = SupplierBalances};
     return kind == "P" ? payable : receivable;
@@ -88,19 +81,29 @@ FormatEvent endContact(KeyedFigures balances) {
     };
 }
 
-QList<Sql> asked(const PrintRequest& request) {
+// The condition of the contacts that are asked for; empty: of all.
+Sql asked(const PrintRequest& request) {
     if (request.contact.isEmpty()) return {};
-    return {Sql{"tblContactMaster.ContactName = ?", {request.contact}}};
+    return {" WHERE ContactName = ?", {request.contact}};
+}
+
+// One contact among all.
+Sql idsOf(const Sql& contacts) {
+    return contacts.isEmpty() ? Sql() : Sql("SELECT ContactID FROM tblContactMaster") + contacts;
+}
+
+Sql documentsOf(const LogBook& book, const PrintRequest& request) {
+    Sql ofContact;
+    if (const Sql ids = idsOf(asked(request)); !ids.isEmpty())
+        ofContact = Sql("ContactNo IN (") + ids + Sql(")");
+    return whereAll({ofContact, inPeriod(book.tables.date, periodOf(request))});
 }
 
 ReportEvents eventsOf(Connection& store, const LogBook& book, const PrintRequest& request) {
-    const Sql contacts = whereAll(asked(request));
     ReportEvents events{
         {on(SectionKind::GroupHeader2), book.document},
         {on(SectionKind::GroupFooter2), endDocument},
-        {on(SectionKind::GroupFooter1),
-         endContact(book.balances(
-             store, contacts.isEmpty() ? Sql() : Sql("SELECT ContactID FROM tblContactMaster") + contacts))}};
+        {on(SectionKind::GroupFooter1), endContact(book.balances(store, idsOf(asked(request))))}};
     if (book.pageHeading) events.insert(on(SectionKind::PageHeader), book.pageHeading);
     return events;
 }
@@ -129,13 +132,16 @@ std::optional<Fault> logBookFault(Connection& store, const PrintRequest& request
 std::optional<ReportJobParts> logBookReport(Connection& store, const PrintRequest& request) {
     const LogBook& book = bookOf(request.kind);
     const auto period = periodOf(request);
+    const auto rows = [&](Connection& books, const std::optional<Period>&) {
+        return logBookRows(books, book.tables, asked(request), documentsOf(book, request));
+    };
     return runOfPeriod(store,
                        {.layout = book.layout(),
-                        .rows = book.rows,
-                        .dateColumn = book.date,
-                        .order = book.order,
+                        .rows = {},
+                        .dateColumn = {},
+                        .order = {},
                         .events = eventsOf(store, book, request),
                         .labels = labelsOf(store, period),
-                        .conditions = asked(request)},
+                        .worked = rows},
                        period);
 }

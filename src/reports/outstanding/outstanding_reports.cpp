@@ -115,8 +115,13 @@ QString contactRows(const Outstanding& side) {
     const QString contact =
         "tblContactMaster.ContactName, tblContactMaster.Terms, tblContactMaster.TelNo, "
         "tblContactMaster.CreditLimit";
-    return QString("SELECT SUM(%1.Balance) AS %2, ").arg(side.table, side.sum) + contact +
-           openDocuments(side) + " GROUP BY " + contact + " ORDER BY " + side.summaryOrder +
+    // By contact first: the engine brings as many rows as there are contacts to those of one name.
+    return QString(
+               "SELECT SUM(owed.Amount) AS %1, %2 FROM (SELECT ContactNo, SUM(Balance) AS Amount FROM %3 "
+               "WHERE Balance <> 0 GROUP BY ContactNo) AS owed INNER JOIN tblContactMaster ON "
+               "owed.ContactNo = tblContactMaster.ContactID")
+               .arg(side.sum, contact, side.table) +
+           " GROUP BY " + contact + " ORDER BY " + side.summaryOrder +
            ", tblContactMaster.Terms, tblContactMaster.TelNo, tblContactMaster.CreditLimit";
 }
 
@@ -127,7 +132,7 @@ void fillTerm(const ReportSource& row, SectionFields& fields) {
 FormatEvent dueDocument(const Outstanding& side) {
     return [date = QString(side.date)](const ReportSource& row, SectionFields& fields) {
         fillTerm(row, fields);
-        fields.setText("txtDueDate", formatDate(dueDate(row.dateTime(date).date(), row.currency("Terms"))));
+        fields.setText("txtDueDate", formatDate(dueDate(row.date(date), row.currency("Terms"))));
     };
 }
 }  // namespace

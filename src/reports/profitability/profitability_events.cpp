@@ -29,9 +29,9 @@ ReportEvents profitOfSales(Connection& store, const std::optional<Period>& perio
     return {{on(SectionKind::Detail),
              [discounts = discountsOfSales(store, period), costs = costsOfSales(store, period)](
                  const ReportSource& row, SectionFields& fields) {
-                 const QString sale = discountKey(row.text("RefNo"));
-                 const Currency net = row.currency("TotalAmount") - discounts.value(sale);
-                 const Currency cost = costs.value(sale);
+                 const QByteArray sale = row.key("RefNo");
+                 const Currency net = row.currency("TotalAmount") - discounts.of(sale);
+                 const Currency cost = costs.of(sale);
                  fields.setFigure("txtGross", net);
                  fields.setFigure("txtCost", cost);
                  fields.setFigure("txtProfit", net - cost);
@@ -39,17 +39,14 @@ ReportEvents profitOfSales(Connection& store, const std::optional<Period>& perio
 }
 
 // And here it is the money that all payments of the sale took off, as a percent of its total.
-ReportEvents profitOfLines(Connection& store, const std::optional<Period>& period) {
-    return {{on(SectionKind::Detail),
-             [granted = grantedOnSales(store, period), costs = costsOfSoldItems(store, period)](
-                 const ReportSource& row, SectionFields& fields) {
-                 const QString sale = row.text("RefNo");
-                 showProfit({.served = row.currency("Served"),
-                             .price = row.currency("UnitPrice"),
-                             .discount = row.currency("Discount"),
-                             .payDiscount = percentOfTotal(granted.value(discountKey(sale)),
-                                                           row.currency("TotalAmount")),
-                             .cost = costs.value(soldItemKey(sale, row.text("ItemID")))},
-                            fields);
+ReportEvents profitOfLines(Connection&, const std::optional<Period>&) {
+    return {{on(SectionKind::Detail), [](const ReportSource& row, SectionFields& fields) {
+                 showProfit(
+                     {.served = row.currency("Served"),
+                      .price = row.currency("UnitPrice"),
+                      .discount = row.currency("Discount"),
+                      .payDiscount = percentOfTotal(row.currency("Granted"), row.currency("TotalAmount")),
+                      .cost = row.currency("Cost")},
+                     fields);
              }}};
 }

@@ -1,20 +1,16 @@
 #pragma once
-#include "platform/currency.h"
+#include "books/keyed_figures.h"
 #include "reports/frame/period_report.h"
 
-#include <QHash>
+// What the profit of the sales of a period is reckoned with. No period: of all sales.
 
-// What the profit of the sales of a period is reckoned with: one statement each, however many sales. No
-// period: of all sales.
+// The cost of each sale, by its number: one statement, however many sales.
+KeyedFigures costsOfSales(Connection& store, const std::optional<Period>& period);
+// The sold lines by item, date and number: those of the store's columns that the report shows, TotalAmount of
+// the sale, Cost of the item in the sale (that of its first row in the ledger), and Granted, the discount in
+// money that all payments of the sale were given. None: no line.
+std::unique_ptr<ReportSource> soldLines(Connection& store, const std::optional<Period>& period);
 
-// The cost of each sale, by discountKey of its number.
-QHash<QString, Currency> costsOfSales(Connection& store, const std::optional<Period>& period);
-// The cost of each item of each sale, by soldItemKey: that of its first row in the ledger.
-QHash<QString, Currency> costsOfSoldItems(Connection& store, const std::optional<Period>& period);
-// The discount that the payments of each sale were given in money, by discountKey of its number.
-QHash<QString, Currency> grantedOnSales(Connection& store, const std::optional<Period>& period);
-
-QString soldItemKey(const QString& sale, const QString& item);
 // The percent that a discount is of a total; 0 of a total of 0.
 Currency percentOfTotal(Currency discount, Currency total);
 // Through double precision; 0 where there is no quantity.

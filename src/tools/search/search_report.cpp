@@ -31,7 +31,7 @@ const ReportLayout& prtBookFound() {
 
 FormatEvent lineOf(const SearchJournal& journal) {
     return [&journal](const ReportSource& row, SectionFields& fields) {
-        const QDate date = row.dateTime(journal.date).date();
+        const QDate date = row.date(journal.date);
         const Currency terms = row.currency("Terms");
         const auto ifTerms = [&](const QString& text) { return journal.hasTerms ? text : notApplicable; };
         fields.setText("txtReference", row.text(journal.reference));
