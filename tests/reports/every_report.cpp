@@ -20,6 +20,9 @@
 #include "reports/outstanding/outstanding_reports.h"
 #include "reports/quotations/prtQuotation.h"
 #include "reports/quotations/prtSalesQuota.h"
+#include "tools/calculator/adding_machine.h"
+#include "tools/calculator/prtTape.h"
+#include "tools/search/search_report.h"
 
 namespace {
 using Made = std::optional<ReportJobParts>;
@@ -96,6 +99,22 @@ const KnownReport lists[] = {
               .contact = store.execute("SELECT MIN(ContactName) AS ID FROM tblContactMaster").text("ID")});
      }}};
 
+// The print-outs of the tools.
+Made found(Connection& store, const QString& kind, const QString& journal) {
+    return searchReport(store, std::get<Search>(prepareSearch({kind, journal, {}, {}, true})));
+}
+
+const KnownReport tools[] = {
+    {"search of items", [](Connection& store) { return found(store, "Inquire Item", {}); }},
+    {"search of contacts", [](Connection& store) { return found(store, "Inquire Contact Balance", {}); }},
+    {"search of sales",
+     [](Connection& store) { return found(store, "Inquire Transaction Balance", "Sales Journal"); }},
+    {"search of vouchers",
+     [](Connection& store) { return found(store, "Inquire Transaction Balance", "Disbursement Journal"); }},
+    {"tape", [](Connection&) {
+         return tapeReport({.lines = {"1,250.00 +", "-37.50 -", "1,212.50 ="}, .lastTotal = {}});
+     }}};
+
 PrintRequest ofAllDays(const QString& kind, const QString& selection) {
     return {.kind = kind, .selection = selection, .allDays = true};
 }
@@ -104,6 +123,7 @@ PrintRequest ofAllDays(const QString& kind, const QString& selection) {
 std::vector<KnownReport> everyReport() {
     std::vector<KnownReport> all(std::begin(documents), std::end(documents));
     all.insert(all.end(), std::begin(lists), std::end(lists));
+    all.insert(all.end(), std::begin(tools), std::end(tools));
     for (const QString& book : auditedBooks())
         all.push_back({book, [book](Connection& store) { return auditReport(store, ofAllDays({}, book)); }});
     for (const QString kind : {"S", "R", "P", "D", "PROFIT"})
