@@ -76,7 +76,7 @@ void CheckList::makeControls() {
     cmdSearch = form::button("cmdSearch", "&Search", "search");
     lvwRecord = new ListView("lvwRecord", listColumns(*words_.book));
     lvwRecord->setAccessibleName("Checks");
-    lvwRecord->setSortsByHeader(true);
+    lvwRecord->keepSort();
     lvwRecord->showMarks();
 }
 

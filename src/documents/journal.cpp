@@ -56,7 +56,7 @@ Journal::Journal(const JournalBook& book)
     form::setAccessibleFromTexts(this);
     connectControls();
     fitKeyFilter();
-    sortByOption();
+    openAsLeft();
 }
 
 QSize Journal::sizeHint() const {
@@ -196,15 +196,26 @@ void Journal::searchOrRefresh(Place place) {
 
 void Journal::applyOption() {
     if (!sortOptions_->checkedButton()) return;  // a heading gave the order
-    dbgMyGrid->showOrder({});
     for (qsizetype i = 0; i < sorts_.size(); ++i)
         if (sorts_[i]->isChecked()) return query_.setOrder(book_.sorts[i].order);
     query_.setPrintedFilter(optPrinted->isChecked(), searching());
 }
 
-void Journal::sortByOption() {
+// On what is not printed, sorted as the person left the journal the last time.
+void Journal::openAsLeft() {
+    const int column = dbgMyGrid->keptColumn();
+    if (column >= 0) query_.setFilteredOrder(book_.columns[column].order);
     applyOption();
     searchOrRefresh();
+    dbgMyGrid->showOrder(query_.order());
+}
+
+void Journal::sortByOption() {
+    query_.setFilteredOrder({});
+    applyOption();
+    searchOrRefresh();
+    dbgMyGrid->showOrder({});
+    dbgMyGrid->keepOrder(query_.order());
 }
 
 void Journal::RefreshRecord() {
@@ -220,6 +231,7 @@ void Journal::clearOptions() {
 }
 
 void Journal::sortByHeader(int column) {
+    query_.setFilteredOrder({});
     query_.setOrder(book_.columns[column].order);
     clearOptions();
     searchOrRefresh();

@@ -46,6 +46,7 @@ class Journal : public ChildScreen {
     void searchJournal(Place place = Place::Top);
     // Through the search when there is a search text, else as it stands.
     void searchOrRefresh(Place place = Place::Top);
+    void openAsLeft();
     void sortByOption();
     bool searching() const;
     void applyOption();

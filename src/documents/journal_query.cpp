@@ -28,7 +28,7 @@ QString JournalQuery::from() const {
 
 Sql JournalQuery::where() const { return sorts() ? search_ : search_ + Sql{tail_}; }
 
-QString JournalQuery::order() const { return sorts() ? tail_ : QString(); }
+QString JournalQuery::order() const { return sorts() ? tail_ : filteredOrder_; }
 
 void JournalQuery::setPrintedFilter(bool printed, bool searching) {
     tail_ = (searching ? andMark : whereMark) + printedTest(printed);

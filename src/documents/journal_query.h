@@ -30,6 +30,8 @@ class JournalQuery {
     QString order() const;  // " ORDER BY ...", or empty: the store's order
 
     void setOrder(const QString& order) { tail_ = order; }
+    // Of what a filter lets through; empty: the store's own.
+    void setFilteredOrder(const QString& order) { filteredOrder_ = order; }
     // searching: a search text stands in the screen, so that the filter follows its clause.
     void setPrintedFilter(bool printed, bool searching);
 
@@ -44,4 +46,5 @@ class JournalQuery {
     JournalTables tables_;
     Sql search_;
     QString tail_;
+    QString filteredOrder_;
 };

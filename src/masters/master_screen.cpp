@@ -36,6 +36,8 @@ MasterScreen::MasterScreen(const MasterDescriptor& descriptor)
     : RecordScreen(descriptor.name, descriptor.caption), descriptor_(descriptor) {
     buildLayout();
     connectControls();
+    if (const int column = dbgMyGrid->keptColumn(); column >= 0)
+        keptOrder_ = descriptor_.columns.at(column).order;
     guarded([this] { UpdateRecordCount(); });
 }
 
@@ -201,10 +203,10 @@ void MasterScreen::pickFromGrid() {
 void MasterScreen::LoadGrid(const Sql& where, const QString& order) {
     const Hourglass hourglass;
     savedKey_.clear();
-    dbgMyGrid->showOrder({});
-    const QString table = descriptor_.master.table;
+    const QString table = descriptor_.master.table, sorted = order.isEmpty() ? keptOrder_ : order;
     dbgMyGrid->setSource(StoreConnection(),
-                         {"*", table, table, where, order.isEmpty() ? descriptor_.defaultOrder : order});
+                         {"*", table, table, where, sorted.isEmpty() ? descriptor_.defaultOrder : sorted});
+    dbgMyGrid->showOrder(sorted);
     setCount(dbgMyGrid->recordCount(), descriptor_.listedNone, descriptor_.listed);
 }
 
@@ -365,9 +367,8 @@ void MasterScreen::connectControls() {
             [this] { savedKey_.clear(); });
     connect(dbgMyGrid, &DataGrid::headerClicked, this, [this](int column) {
         guarded([&] {
-            const QString& order = descriptor_.columns.at(column).order;
-            listAll(order);
-            dbgMyGrid->showOrder(order);
+            keptOrder_.clear();
+            listAll(descriptor_.columns.at(column).order);
         });
     });
     if (cboSearchBy) connectSearch();

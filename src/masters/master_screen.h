@@ -114,6 +114,7 @@ class MasterScreen : public RecordScreen {
     MasterFields* fields_ = nullptr;
     QString currentKey_;  // CurrentCode, CurrentID
     StoredState loaded_;  // of the record on show
+    QString keptOrder_;   // of the last time that the screen was open, until a heading is clicked
     QString savedKey_;    // of the last save, until a person moves in the grid or lists anew
 
     DataGrid* dbgMyGrid;

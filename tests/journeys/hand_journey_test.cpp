@@ -1,12 +1,20 @@
 #include "journeys/journey.h"
 
+#include "foundation/start.h"
+#include "platform/ui/column_header.h"
 #include "platform/ui/data_grid.h"
 #include "platform/ui/list_view.h"
+#include "support/screen_tour.h"
+#include "support/users.h"
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QRadioButton>
+#include <QTest>
+#include <QWindow>
 
 namespace {
 
@@ -139,6 +147,90 @@ TEST_F(HandJourney, AGridStandsOnWhatWasSavedAndOnItsOrder) {
     person::clickHeader(person::find<DataGrid>(journal, "dbgMyGrid"), 1);
     for (const QRadioButton* option : journal->findChild<QWidget*>("fraSort")->findChildren<QRadioButton*>())
         EXPECT_FALSE(option->isChecked()) << qPrintable(option->text());
+}
+
+// Draws the right edge of a heading with the mouse.
+void widen(QHeaderView* headings, int column, int by) {
+    QWidget* window = headings->window();
+    const QPoint edge(headings->sectionViewportPosition(column) + headings->sectionSize(column) - 1, 5);
+    const QPoint from = headings->viewport()->mapTo(window, edge), to = from + QPoint(by, 0);
+    QTest::mousePress(window->windowHandle(), Qt::LeftButton, {}, from);
+    QTest::mouseMove(window->windowHandle(), to);
+    QTest::mouseRelease(window->windowHandle(), Qt::LeftButton, {}, to);
+    person::settle();
+}
+
+struct Desk {
+    const char *screen, *list;
+    const char* fills = "";  // the button that lists something
+    int width = 0;           // of the first column, as it was left
+
+    ColumnHeader* open() const {
+        QWidget* opened = openRegistered(screen);
+        if (*fills) person::pushButton(opened, fills);
+        person::settle();
+        person::goTo(opened, list);
+        return person::control(opened, list)->findChild<ColumnHeader*>();
+    }
+};
+
+TEST_F(HandJourney, ADeskIsFoundAsItsUserLeftIt) {
+    addUser(store(), "BEA", "bea");
+    Desk desks[] = {{"frmSalesGrid", "dbgMyGrid"},
+                    {"frmContacts", "dbgMyGrid", "cmdAll"},
+                    {"frmNegReceivableChecks", "lvwRecord"}};
+    const QPoint place(0, 8);
+    for (Desk& desk : desks) {
+        QHeaderView* headings = desk.open();
+        EXPECT_FALSE(headings->isSortIndicatorShown()) << desk.screen;
+        widen(headings, 0, 40);
+        desk.width = headings->sectionSize(0);
+        person::press(Qt::Key_2, Qt::ControlModifier);
+        person::screen(desk.screen)->parentWidget()->move(place);
+        closeOpenScreens();
+    }
+    for (const Desk& desk : desks) {
+        QHeaderView* headings = desk.open();
+        EXPECT_EQ(headings->sectionSize(0), desk.width) << desk.screen;
+        EXPECT_TRUE(headings->isSortIndicatorShown() && headings->sortIndicatorSection() == 1) << desk.screen;
+        EXPECT_EQ(person::screen(desk.screen)->parentWidget()->pos(), place) << desk.screen;
+        closeOpenScreens();
+    }
+    QWidget* journal = openRegistered("frmSalesGrid");
+    EXPECT_TRUE(person::find<QRadioButton>(journal, "optUnPrinted")->isChecked()) << "on what is not printed";
+    closeOpenScreens();
+    closeProgram();
+    ASSERT_TRUE(Main());
+    play("log in BEA bea");
+    for (const Desk& desk : desks) {
+        QHeaderView* headings = desk.open();
+        EXPECT_LT(headings->sectionSize(0), desk.width) << desk.screen;
+        EXPECT_FALSE(headings->isSortIndicatorShown()) << desk.screen;
+        closeOpenScreens();
+    }
+}
+
+TEST_F(HandJourney, TheMenuOfAListOffersWhatItsKeysDo) {
+    const struct {
+        const char *screen, *list;
+        QStringList offered;
+    } lists[] = {{"frmPurchaseGrid", "dbgMyGrid", {"Open\tReturn", "Copy\tCtrl+C", "Sort by"}},
+                 {"frmSalesEntry",
+                  "lvwItems",
+                  {"Open\tReturn", "Add\tIns", "Edit\tF2", "Delete\tDel", "Copy\tCtrl+C", "Sort by"}},
+                 {"frmUnitGrid", "lvwRecord", {"Open\tReturn", "Delete\tDel", "Copy\tCtrl+C"}}};
+    for (const auto& each : lists) {
+        auto* list = person::find<QAbstractItemView>(openRegistered(each.screen), each.list);
+        QContextMenuEvent click(QContextMenuEvent::Mouse, {5, 5}, list->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(list->viewport(), &click);
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu) << each.screen;
+        QStringList offered;
+        for (const QAction* action : menu->actions()) offered += action->text();
+        EXPECT_EQ(offered, each.offered) << each.screen;
+        menu->close();
+        closeOpenScreens();
+    }
 }
 
 }  // namespace

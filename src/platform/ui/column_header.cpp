@@ -1,6 +1,5 @@
 #include "platform/ui/column_header.h"
 
-#include "platform/ui/child_screen.h"
 #include "platform/ui/desk_memory.h"
 #include "platform/ui/form.h"
 #include "platform/ui/icons.h"
@@ -37,7 +36,7 @@ int ColumnHeader::neededLength() const {
 }
 
 QSize ColumnHeader::listSize(const QAbstractScrollArea* list) const {
-    constexpr int rows = 10, mostCharacters = 110;
+    constexpr int rows = 10, mostCharacters = 132;
     const int columns =
         neededLength() + list->verticalScrollBar()->sizeHint().width() + 2 * list->frameWidth();
     return {std::min(columns, form::charactersWide(list, mostCharacters)), rows * list_look::rowHeight(list)};
@@ -62,24 +61,17 @@ void ColumnHeader::sectionSized(int section, int width) {
     if (QApplication::mouseButtons().testFlag(Qt::LeftButton)) keepWidths();
 }
 
-// Of the list on its screen.
-QString ColumnHeader::nameInMemory() const {
-    const QWidget* screen = parentWidget();
-    while (screen && !qobject_cast<const ChildScreen*>(screen)) screen = screen->parentWidget();
-    return QString("Columns/%1.%2").arg(screen ? screen->objectName() : "", parentWidget()->objectName());
-}
-
 void ColumnHeader::keepWidths() {
     QStringList widths;
     for (int section = 0; section < count(); ++section)
         widths += QString::number(section == names_ ? namesWidth_ : sectionSize(section));
-    desk_memory::keep(nameInMemory(), widths);
+    desk_memory::keepWidths(parentWidget(), widths);
 }
 
 // As the person left them; those of a list that has other columns by now are passed over.
 void ColumnHeader::showEvent(QShowEvent* event) {
     QHeaderView::showEvent(event);
-    const QStringList widths = desk_memory::kept(nameInMemory()).toStringList();
+    const QStringList widths = desk_memory::keptWidths(parentWidget());
     if (widths.size() != count()) return;
     for (int section = 0; section < count(); ++section)
         resizeSection(section, std::max(widths[section].toInt(), sectionSizeHint(section)));

@@ -38,7 +38,6 @@ class ColumnHeader : public QHeaderView {
     void showEvent(QShowEvent* event) override;
 
   private:
-    QString nameInMemory() const;
     void keepWidths();
     void setColumnWidth(int section, int characters);
     void setNameColumn(int section);

@@ -2,6 +2,7 @@
 
 #include "platform/ui/boxes.h"
 #include "platform/ui/column_header.h"
+#include "platform/ui/desk_memory.h"
 #include "platform/ui/enter_key.h"
 #include "platform/ui/grid_model.h"
 #include "platform/ui/list_hand.h"
@@ -45,6 +46,8 @@ void DataGrid::setUpHeaders() {
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(list_look::rowHeight(this));
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &DataGrid::headerClicked);
+    connect(this, &DataGrid::headerClicked, this,
+            [this](int column) { desk_memory::keepSort(this, column + 1); });
 }
 
 void DataGrid::setSource(Connection& store, const Source& source, Place place) {
@@ -88,6 +91,15 @@ void DataGrid::showOrder(const QString& order) {
     const int column = model_->orderedColumn(order);
     horizontalHeader()->setSortIndicatorShown(column >= 0);
     if (column >= 0) horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+}
+
+void DataGrid::keepOrder(const QString& order) {
+    desk_memory::keepSort(this, model_->orderedColumn(order) + 1);
+}
+
+int DataGrid::keptColumn() const {
+    const int column = desk_memory::keptSort(this) - 1;
+    return column < model_->columnCount() ? std::max(column, -1) : -1;
 }
 
 QSize DataGrid::sizeHint() const {

@@ -52,7 +52,11 @@ class DataGrid : public QTableView {
     void selectKey(const QString& column, const QString& value);
     // The arrow over the column that this order names first, " ORDER BY RefNo ASC"; none without one.
     void showOrder(const QString& order);
-    void fetchAll();  // for tests and exports
+    // For the next time that its screen opens: the heading that was clicked last, or the column that this
+    // order names first; none without one.
+    void keepOrder(const QString& order);
+    int keptColumn() const;  // -1: none
+    void fetchAll();         // for tests and exports
 
     QSize sizeHint() const override;
 

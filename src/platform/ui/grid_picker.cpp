@@ -28,7 +28,11 @@ void GridPicker::list(Connection& store, const DataGrid::Source& source, const Q
     source_ = source;
     list_look::sayWhenEmpty(
         grid_, lookedFor.isEmpty() ? "There is nothing to choose from." : list_look::nothingFound(lookedFor));
-    grid_->setSource(store, source);
+    const int kept = grid_->keptColumn();
+    const QString order = kept < 0 ? QString() : columns_.at(kept).order;
+    if (!order.isEmpty()) source_.order = order;
+    grid_->setSource(store, source_);
+    grid_->showOrder(order);
 }
 
 QSize GridPicker::sizeHint() const {

@@ -1,6 +1,7 @@
 #include "platform/ui/list_view.h"
 
 #include "platform/ui/column_header.h"
+#include "platform/ui/desk_memory.h"
 #include "platform/ui/enter_key.h"
 #include "platform/ui/list_hand.h"
 #include "platform/ui/list_look.h"
@@ -49,6 +50,13 @@ void ListView::setText(int row, int column, const QString& text) { model_->setTe
 void ListView::setRows(const QList<QStringList>& rows) {
     model_->setRows(rows);
     forgetSort();
+    if (keepsSort_) sortAsKept();
+}
+
+void ListView::sortAsKept() {
+    const int kept = desk_memory::keptSort(this);
+    if (kept == 0 || std::abs(kept) > model_->columnCount()) return;
+    sort(std::abs(kept) - 1, kept > 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
 // New rows stand in their own order, so that no arrow points at a column.
@@ -98,7 +106,11 @@ QList<int> ListView::markedRows() const {
 
 void ListView::toggleSort(int column) {
     const bool again = column == sortedColumn_ && order_ == Qt::AscendingOrder;
-    order_ = again ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sort(column, again ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void ListView::sort(int column, Qt::SortOrder order) {
+    order_ = order;
     sortedColumn_ = column;
     model_->sort(column, order_);
     header()->setSortIndicatorShown(true);
@@ -109,12 +121,14 @@ void ListView::toggleSort(int column) {
 Qt::SortOrder ListView::sortOrder() const { return order_; }
 int ListView::sortedColumn() const { return sortedColumn_; }
 void ListView::setSortsByHeader(bool sorts) { sortsByHeader_ = sorts; }
+void ListView::keepSort() { sortsByHeader_ = keepsSort_ = true; }
 
 QSize ListView::sizeHint() const { return static_cast<const ColumnHeader*>(header())->listSize(this); }
 
 void ListView::sortBy(int column) {
     if (column >= model_->columnCount()) return;
     if (sortsByHeader_) toggleSort(column);
+    if (keepsSort_) desk_memory::keepSort(this, order_ == Qt::AscendingOrder ? column + 1 : -column - 1);
     emit headerClicked(column);
 }
 

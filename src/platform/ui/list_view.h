@@ -48,6 +48,8 @@ class ListView : public QTreeView {
     Qt::SortOrder sortOrder() const;
     int sortedColumn() const;
     void setSortsByHeader(bool sorts);  // a click on a header calls toggleSort and then headerClicked
+    // The same, and new rows stand as the person sorted them last, here or the last time.
+    void keepSort();
 
     QSize sizeHint() const override;
 
@@ -72,9 +74,12 @@ class ListView : public QTreeView {
     void sortBy(int column);
     void connectSignals();
     void forgetSort();
+    void sortAsKept();
+    void sort(int column, Qt::SortOrder order);
 
     TextListModel* model_;
     int sortedColumn_ = -1;
     Qt::SortOrder order_ = Qt::AscendingOrder;
     bool sortsByHeader_ = false;
+    bool keepsSort_ = false;
 };

@@ -42,7 +42,7 @@ frmPrint::frmPrint()
 
 void frmPrint::build() {
     lvwRecord->setAccessibleName("Documents");
-    lvwRecord->setSortsByHeader(true);
+    lvwRecord->keepSort();
     lvwRecord->showMarks();
     auto* layout = new QGridLayout(this);
     layout->addWidget(lvwRecord, 0, 0, 4, 1);

@@ -35,7 +35,7 @@ frmReorder::frmReorder() : ChildScreen("frmReorder", "Re-Order Level") {
                             {"Locator", 12}},
                            this);
     lvwItem->setAccessibleName("Items below their order level");
-    lvwItem->setSortsByHeader(true);
+    lvwItem->keepSort();
     list_look::sayWhenEmpty(lvwItem, "No item has fallen to its re-order level.");
     auto* imgRefresh = form::imageButton("imgRefresh", "refresh", "Refresh");
     auto* imgPrint = form::imageButton("imgPrint", "print", "Print");

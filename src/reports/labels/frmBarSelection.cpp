@@ -70,12 +70,12 @@ QSize frmBarSelection::sizeHint() const {
 }
 
 void frmBarSelection::makeLists() {
-    const QList<ListColumn> columns{{"Item Code", 13}, {"Description", 28}};
+    const QList<ListColumn> columns{{"Item Code", 13}, {"Description", 38}};
     lvwItems = new ListView("lvwItems", columns);
     lvwSelected = new ListView("lvwSelected", columns);
     lvwItems->setAccessibleName("Items");
     lvwSelected->setAccessibleName("Labels, one line each");
-    lvwItems->setSortsByHeader(true);
+    lvwItems->keepSort();
     for (const auto signal : {&ListView::rowDoubleClicked, &ListView::entered})
         connect(lvwItems, signal, this, &frmBarSelection::selectOne);
     connect(lvwSelected, &ListView::rowDoubleClicked, this, &frmBarSelection::unselectOne);
