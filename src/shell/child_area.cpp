@@ -4,6 +4,7 @@
 #include "platform/ui/icons.h"
 #include "shell/window_arrangement.h"
 
+#include <QApplication>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QResizeEvent>
@@ -19,6 +20,14 @@ QMdiSubWindow* windowOf(ChildScreen* screen) { return qobject_cast<QMdiSubWindow
 // No window is made smaller than its screen can be read; the area scrolls instead.
 void place(QMdiSubWindow* window, const QRect& rect) {
     window->setGeometry(QRect(rect.topLeft(), rect.size().expandedTo(window->minimumSizeHint())));
+}
+
+// As it asks for, and wide enough for its title between the picture and the three buttons.
+QSize sizeFor(const QMdiSubWindow* window) {
+    const int bar = window->style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, window);
+    const QFontMetrics letters(QApplication::font("QMdiSubWindowTitleBar"));
+    const int title = letters.horizontalAdvance(window->windowTitle()) + 5 * bar;
+    return window->sizeHint().expandedTo({title, 0});
 }
 
 // The keys of a child window's own menu would take Ctrl+W from the record commands.
@@ -53,7 +62,7 @@ void ChildArea::host(ChildScreen* screen) {
     freeKeys(window);
     // Told when it has gone, not while it goes.
     connect(screen, &ChildScreen::unloaded, this, &ChildArea::childrenChanged, Qt::QueuedConnection);
-    place(window, placeFor(screen, window->sizeHint()));
+    place(window, placeFor(screen, sizeFor(window)));
     connect(screen, &ChildScreen::unloaded, this,
             [this, given = window->geometry()](ChildScreen* left) { keepPlace(left, given); });
     window->show();
@@ -70,10 +79,18 @@ void ChildArea::keepPlace(ChildScreen* screen, const QRect& given) {
         desk_memory::keep("Windows/" + screen->objectName(), window->geometry());
 }
 
+// As much of it as there is room for.
+static QRect within(const QRect& room, QRect place) {
+    place.setSize(place.size().boundedTo(room.size()));
+    place.moveLeft(std::clamp(place.left(), room.left(), room.right() + 1 - place.width()));
+    place.moveTop(std::clamp(place.top(), room.top(), room.bottom() + 1 - place.height()));
+    return place;
+}
+
 QRect ChildArea::placeFor(const ChildScreen* screen, const QSize& wanted) const {
     const QRect room = viewport()->rect();
     const QRect kept = desk_memory::kept("Windows/" + screen->objectName()).toRect();
-    if (room.contains(kept) && !kept.isEmpty()) return kept;
+    if (!kept.isEmpty()) return within(room, kept);
     if (screen->placement() == ChildScreen::FillsFrame) return room;
     QRect place(QPoint(0, 0), wanted.boundedTo(room.size()));
     place.moveCenter(room.center());
