@@ -44,14 +44,14 @@ const JournalBook& receiptJournal() {
                   {"optPackDate", "Payment Date", " ORDER BY PaymentDate ASC"},
                   {"optTotalAmount", "Payment Amount", " ORDER BY PaymentAmount ASC"}},
         .columns = {
-            {"Payment No.", "PayNo", GridColumn::Text, 14, " ORDER BY PayNo ASC"},
-            {"Payment Date", "PaymentDate", GridColumn::Date, 13, " ORDER BY PaymentDate ASC"},
+            {"Payment No.", "PayNo", GridColumn::Text, 8, " ORDER BY PayNo ASC"},
+            {"Payment Date", "PaymentDate", GridColumn::Date, 11, " ORDER BY PaymentDate ASC"},
             {"Customer", "ContactName", GridColumn::Text, 30, " ORDER BY ContactName ASC"},
-            {"Discounts", "TotalDiscAmount", GridColumn::Amount, 13, " ORDER BY TotalDiscAmount ASC"},
-            {"Payment Amount", "PaymentAmount", GridColumn::Amount, 15, " ORDER BY PaymentAmount ASC"},
-            {"Locked", "RecordLock", GridColumn::Flag, 8, " ORDER BY RecordLock ASC"},
-            {"Printed", "Printed", GridColumn::Flag, 8, " ORDER BY Printed ASC"},
-            {"Updated By", "UpdatedBy", GridColumn::Text, 12, " ORDER BY tblReceiptMaster.UpdatedBy ASC"},
+            {"Discounts", "TotalDiscAmount", GridColumn::Amount, 11, " ORDER BY TotalDiscAmount ASC"},
+            {"Payment Amount", "PaymentAmount", GridColumn::Amount, 12, " ORDER BY PaymentAmount ASC"},
+            {"Locked", "RecordLock", GridColumn::Flag, 6, " ORDER BY RecordLock ASC"},
+            {"Printed", "Printed", GridColumn::Flag, 6, " ORDER BY Printed ASC"},
+            {"Updated By", "UpdatedBy", GridColumn::Text, 10, " ORDER BY tblReceiptMaster.UpdatedBy ASC"},
             {"Last Update", "DateUpdate", GridColumn::DateTime, 19,
              " ORDER BY tblReceiptMaster.DateUpdate ASC"}}};
     return book;

@@ -40,7 +40,7 @@ frmUserDetails::frmUserDetails()
     left->addWidget(makeUpdateFrame());
     left->addStretch();
     auto* halves = new QHBoxLayout;
-    halves->addLayout(left, 1);
+    halves->addLayout(left);
     halves->addWidget(makeMenuFrame(), 1);
     auto* inside = new QVBoxLayout(administration);
     inside->addLayout(halves, 1);
