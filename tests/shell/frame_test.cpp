@@ -136,11 +136,16 @@ TEST_F(FrameTest, TheFirstScreensComeByThemselves) {
 TEST_F(EmptyFrame, CommandsGoToTheActiveChildByNameAndMissOnesDoNothing) {
     TestScreen* first = open("frmItem");
     TestScreen* second = open("frmContacts");
+    const auto tool = [this](const char* key) {
+        return frame->findChild<QToolButton*>(QString("tbrMain_%1").arg(key));
+    };
+    EXPECT_TRUE(tool("New")->isEnabled() && tool("Edit")->isEnabled());
+    EXPECT_FALSE(tool("Save")->isEnabled() || tool("First")->isEnabled()) << "the screen has none of them";
+    EXPECT_EQ(tool("New")->toolTip(), "New Record (Ctrl+N)");
     for (const char* name : {"mnuRecordItem_0", "mnuRecordItem_2", "mnuRecordItem_3", "mnuRecordItem_4",
                              "mnuRecordItem_7", "mnuRecordItem_10", "mnuViewItem_3"})
         choose(name);
-    for (const char* key : {"New", "Save", "Next", "Print", "Refresh"})
-        frame->findChild<QToolButton*>(QString("tbrMain_%1").arg(key))->click();
+    for (const char* key : {"New", "Save", "Next", "Print", "Refresh"}) tool(key)->click();
     EXPECT_EQ(second->calls, (QStringList{"NewRecord", "EditRecord", "DeleteRecord", "RefreshRecord",
                                           "NewRecord", "PrintRecord", "RefreshRecord"}));
     EXPECT_EQ(first->calls, QStringList());

@@ -50,6 +50,8 @@ bool BoxScript::Expected::matches(const Box& box) const {
 
 BoxAnswer BoxScript::answer(const Box& box) {
     shown_ += box;
+    EXPECT_TRUE(!box.text.contains("Successfully") || box.icon == BoxIcon::Information)
+        << qPrintable(described(box.title, box.text));
     if (expected_.isEmpty() && recorder_) return recorder_(box);
     if (expected_.isEmpty() || !expected_.first().matches(box)) return unexpected(box);
     const Expected now = expected_.takeFirst();

@@ -127,7 +127,10 @@ QPixmap picture() {
     settle();
     QList<QWidget*> windows = windowsOnShow();
     if (windows.isEmpty()) fail("nothing is on show");
-    // The one in front lies over the others.
+    // The largest lies below the others, the one in front above.
+    std::iter_swap(windows.begin(), std::ranges::max_element(windows, {}, [](const QWidget* window) {
+                       return window->width() * window->height();
+                   }));
     std::ranges::stable_partition(windows.begin() + 1, windows.end(),
                                   [](const QWidget* window) { return !window->isActiveWindow(); });
     QPixmap whole = windows.first()->grab();
