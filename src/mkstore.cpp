@@ -9,6 +9,7 @@
 #include "foundation/new_store.h"
 #include "foundation/schema.h"
 #include "platform/store/place.h"
+#include "platform/store/schema_faults.h"
 #include "platform/store/store_care.h"
 
 #include <QCoreApplication>
@@ -24,9 +25,8 @@ int usage() {
     return 2;
 }
 
-// The figures of a damaged file, or one of another schema, are not asked for.
+// The figures of a damaged store, or one of another schema, are not asked for.
 QStringList faultsOf(Connection& store) {
-    if (isOnServer(store)) return balanceFaults(store);
     if (const QStringList damages = damagesOf(store); !damages.isEmpty()) return damages;
     if (const QStringList faults = schemaFaults(store); !faults.isEmpty()) return faults;
     return balanceFaults(store);

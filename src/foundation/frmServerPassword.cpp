@@ -24,10 +24,12 @@ void frmServerPassword::build() {
     form::row(fields, 0, 0, "&Password :", txtPassword);
     QPushButton* ok = form::button("cmdOK", "&OK");
     QPushButton* cancel = form::button("cmdCancel", "&Cancel");
-    connect(ok, &QPushButton::clicked, this, [this] {
+    const auto give = [this] {
         given_ = txtPassword->text();
         close();
-    });
+    };
+    connect(txtPassword, &TextBox::entered, this, give);
+    connect(ok, &QPushButton::clicked, this, give);
     connect(cancel, &QPushButton::clicked, this, &QWidget::close);
     layOut(fields, {ok, cancel});
 }

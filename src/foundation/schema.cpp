@@ -4,8 +4,6 @@
 #include "platform/store/schema_steps.h"
 
 #include <QHash>
-#include <QSet>
-#include <QTemporaryDir>
 
 namespace {
 // A table and its columns, each with a kind: key (a text key), number key, text, integer, currency, flag,
@@ -298,33 +296,6 @@ QStringList wholeSchema() {
     return statements + QStringList{cashierDay} + touchTables + keyedTouchTriggers();
 }
 }  // namespace
-
-static QSet<QString> definitionsOf(Connection& store) {
-    QSet<QString> definitions;
-    for (auto row = store.execute("SELECT type || ' ' || name || ': ' || sql AS Definition FROM sqlite_master"
-                                  " WHERE sql IS NOT NULL");
-         !row.eof(); row.moveNext())
-        definitions += row.text("Definition");
-    return definitions;
-}
-
-static QSet<QString> ownDefinitions() {
-    const QTemporaryDir folder;
-    Connection store;
-    store.create(folder.filePath("own"), {});
-    applySchemaSteps(store);
-    return definitionsOf(store);
-}
-
-QStringList schemaFaults(Connection& store) {
-    const QSet<QString> own = ownDefinitions();
-    const QSet<QString> found = definitionsOf(store);
-    QStringList faults;
-    for (const QString& definition : own - found) faults += "missing " + definition;
-    for (const QString& definition : found - own) faults += "unknown " + definition;
-    faults.sort();
-    return faults;
-}
 
 void registerSchema() {
     setSchemaSteps(

@@ -14,9 +14,6 @@ void makeDeliveredStore(const QString& place);
 // Fills the tables of a new store.
 void fillDeliveredStore(Connection& store);
 
-// What of the store's tables, indexes and triggers is missing or other than this program makes them.
-QStringList schemaFaults(Connection& store);
-
 // One entry of the catalogue of menu rights: its code and its name, from the menu captions.
 struct MenuRight {
     int code;

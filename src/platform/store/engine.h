@@ -39,6 +39,8 @@ class Engine {
     virtual std::unique_ptr<BulkRows> read(const Sql& statement) = 0;
 
     virtual QStringList tables() = 0;
+    // The tables, indexes and triggers that are there, to be compared with those that are to be.
+    virtual QStringList definitions() = 0;
     // In the order of the table, read once. Throws when there is no such table.
     const QList<TableColumn>& tableColumns(const QString& table);
     // As keyOf of place.h.

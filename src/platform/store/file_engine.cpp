@@ -300,6 +300,14 @@ QStringList FileEngine::tables() {
     return names;
 }
 
+QStringList FileEngine::definitions() {
+    QStringList found;
+    const ReadRows rows =
+        execute("SELECT type || ' ' || name || ': ' || sql FROM sqlite_master WHERE sql IS NOT NULL");
+    for (const QVariantList& row : rows.rows) found += row[0].toString();
+    return found;
+}
+
 QList<TableColumn> FileEngine::readColumns(const QString& table) {
     QList<TableColumn> columns;
     const ReadRows found = execute({"SELECT name, type, pk FROM pragma_table_info(?) ORDER BY cid", {table}});

@@ -31,6 +31,7 @@ class FileEngine : public Engine {
     qint64 insert(const Sql& statement, const QString& key) override;
     std::unique_ptr<BulkRows> read(const Sql& statement) override;
     QStringList tables() override;
+    QStringList definitions() override;
     QList<TableColumn> readColumns(const QString& table) override;
     void begin(Turn turn) override;
     void commit() override;

@@ -42,6 +42,14 @@ const std::vector<SchemaStep>& schemaSteps() { return steps(); }
 
 int schemaVersion() { return static_cast<int>(steps().size()); }
 
+QStringList statementsFromNothing() {
+    QStringList statements;
+    const qint64 first = firstOnServer();
+    for (qint64 number = first; number <= schemaVersion(); ++number)
+        statements += statementsOf(number, number == first);
+    return statements;
+}
+
 void applySchemaSteps(Connection& store) {
     Engine& engine = engineOf(store);
     const qint64 version = engine.version();

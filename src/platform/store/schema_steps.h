@@ -15,5 +15,6 @@ struct SchemaStep {
 
 void setSchemaSteps(std::vector<SchemaStep> steps);
 const std::vector<SchemaStep>& schemaSteps();
-int schemaVersion();                       // the version this program writes: the number of steps
+int schemaVersion();                  // the version this program writes: the number of steps
+QStringList statementsFromNothing();  // what makes the whole schema on a server, in the words of the house
 void applySchemaSteps(Connection& store);  // brings an older store up; throws on a newer one

@@ -203,6 +203,20 @@ QString serverStatement(const QString& statement) {
     return plain(statement);
 }
 
+QStringList serverDefinitions(const QString& statement) {
+    static const QRegularExpression table("^CREATE TABLE (\\w+) \\((.*?)\\)(?=; CREATE |$)");
+    static const QRegularExpression other("CREATE (?:UNIQUE )?(INDEX|TRIGGER) (\\w+)");
+    const QString translated = serverStatement(statement);
+    QStringList definitions;
+    if (const auto found = table.match(translated); found.hasMatch())
+        for (const QString& column : parts(found.captured(2)))
+            definitions += "column " + found.captured(1) + u'.' + column.section(u' ', 0, 1);
+    for (const auto& found : other.globalMatch(translated))
+        definitions += found.captured(1) + u' ' + found.captured(2);
+    for (QString& definition : definitions) definition = definition.toLower();
+    return definitions;
+}
+
 // The sum is that of the file: exact, and beyond the range it fails. The operator takes a backslash by the
 // letter.
 QStringList serverGround() {

@@ -7,6 +7,10 @@
 // a trigger gets a function. Statements about tables may come out as several.
 QString serverStatement(const QString& statement);
 
+// What stands in the database after a statement of the house that makes a table, an index or a trigger:
+// "column tblchecks.amount currency_integer", "index tblchecks_checkno".
+QStringList serverDefinitions(const QString& statement);
+
 // What those words stand on, run once in an empty database.
 QStringList serverGround();
 

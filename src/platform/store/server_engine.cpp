@@ -297,6 +297,24 @@ QStringList ServerEngine::tables() {
     return names;
 }
 
+QStringList ServerEngine::definitions() {
+    const std::vector<ServerResult> answers = guarded(
+        {{ServerCommand::Plain,
+          "WITH own AS (SELECT oid, relname, relkind FROM pg_class WHERE relnamespace = "
+          "current_schema()::regnamespace AND relname <> 'storeversion') "
+          "SELECT 'column ' || relname || '.' || attname || ' ' || format_type(atttypid, NULL) FROM own "
+          "JOIN pg_attribute ON attrelid = own.oid WHERE relkind = 'r' AND attnum > 0 AND NOT attisdropped "
+          "UNION ALL SELECT 'index ' || relname FROM own JOIN pg_index ON indexrelid = own.oid "
+          "WHERE indisvalid "
+          "UNION ALL SELECT 'trigger ' || tgname FROM own JOIN pg_trigger ON tgrelid = own.oid "
+          "WHERE NOT tgisinternal AND tgenabled <> 'D'",
+          {}}});
+    QStringList found;
+    for (int row = 0; row < PQntuples(answers.front().get()); ++row)
+        found += QString::fromUtf8(PQgetvalue(answers.front().get(), row, 0));
+    return found;
+}
+
 QList<TableColumn> ServerEngine::readColumns(const QString& name) {
     for (const Table& table : catalogue())
         if (table.name.compare(name, Qt::CaseInsensitive) == 0) return table.columns;

@@ -33,6 +33,7 @@ class ServerEngine : public Engine {
     qint64 insert(const Sql& statement, const QString& key) override;
     std::unique_ptr<BulkRows> read(const Sql& statement) override;
     QStringList tables() override;
+    QStringList definitions() override;
     QList<TableColumn> readColumns(const QString& table) override;
     void begin(Turn turn) override;
     void commit() override;

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/progress_scope.h"
 #include "platform/store/connection.h"
+#include "platform/store/copy_store.h"
 #include "platform/store/place.h"
 
 #include <QDir>
@@ -107,7 +108,15 @@ void checkStore(Connection& store, Progress& progress) {
     store.settleLeftOpen();
 }
 
-QStringList damagesOf(Connection& store) { return complaints(store, "PRAGMA integrity_check"); }
+QStringList damagesOf(Connection& store) {
+    if (!isOnServer(store)) return complaints(store, "PRAGMA integrity_check");
+    try {
+        fingerprintOf(store);
+        return {};
+    } catch (const StoreError& error) {
+        return {error.text()};
+    }
+}
 
 void backUpStore(Connection& store, Progress& progress) {
     if (isOnServer(store)) return;

@@ -11,7 +11,8 @@ class Connection;
 // Looks through the file and throws StoreError when it is damaged. One that is sound counts as closed in
 // peace from then on.
 void checkStore(Connection& store, Progress& progress);
-// What is wrong with the file, told by a check of every page and index; empty for a sound one.
+// What is wrong with the store; empty for a sound one. A file is looked through page by page and index by
+// index, of a server's books every row is read.
 QStringList damagesOf(Connection& store);
 
 // Copies the store as it stands into the folder "Backup" beside it: under a temporary name first, checked,
