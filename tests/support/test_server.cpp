@@ -38,7 +38,8 @@ QStringList& databases() {
 }
 
 QString create(const QString& name, const QString& model) {
-    tell(QString("CREATE DATABASE %1 TEMPLATE %2 ENCODING 'UTF8' LOCALE 'C'").arg(name, model));
+    tell(QString("CREATE DATABASE %1 TEMPLATE %2 ENCODING 'UTF8' LOCALE 'C' STRATEGY file_copy")
+             .arg(name, model));
     return name;
 }
 
