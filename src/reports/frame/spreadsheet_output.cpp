@@ -193,6 +193,8 @@ class Workbook {
         if (!look.mask.isEmpty()) format_set_num_format(format, look.mask.toUtf8().constData());
         if (look.isBold) format_set_bold(format);
         if (look.wraps) format_set_text_wrap(format);
+        // A sheet would stand a date at the right, against the text beside it.
+        if (look.alignment & Qt::AlignLeft) format_set_align(format, LXW_ALIGN_LEFT);
         if (look.alignment & Qt::AlignRight) format_set_align(format, LXW_ALIGN_RIGHT);
         if (look.alignment & Qt::AlignHCenter) format_set_align(format, LXW_ALIGN_CENTER);
         return format;
