@@ -291,7 +291,7 @@ TEST_F(ReportPreviewTest, AThousandPagesComeBetweenTheKeys) {
         ++turns;
     }
     EXPECT_GT(preview->job().shownPages(), 1000);
-    EXPECT_GT(turns, 5);
+    EXPECT_GT(turns, 1) << "a key came in while it was made";
     EXPECT_GT(view(preview)->page(), 0);
     const auto* thumbnails = preview->findChild<PageThumbnails*>();
     EXPECT_EQ(thumbnails->rowCount(), preview->job().shownPages());
