@@ -2,17 +2,19 @@
 
 namespace ledger {
 
-static Movement movementOf(QByteArrayView bookId) {
+Movement movementOf(QByteArrayView bookId) {
     const QByteArrayView letter = bookId.trimmed();
     if (letter.compare("P", Qt::CaseInsensitive) == 0) return Movement::Purchase;
     if (letter.compare("S", Qt::CaseInsensitive) == 0) return Movement::Sale;
     return Movement::Other;
 }
 
-StockRow readRow(const BulkReader& reader) {
+StockRow readRow(const BulkReader& reader) { return readRow(reader, movementOf(reader.bytes(1))); }
+
+StockRow readRow(const BulkReader& reader, Movement movement) {
     StockRow row;
     row.zevRef = reader.integer(0);
-    row.movement = movementOf(reader.bytes(1));
+    row.movement = movement;
     row.stockIn = reader.currency(2);
     row.inPrice = reader.currency(3);
     row.stockOut = reader.currency(4);

@@ -11,7 +11,10 @@ inline constexpr const char* columns =
 // Within one item, purchases of a day stand before its sales.
 inline constexpr const char* order = "v.TransDate, v.BookID, v.ZevRef";
 
+Movement movementOf(QByteArrayView bookId);
 StockRow readRow(const BulkReader& reader);
+// Of a reader whose row's movement is known.
+StockRow readRow(const BulkReader& reader, Movement movement);
 
 // Writes the rows that changed.
 class Writer {

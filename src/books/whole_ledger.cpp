@@ -22,14 +22,25 @@ bool WholeLedger::readOn(const UnitClock& clock) {
     return false;
 }
 
+int WholeLedger::takeBook(QByteArrayView bookId) {
+    const int book = books_.numberOf(bookId);
+    if (static_cast<size_t>(book) == movementOf_.size()) movementOf_.push_back(ledger::movementOf(bookId));
+    return book;
+}
+
+int WholeLedger::takeItem(QByteArrayView code) {
+    const auto number = static_cast<size_t>(codes_.numberOf(code));
+    if (number == itemOfCode_.size()) itemOfCode_.push_back(itemOf(code));
+    return itemOfCode_[number];
+}
+
 void WholeLedger::take(const BulkReader& reader) {
     constexpr int bookColumn = 1, codeColumn = 7, dateColumn = 8;
-    lastKey_ = reader.integer(0);
-    const size_t code = static_cast<size_t>(codes_.numberOf(reader.bytes(codeColumn)));
-    if (code == itemOfCode_.size()) itemOfCode_.push_back(itemOf(reader.bytes(codeColumn)));
-    if (itemOfCode_[code] < 0) return;
-    rows_.push_back({ledger::readRow(reader), itemOfCode_[code], dates_.numberOf(reader.bytes(dateColumn)),
-                     books_.numberOf(reader.bytes(bookColumn))});
+    const int item = takeItem(reader.bytes(codeColumn));
+    const int book = takeBook(reader.bytes(bookColumn));
+    const StockRow row = ledger::readRow(reader, movementOf_[static_cast<size_t>(book)]);
+    lastKey_ = row.zevRef;
+    if (item >= 0) rows_.push_back({row, item, dates_.numberOf(reader.bytes(dateColumn)), book});
 }
 
 std::vector<size_t> WholeLedger::startsOfItems() const {
@@ -61,20 +72,21 @@ std::vector<quint32> WholeLedger::rowsByItem(std::vector<size_t> starts) const {
     return order;
 }
 
-void WholeLedger::costItem(ItemCosting& item, const quint32* first, const quint32* last) {
-    item.clear();
-    for (const quint32* at = first; at != last; ++at) item.add(rows_[*at].row);
-    costPassingOver(item);
-    for (const StockRow& row : item.rows()) rows_[*first++].row.figures = row.figures;
+void WholeLedger::costItem(ItemCosting& costing, const quint32* first, const quint32* last) {
+    costing.clear();
+    for (const quint32* at = first; at != last; ++at) costing.add(rows_[*at].row);
+    costPassingOver(costing);
+    const int item = first == last ? -1 : rows_[*first].item;
+    for (const StockRow& row : costing.rows())
+        if (row.figures != row.stored) changes_.push_back({row.zevRef, item, row.figures});
 }
 
 void WholeLedger::cost() {
     const std::vector<size_t> starts = startsOfItems();
     const std::vector<quint32> order = rowsByItem(starts);
-    ItemCosting item;
+    ItemCosting costing;
     for (size_t at = 0; at + 1 < starts.size(); ++at)
-        costItem(item, order.data() + starts[at], order.data() + starts[at + 1]);
-    for (const Row& row : std::exchange(rows_, {}))
-        if (row.row.figures != row.row.stored)
-            changes_.push_back({row.row.zevRef, row.item, row.row.figures});
+        costItem(costing, order.data() + starts[at], order.data() + starts[at + 1]);
+    std::exchange(rows_, {});
+    std::ranges::sort(changes_, {}, &Change::zevRef);
 }

@@ -35,15 +35,18 @@ class WholeLedger {
         int book;
     };
     void take(const BulkReader& reader);
+    int takeBook(QByteArrayView bookId);
+    int takeItem(QByteArrayView code);
     std::vector<size_t> startsOfItems() const;
     std::vector<quint32> rowsByItem(std::vector<size_t> starts) const;
-    void costItem(ItemCosting& item, const quint32* first, const quint32* last);
+    void costItem(ItemCosting& costing, const quint32* first, const quint32* last);
 
     Connection& store_;
     QHash<QByteArray, int> items_;
     int itemCount_ = 0;
     WordNumbers codes_, dates_, books_;
-    std::vector<int> itemOfCode_;
+    std::vector<int> itemOfCode_;       // by the number of the code
+    std::vector<Movement> movementOf_;  // by the number of the book
     std::vector<Row> rows_;
     std::vector<Change> changes_;
     qint64 lastKey_ = std::numeric_limits<qint64>::min();
