@@ -250,7 +250,7 @@ TEST_F(ReportPreviewTest, ClosingAsksOnceAndNotBeforeTheLastPage) {
     int asked = 0, finished = 0;
     const PreviewHooks hooks{.finished = [&](ReportPreview&) { ++finished; }, .queryClose = [&] { ++asked; }};
     const QPointer<ReportPreview> early = open(50000, hooks);
-    QTest::qWait(30);
+    QCoreApplication::processEvents();
     person::press(Qt::Key_Escape);
     EXPECT_TRUE(!early || early->hasUnloaded());
     QTest::qWait(50);
@@ -265,8 +265,8 @@ TEST_F(ReportPreviewTest, ClosingAsksOnceAndNotBeforeTheLastPage) {
     EXPECT_EQ(asked, 2);
 
     open(10, {.finished = [](ReportPreview& preview) { preview.unload(); }, .queryClose = [&] { ++asked; }});
-    QTest::qWait(50);
-    EXPECT_EQ(asked, 3) << "a report that unloads itself at its end is asked, too";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return asked == 3; })) << "a report that unloads itself is asked, too";
+    person::settle();
     EXPECT_TRUE(ScreenRegistry::instance().openScreens().isEmpty());
 }
 
