@@ -206,6 +206,7 @@ TEST_F(JournalScreen, KeysOfTheSearchText) {
 TEST_F(JournalScreen, ShowsAtOnceAndInItsRowWhatItsOwnProgramDoes) {
     const auto cell = [this](int row, const char* column) {
         QTest::qWait(60);  // a unit that has ended is looked at again after fifty milliseconds
+        person::settle();
         const int place =
             static_cast<int>(std::ranges::find(salesJournal().columns, column, &GridColumn::column) -
                              salesJournal().columns.begin());
