@@ -270,6 +270,7 @@ TEST(UiStatus, WorksNestedAndCountsBeyond32Bits) {
     auto* bar = status.findChild<QProgressBar*>("pbrStatus");
     status.begin("Outer", 10'000'000'000);
     QTest::qWait(60);
+    person::settle();
     status.setValue(5'000'000'000);
     EXPECT_TRUE(status.isVisible());
     EXPECT_EQ(bar->value() * 2, bar->maximum());

@@ -13,6 +13,7 @@
 #include "shell/menu_catalogue.h"
 #include "support/files.h"
 #include "support/screen_checks.h"
+#include "support/screen_driver.h"
 
 #include <QCheckBox>
 #include <QDateEdit>
@@ -56,7 +57,10 @@ QStringList panelKeys(const mdiMain* frame) {
     return keys;
 }
 
-void waitForTimers() { QTest::qWait(150); }
+void waitForTimers() {
+    QTest::qWait(150);
+    person::settle();
+}
 
 QLabel* panel(const mdiMain* frame, const QString& key) {
     return frame->findChild<QLabel*>("sbrMain_" + key);
@@ -417,8 +421,9 @@ TEST_F(EmptyFrame, TheFrameIsActivatedFromOutsideOnly) {
         QTest::qWait(milliseconds);
         emit qApp->applicationStateChanged(Qt::ApplicationActive);
         QTest::qWait(20);
+        person::settle();
     };
-    goOutside(5);
+    goOutside(0);
     EXPECT_FALSE(opened("frmReorder")) << "the moment between two windows of the program";
     goOutside(250);
     EXPECT_TRUE(opened("frmReorder"));
