@@ -9,6 +9,7 @@
 #include "purchases/frmPurchaseGrid.h"
 #include "sales/frmSalesGrid.h"
 #include "support/box_script.h"
+#include "support/screen_driver.h"
 #include "support/test_store.h"
 
 #include <QAbstractButton>
