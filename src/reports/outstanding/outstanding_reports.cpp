@@ -1,9 +1,13 @@
 #include "reports/outstanding/outstanding_reports.h"
 
+#include "books/key_numbers.h"
 #include "platform/masks.h"
+#include "platform/store/bulk.h"
 #include "reports/frame/credit_terms.h"
 #include "reports/frame/list_report.h"
-#include "reports/frame/report_query.h"
+#include "reports/frame/worked_rows.h"
+
+#include <algorithm>
 
 namespace {
 using enum ReportColumn::Kind;
@@ -21,7 +25,7 @@ struct Outstanding {
     const char* date;
     const char* dateHead;
     const char* sum;
-    const char* summaryOrder;  // by name or by amount
+    bool byAmount;  // the summary: from the highest; else by name, from the last
 };
 
 constexpr Outstanding receivable{.name = "prtReceivableOutstanding",
@@ -35,7 +39,7 @@ constexpr Outstanding receivable{.name = "prtReceivableOutstanding",
                                  .date = "RefDate",
                                  .dateHead = "Ref Date",
                                  .sum = "RBalance",
-                                 .summaryOrder = "tblContactMaster.ContactName DESC"};
+                                 .byAmount = false};
 
 constexpr Outstanding payable{.name = "prtPayableOutstanding",
                               .title = "Accounts Payable Outstanding Balance",
@@ -48,7 +52,7 @@ constexpr Outstanding payable{.name = "prtPayableOutstanding",
                               .date = "PurchaseDate",
                               .dateHead = "P.O. Date",
                               .sum = "PBalance",
-                              .summaryOrder = "PBalance DESC, tblContactMaster.ContactName"};
+                              .byAmount = true};
 
 const Outstanding& sideOf(const QString& kind) { return kind == "P" ? payable : receivable; }
 
@@ -96,33 +100,108 @@ const ReportLayout& layoutOf(const Outstanding& side, bool isSummary) {
     return (&side == &payable ? payables : receivables)[isSummary ? 1 : 0];
 }
 
-QString openDocuments(const Outstanding& side) {
-    return QString(
-               " FROM %1 INNER JOIN tblContactMaster ON %1.ContactNo = tblContactMaster.ContactID WHERE "
-               "%1.Balance <> 0")
-        .arg(side.table);
+struct Contact {
+    QString name, phone;
+    Currency terms, limit;
+};
+
+struct OpenDocument {
+    int contact;
+    QByteArray number, date;
+    Currency balance;
+};
+
+// What is open, by date and number, of contacts that the master has.
+struct OpenBook {
+    std::vector<Contact> contacts;
+    std::vector<OpenDocument> documents;
+};
+
+OpenBook openBook(Connection& store, const Outstanding& side) {
+    OpenBook book;
+    KeyNumbers ids;
+    for (BulkReader row(store,
+                        "SELECT ContactID, ContactName, TelNo, Terms, CreditLimit FROM tblContactMaster");
+         row.next();) {
+        ids.add(row.bytes(0));
+        book.contacts.push_back({row.text(1), row.text(2), row.currency(3), row.currency(4)});
+    }
+    const QString documents =
+        "SELECT ContactNo, %1, %2, Balance FROM %3 WHERE Balance <> 0 ORDER BY %2 ASC, %1";
+    for (BulkReader row(store, documents.arg(side.number, side.date, side.table)); row.next();)
+        if (const int contact = ids.find(row.bytes(0)); contact >= 0)
+            book.documents.push_back(
+                {contact, row.bytes(1).toByteArray(), row.bytes(2).toByteArray(), row.currency(3)});
+    return book;
 }
 
-QString documentRows(const Outstanding& side) {
-    return QString("SELECT doc.%1, doc.%2, doc.Balance, tblContactMaster.ContactName, tblContactMaster.Terms")
-               .replace("doc.", QString(side.table) + ".")
-               .arg(side.number, side.date) +
-           openDocuments(side) +
-           QString(" ORDER BY %1.%2 ASC, %1.%3").arg(side.table, side.date, side.number);
+std::unique_ptr<ReportSource> documentRows(OpenBook book, const Outstanding& side) {
+    using Rows = WorkedRows<OpenDocument>;
+    const auto contacts = std::make_shared<const std::vector<Contact>>(std::move(book.contacts));
+    const auto of = [contacts](const OpenDocument& open) -> const Contact& {
+        return (*contacts)[static_cast<size_t>(open.contact)];
+    };
+    return std::make_unique<Rows>(
+        std::move(book.documents),
+        std::vector<Rows::Column>{
+            {side.number, [](const OpenDocument& open) { return QString::fromUtf8(open.number); }},
+            {side.date,
+             [](const OpenDocument& open) {
+                 return QDate::fromString(QString::fromLatin1(open.date.left(10)), Qt::ISODate);
+             }},
+            {"Balance", [](const OpenDocument& open) { return open.balance; }},
+            {"ContactName", [of](const OpenDocument& open) { return of(open).name; }},
+            {"Terms", [of](const OpenDocument& open) { return of(open).terms; }}});
 }
 
-QString contactRows(const Outstanding& side) {
-    const QString contact =
-        "tblContactMaster.ContactName, tblContactMaster.Terms, tblContactMaster.TelNo, "
-        "tblContactMaster.CreditLimit";
-    // By contact first: the engine brings as many rows as there are contacts to those of one name.
-    return QString(
-               "SELECT SUM(owed.Amount) AS %1, %2 FROM (SELECT ContactNo, SUM(Balance) AS Amount FROM %3 "
-               "WHERE Balance <> 0 GROUP BY ContactNo) AS owed INNER JOIN tblContactMaster ON "
-               "owed.ContactNo = tblContactMaster.ContactID")
-               .arg(side.sum, contact, side.table) +
-           " GROUP BY " + contact + " ORDER BY " + side.summaryOrder +
-           ", tblContactMaster.Terms, tblContactMaster.TelNo, tblContactMaster.CreditLimit";
+struct OpenContact {
+    Contact contact;
+    Currency balance = {};
+};
+
+// One row for contacts of one name, terms, telephone number and limit.
+std::vector<OpenContact> openContacts(const OpenBook& book) {
+    KeyNumbers alike;
+    std::vector<int> rowOf(book.contacts.size(), -1);
+    std::vector<OpenContact> rows;
+    for (const OpenDocument& open : book.documents) {
+        const Contact& contact = book.contacts[static_cast<size_t>(open.contact)];
+        int& row = rowOf[static_cast<size_t>(open.contact)];
+        if (row < 0)
+            row = alike.add((contact.name + '\n' + contact.phone + '\n' + contact.terms.toPlainText() + '\n' +
+                             contact.limit.toPlainText())
+                                .toUtf8());
+        if (static_cast<size_t>(row) == rows.size()) rows.push_back({contact});
+        rows[static_cast<size_t>(row)].balance += open.balance;
+    }
+    return rows;
+}
+
+void sort(std::vector<OpenContact>& rows, const Outstanding& side) {
+    const auto byName = [](const OpenContact& a, const OpenContact& b) {
+        return compareKeys(a.contact.name.toUtf8(), b.contact.name.toUtf8());
+    };
+    std::ranges::sort(rows, [&](const OpenContact& a, const OpenContact& b) {
+        if (side.byAmount && a.balance != b.balance) return a.balance > b.balance;
+        if (const int names = byName(a, b)) return side.byAmount ? names < 0 : names > 0;
+        if (a.contact.terms != b.contact.terms) return a.contact.terms < b.contact.terms;
+        if (const int phones = compareKeys(a.contact.phone.toUtf8(), b.contact.phone.toUtf8()))
+            return phones < 0;
+        return a.contact.limit < b.contact.limit;
+    });
+}
+
+std::unique_ptr<ReportSource> contactRows(const OpenBook& book, const Outstanding& side) {
+    using Rows = WorkedRows<OpenContact>;
+    std::vector<OpenContact> rows = openContacts(book);
+    sort(rows, side);
+    return std::make_unique<Rows>(
+        std::move(rows), std::vector<Rows::Column>{
+                             {side.sum, [](const OpenContact& open) { return open.balance; }},
+                             {"ContactName", [](const OpenContact& open) { return open.contact.name; }},
+                             {"Terms", [](const OpenContact& open) { return open.contact.terms; }},
+                             {"TelNo", [](const OpenContact& open) { return open.contact.phone; }},
+                             {"CreditLimit", [](const OpenContact& open) { return open.contact.limit; }}});
 }
 
 void fillTerm(const ReportSource& row, SectionFields& fields) {
@@ -140,8 +219,11 @@ FormatEvent dueDocument(const Outstanding& side) {
 std::optional<ReportJobParts> outstandingReport(Connection& store, const PrintRequest& request) {
     const Outstanding& side = sideOf(request.kind);
     const bool isSummary = request.selection == "optSummary";
-    return reportOfQuery(store, layoutOf(side, isSummary), isSummary ? contactRows(side) : documentRows(side),
-                         {{on(SectionKind::Detail), isSummary ? FormatEvent(fillTerm) : dueDocument(side)}});
+    OpenBook book = openBook(store, side);
+    if (book.documents.empty()) return {};
+    return ReportJobParts{layoutOf(side, isSummary),
+                          isSummary ? contactRows(book, side) : documentRows(std::move(book), side),
+                          {{on(SectionKind::Detail), isSummary ? FormatEvent(fillTerm) : dueDocument(side)}}};
 }
 
 QList<const ReportLayout*> outstandingLayouts() {
