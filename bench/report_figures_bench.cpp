@@ -5,7 +5,7 @@
 // programs do not count.
 //
 // The reports on the ledger cost it before they run, and the item list sums up the stock: the books here are
-// costed already, and what that pass takes is a row by itself, and taken off the report's.
+// costed already, and what that pass takes with its status screen is told apart, and taken off the report's.
 //
 //     report_figures_bench [sales documents ... = 1000 20000]
 #include "bench/bare_figures.h"
@@ -15,7 +15,9 @@
 #include "books/stock_valuation.h"
 #include "foundation/schema.h"
 #include "foundation/session.h"
+#include "platform/progress_scope.h"
 #include "platform/store/transaction.h"
+#include "platform/ui/frmStatus.h"
 #include "reports/frame/report_run.h"
 #include "reports/frame/report_walk.h"
 #include "reports/inventory/frmPrintInventory.h"
@@ -188,11 +190,22 @@ void measure(Connection& store, const MeasuredReport& report, int runs) {
     std::fflush(stdout);
 }
 
-void cost(Connection& store) { RecomputeStockValuation(store, Progress::none()); }
+// With the status screen that a person sees meanwhile.
+void cost(Connection& store) {
+    frmStatus status;
+    RecomputeStockValuation(store, status);
+}
 
 void costAndSumUp(Connection& store) {
-    RecomputeInventoryBalances(store, Progress::none());
-    cost(store);
+    frmStatus status;
+    RecomputeInventoryBalances(store, status);
+    RecomputeStockValuation(store, status);
+}
+
+void costItem(Connection& store, const QString& item) {
+    frmStatus status;
+    const ProgressScope scope(status, "System is Processing Stock Card...", 0);
+    RecomputeItemCosts(store, item);
 }
 
 std::function<Made(Connection&)> journal(const char* kind, const char* option) {
@@ -225,7 +238,7 @@ std::vector<MeasuredReport> reports(const QString& item) {
         {"stock card of busiest item",
          [item](Connection& store) { return stockCardReport(store, {.allDays = true, .item = item}); },
          [code = item.toStdString()](sqlite3* engine) { return bare::stockCard(engine, code); },
-         [item](Connection& store) { RecomputeItemCosts(store, item); }},
+         [item](Connection& store) { costItem(store, item); }},
         {"statement of account, all", logBook("R"), bare::receivableLogBook},
         {"payable log book, all", logBook("P"), bare::payableLogBook},
         {"receivable outstanding", outstanding("R", "optDetailed"), bare::receivableDocuments},
