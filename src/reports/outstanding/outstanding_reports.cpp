@@ -111,13 +111,15 @@ struct OpenDocument {
     Currency balance;
 };
 
-// What is open, by date and number, of contacts that the master has.
+// What is open, of contacts that the master has.
 struct OpenBook {
     std::vector<Contact> contacts;
     std::vector<OpenDocument> documents;
 };
 
-OpenBook openBook(Connection& store, const Outstanding& side) {
+enum class Order { AsItLies, ByDate };
+
+OpenBook openBook(Connection& store, const Outstanding& side, Order order) {
     OpenBook book;
     KeyNumbers ids;
     for (BulkReader row(store,
@@ -126,8 +128,8 @@ OpenBook openBook(Connection& store, const Outstanding& side) {
         ids.add(row.bytes(0));
         book.contacts.push_back({row.text(1), row.text(2), row.currency(3), row.currency(4)});
     }
-    const QString documents =
-        "SELECT ContactNo, %1, %2, Balance FROM %3 WHERE Balance <> 0 ORDER BY %2 ASC, %1";
+    QString documents = "SELECT ContactNo, %1, %2, Balance FROM %3 WHERE Balance <> 0";
+    if (order == Order::ByDate) documents += " ORDER BY %2 ASC, %1";
     for (BulkReader row(store, documents.arg(side.number, side.date, side.table)); row.next();)
         if (const int contact = ids.find(row.bytes(0)); contact >= 0)
             book.documents.push_back(
@@ -219,7 +221,7 @@ FormatEvent dueDocument(const Outstanding& side) {
 std::optional<ReportJobParts> outstandingReport(Connection& store, const PrintRequest& request) {
     const Outstanding& side = sideOf(request.kind);
     const bool isSummary = request.selection == "optSummary";
-    OpenBook book = openBook(store, side);
+    OpenBook book = openBook(store, side, isSummary ? Order::AsItLies : Order::ByDate);
     if (book.documents.empty()) return {};
     return ReportJobParts{layoutOf(side, isSummary),
                           isSummary ? contactRows(book, side) : documentRows(std::move(book), side),

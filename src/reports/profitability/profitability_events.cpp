@@ -38,15 +38,16 @@ ReportEvents profitOfSales(Connection& store, const std::optional<Period>& perio
              }}};
 }
 
-// And here it is the money that all payments of the sale took off, as a percent of its total.
+// And here it is the money that all payments of the sale took off, as a percent of its total. There are many
+// lines: the names of the columns are made once.
 ReportEvents profitOfLines(Connection&, const std::optional<Period>&) {
     return {{on(SectionKind::Detail), [](const ReportSource& row, SectionFields& fields) {
-                 showProfit(
-                     {.served = row.currency("Served"),
-                      .price = row.currency("UnitPrice"),
-                      .discount = row.currency("Discount"),
-                      .payDiscount = percentOfTotal(row.currency("Granted"), row.currency("TotalAmount")),
-                      .cost = row.currency("Cost")},
-                     fields);
+                 showProfit({.served = row.currency(QStringLiteral("Served")),
+                             .price = row.currency(QStringLiteral("UnitPrice")),
+                             .discount = row.currency(QStringLiteral("Discount")),
+                             .payDiscount = percentOfTotal(row.currency(QStringLiteral("Granted")),
+                                                           row.currency(QStringLiteral("TotalAmount"))),
+                             .cost = row.currency(QStringLiteral("Cost"))},
+                            fields);
              }}};
 }
