@@ -76,11 +76,34 @@ int ProgramStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, co
     return QProxyStyle::pixelMetric(metric, option, widget);
 }
 
+static bool isFocused(const QStyleOption* option) { return option->state.testFlag(QStyle::State_HasFocus); }
+
+// Where the focus stands is seen before the first Tab, too.
+template <class Option>
+static Option withFocusSeen(Option option) {
+    option.state |= QStyle::State_KeyboardFocusChange;
+    return option;
+}
+
+// The shadow of the title has the colour of texts: on a dark palette the title would stand there twice.
+void ProgramStyle::drawTitle(const QStyleOptionTitleBar& title, QPainter* painter,
+                             const QWidget* widget) const {
+    QStyleOptionTitleBar shadowed = title;
+    shadowed.palette.setColor(QPalette::Text, Qt::black);
+    QProxyStyle::drawComplexControl(CC_TitleBar, &shadowed, painter, widget);
+}
+
 // A list to choose from that is closed to a person has no arrow.
 void ProgramStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                       QPainter* painter, const QWidget* widget) const {
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option);
     if (combo && combo->editable && isOnlyShown(option)) return drawShown(option, painter);
+    const auto* title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (title && title->state.testFlag(State_Active)) return drawTitle(*title, painter, widget);
+    if (combo && isFocused(option)) {
+        const QStyleOptionComboBox shown = withFocusSeen(*combo);
+        return QProxyStyle::drawComplexControl(control, &shown, painter, widget);
+    }
     QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
@@ -119,6 +142,10 @@ void ProgramStyle::drawControl(ControlElement element, const QStyleOption* optio
         QRectF done = bar->rect;
         done.setWidth(done.width() * std::max(0, bar->progress - bar->minimum) / range);
         drawRounded(painter, done, bar->palette.color(QPalette::Active, QPalette::Highlight));
+    } else if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+               button && isFocused(option)) {
+        const QStyleOptionButton shown = withFocusSeen(*button);
+        QProxyStyle::drawControl(element, &shown, painter, widget);
     } else {
         QProxyStyle::drawControl(element, option, painter, widget);
     }

@@ -21,6 +21,7 @@ class ProgramStyle : public QProxyStyle {
     void polish(QPalette& palette) override;
 
   private:
+    void drawTitle(const QStyleOptionTitleBar& title, QPainter* painter, const QWidget* widget) const;
     bool drawBox(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                  const QWidget* widget) const;
 };

@@ -52,7 +52,7 @@ frmReorder::frmReorder() : ChildScreen("frmReorder", "Re-Order Level") {
     connect(imgExit, &QToolButton::clicked, this, &frmReorder::CloseRecord);
 }
 
-QSize frmReorder::sizeHint() const { return {form::charactersWide(this, 136), fontMetrics().height() * 26}; }
+QSize frmReorder::sizeHint() const { return {form::charactersWide(this, 158), fontMetrics().height() * 26}; }
 
 // Also when an open one is asked for again: the list that comes forward is the present one.
 bool frmReorder::receive(const ScreenArguments& arguments) {

@@ -65,7 +65,7 @@ frmBarSelection::frmBarSelection() : ChildScreen("frmBarSelection", "Generate It
 }
 
 QSize frmBarSelection::sizeHint() const {
-    const QSize roomy(form::charactersWide(this, 118), fontMetrics().height() * 28);
+    const QSize roomy(form::charactersWide(this, 146), fontMetrics().height() * 32);
     return roomy.expandedTo(minimumSizeHint());
 }
 
