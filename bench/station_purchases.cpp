@@ -9,7 +9,7 @@ QString buy(Station& station) {
     const QString code = station.saved(purchaseOrders, station.any(station.suppliers), 20);
     if (code.isEmpty()) return {};
     station.purchases += code;
-    return "purchase " + code;
+    return "new purchase " + code;
 }
 
 QString pay(Station& station) {
@@ -26,7 +26,7 @@ QString pay(Station& station) {
         voucher.cash = true;
         voucher.payments += makePayment(PaymentKind::Payable, code, Clock::today(),
                                         numberOrZero(entry.amount), "Full payment");
-        if (isDone(saveVoucher(station.store, voucher))) return "voucher " + voucher.code;
+        if (isSaved(saveVoucher(station.store, voucher))) return "new voucher " + voucher.code;
     }
     return {};
 }

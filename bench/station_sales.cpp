@@ -18,16 +18,36 @@ OrderLine lineOfItem(Station& station, int mostPieces) {
 
 // A number that another station took first is no fault of this one: a clerk saves again under the next.
 constexpr int tries = 20;
+
+// Where the same number is offered again, the counter stands before it: a clerk types one that is free then.
+void takeFreeNumber(Connection& store, const OrderBook& book, OrderDocument& document) {
+    qint64 highest = 0;
+    for (Recordset row = store.execute(QString("SELECT %1 FROM %2").arg(book.master.key, book.master.table));
+         !row.eof(); row.moveNext())
+        highest = std::max(highest, row.textAt(0).section(u'-', 1, 1).toLongLong());
+    document.serial = QString::number(highest + 1);
+    document.code = numbering::documentNumber(document.code.section(u'-', 0, 0), document.serial,
+                                              document.code.section(u'-', 2, 2));
+}
 }  // namespace
+
+bool isSaved(const Outcome& outcome) {
+    const Fault* const fault = std::get_if<Fault>(&outcome);
+    if (fault && fault->box.text.contains("Please look whether it is there"))
+        throw StoreError(StoreError::general, fault->box.text);
+    return isDone(outcome);
+}
 
 QString Station::saved(const OrderBook& book, const QString& contact, int mostPieces) {
     QList<OrderLine> lines;
     for (int count = 1 + dice.bounded(5); count > 0; --count) lines += lineOfItem(*this, mostPieces);
+    QString offered;
     for (int left = tries; left > 0; --left) {
         OrderDocument document = newOrder(store, book);
+        if (document.code == std::exchange(offered, document.code)) takeFreeNumber(store, book, document);
         document.contactName = contact;
         document.lines = lines;
-        if (isDone(saveOrder(store, book, document))) return document.code;
+        if (isSaved(saveOrder(store, book, document))) return document.code;
     }
     return {};
 }
@@ -36,7 +56,7 @@ QString sell(Station& station) {
     const QString code = station.saved(salesOrders, station.any(station.customers), 3);
     if (code.isEmpty()) return {};
     station.sales += code;
-    return "sale " + code;
+    return "new sale " + code;
 }
 
 QString collect(Station& station) {
@@ -54,7 +74,7 @@ QString collect(Station& station) {
     ReceiptDocument receipt = newReceipt(station.store);
     receipt.contactName = customer;
     receipt.lines = {lineOf(station.store, entry)};
-    return isDone(saveReceipt(station.store, receipt)) ? "receipt " + receipt.code : QString();
+    return isSaved(saveReceipt(station.store, receipt)) ? "new receipt " + receipt.code : QString();
 }
 
 QString changeSale(Station& station) {
@@ -63,7 +83,7 @@ QString changeSale(Station& station) {
     OrderDocument document = loadOrder(station.store, salesOrders, code).document;
     document.lines = loadOrderLines(station.store, salesOrders, code);
     document.lines += lineOfItem(station, 1);
-    return isDone(saveOrder(station.store, salesOrders, document)) ? "sale " + code : QString();
+    return isSaved(saveOrder(station.store, salesOrders, document)) ? "again sale " + code : QString();
 }
 
 // An older one: a number that goes while another clerk has it before him as the next is free again, and takes
@@ -71,7 +91,11 @@ QString changeSale(Station& station) {
 QString deleteSale(Station& station) {
     const QString code = station.sales.value(0);
     if (station.sales.size() < 10) return {};
-    if (!isDone(deleteDocument(station.store, salesJournal().deletion, code))) return {};
+    station.tell("trying sale " + code);
+    if (!isDone(deleteDocument(station.store, salesJournal().deletion, code))) {
+        station.tell("kept sale " + code);
+        return {};
+    }
     station.sales.removeAll(code);
-    return "gone " + code;
+    return "gone sale " + code;
 }

@@ -17,11 +17,12 @@
 #include "foundation/store_place.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
+#include <QMap>
 #include <QProcess>
 #include <QSet>
 #include <QThread>
 #include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <memory>
 
@@ -67,15 +68,21 @@ QString work(Station& station) {
     return {};
 }
 
-// Each save is told when it is done, and then only.
+// One clock for all processes of a machine.
+qint64 microseconds() {
+    return std::chrono::duration_cast<std::chrono::microseconds>(
+               std::chrono::steady_clock::now().time_since_epoch())
+        .count();
+}
+
+// Each save is told when it is done, and then only, with the moments between which it was.
 void workOn(Station& station, int saves) {
     while (saves > 0) {
-        QElapsedTimer timer;
-        timer.start();
+        const qint64 began = microseconds();
         try {
             const QString done = work(station);
             if (done.isEmpty()) continue;
-            say(QString("%1 %2").arg(done).arg(static_cast<double>(timer.nsecsElapsed()) / 1e6, 0, 'f', 1));
+            say(QString("%1 %2 %3").arg(done).arg(began).arg(microseconds()));
             --saves;
         } catch (const StoreError& error) {
             say((error.number() == StoreError::busy ? "busy " : "error ") + error.text());
@@ -94,7 +101,8 @@ int runStation(const QString& place, int saves, unsigned seed) {
                     column(store, "SELECT ContactName FROM tblContactMaster WHERE IsSupplier = True"),
                     column(store, "SELECT ItemCode FROM tblItemMaster"),
                     {},
-                    {}};
+                    {},
+                    say};
     workOn(station, saves);
     return 0;
 }
@@ -103,40 +111,61 @@ int runStation(const QString& place, int saves, unsigned seed) {
 
 struct Hazards {
     bool kills, stops;
+    int killed = 0;
+};
+
+// One save of a number, or its deletion, and the moments between which it was.
+struct Event {
+    qint64 began, ended;
+};
+
+// What became of one number: "sale 03-1001-2026".
+struct History {
+    QList<Event> saves, deletions;
+    bool mayBeGone = false;  // a deletion was begun, and nobody told its end
+
+    // A number is given out again only when a deletion has freed it.
+    bool isTwice() const {
+        for (qsizetype at = 1; at < saves.size(); ++at)
+            if (std::ranges::count_if(deletions,
+                                      [&](const Event& gone) { return gone.began < saves[at].ended; }) < at)
+                return !mayBeGone;
+        return false;
+    }
+    bool stands() const { return saves.size() > deletions.size(); }
 };
 
 // What the stations were told, as they told it.
 struct Record {
-    QSet<QString> standing, gone;
-    QHash<QString, int> stations;  // of each new number: the station that got it
-    QSet<QString> twice, freed;    // numbers that two stations got, and those that a deletion freed
+    QMap<QString, History> numbers;
     QList<double> waits;
     int busy = 0;
     QStringList errors;
 
-    void take(const QString& line, int station) {
+    void take(const QString& line) {
         const QStringList words = line.split(u' ');
         if (words[0] == "busy") {
             ++busy;
-        } else if (words[0] == "error" || words.size() != 3) {
-            errors += line;
+        } else if (words.size() == 3 && (words[0] == "trying" || words[0] == "kept")) {
+            numbers[words[1] + ' ' + words[2]].mayBeGone = words[0] == "trying";
+        } else if (words.size() == 5 && words[0] != "error") {
+            const Event event{words[3].toLongLong(), words[4].toLongLong()};
+            waits += static_cast<double>(event.ended - event.began) / 1e3;
+            note(words[0], numbers[words[1] + ' ' + words[2]], event);
         } else {
-            waits += words[2].toDouble();
-            note(words[0], words[1], station);
+            errors += line;
         }
     }
-    void note(const QString& kind, const QString& number, int station) {
-        if (kind == "gone") {
-            standing.remove("sale " + number);
-            gone.insert("sale " + number);
-            freed.insert("sale " + number);
-            return;
-        }
-        const QString name = kind + ' ' + number;
-        if (stations.value(name, station) != station) twice.insert(name);
-        stations[name] = station;
-        gone.remove(name);  // its number came again
-        standing.insert(name);
+    qsizetype givenAgain() const {
+        return std::ranges::count_if(numbers,
+                                     [](const History& history) { return history.saves.size() > 1; });
+    }
+    static void note(const QString& what, History& history, const Event& event) {
+        if (what == "gone") history.mayBeGone = false;
+        if (what == "gone") history.deletions += event;
+        if (what != "new") return;
+        history.saves += event;
+        std::ranges::sort(history.saves, {}, &Event::ended);
     }
 };
 
@@ -176,7 +205,7 @@ class Trial {
     bool follow(int station) {
         QProcess& process = *processes_[static_cast<size_t>(station)];
         process.waitForReadyRead(2);
-        while (process.canReadLine()) record_.take(QString::fromUtf8(process.readLine()).trimmed(), station);
+        while (process.canReadLine()) record_.take(QString::fromUtf8(process.readLine()).trimmed());
         if (process.state() == QProcess::NotRunning && process.exitCode() != 0 &&
             process.exitStatus() == QProcess::NormalExit)
             record_.errors += "a station ended";
@@ -217,13 +246,63 @@ QSet<QString> stored(Connection& store) {
     return names;
 }
 
-// A counter that went back gives a number out again: the highest serial is never beyond it.
-QStringList counterFaults(Connection& store) {
-    const QStringList counter = column(store, "SELECT Server FROM tblSalesKey");
+struct Counter {
+    const char* kind;
+    const char* table;
+};
+constexpr Counter counters[] = {
+    {"sale ", "tblSalesKey"}, {"purchase ", "tblPurchaseKey"}, {"voucher ", "tblDisbursementKey"}};
+
+qint64 serialOf(const QString& number) { return number.section(u'-', 1, 1).toLongLong(); }
+
+struct NumberedSave {
+    qint64 serial;
+    Event event;
+    bool isFirst;
+};
+
+// In the order in which they were told.
+std::vector<NumberedSave> savesOf(const char* kind, const Record& record) {
+    std::vector<NumberedSave> saves;
+    for (const auto& [name, history] : record.numbers.asKeyValueRange())
+        for (qsizetype at = 0; name.startsWith(kind) && at < history.saves.size(); ++at)
+            saves.push_back({serialOf(name), history.saves[at], at == 0});
+    std::ranges::sort(saves, {}, [](const NumberedSave& save) { return save.event.ended; });
+    return saves;
+}
+
+// A counter that goes back offers a number again, or lower ones that were never given out. Only a number that
+// a deletion has freed may take it back, as one that is typed.
+QStringList orderFaults(const char* kind, const std::vector<NumberedSave>& saves) {
     QStringList faults;
-    for (const QString& number : column(store, "SELECT RefNo FROM tblSalesMaster"))
-        if (number.section(u'-', 1, 1).toLongLong() > counter.value(0).toLongLong())
-            faults += "the counter of sales stands before " + number;
+    std::vector<NumberedSave> begun = saves;
+    std::ranges::sort(begun, {}, [](const NumberedSave& save) { return save.event.began; });
+    qint64 highest = 0;  // of those that had ended before this one began
+    for (size_t told = 0; const NumberedSave& save : begun) {
+        for (; saves[told].event.ended < save.event.began; ++told)
+            highest = std::max(highest, saves[told].serial);
+        if (save.isFirst && save.serial < highest)
+            faults += QString("%1%2 came out after %3").arg(kind).arg(save.serial).arg(highest);
+    }
+    return faults;
+}
+
+// In the end it holds the serial of the last save, or of one that was under way at the same time, or of one
+// that nobody was told of.
+QStringList counterFaults(Connection& store, const Counter& counter, const Record& record,
+                          const QSet<QString>& untold) {
+    const std::vector<NumberedSave> saves = savesOf(counter.kind, record);
+    if (saves.empty()) return {};
+    const QString statement = QString("SELECT Server FROM %1").arg(counter.table);
+    const qint64 value = column(store, statement).value(0).toLongLong();
+    const bool isTold = std::ranges::any_of(saves, [&](const NumberedSave& save) {
+        return save.serial == value && save.event.ended >= saves.back().event.began;
+    });
+    const bool isUntold = std::ranges::any_of(untold, [&](const QString& name) {
+        return name.startsWith(counter.kind) && serialOf(name) == value;
+    });
+    QStringList faults = orderFaults(counter.kind, saves);
+    if (!isTold && !isUntold) faults += QString("%1 holds %2").arg(counter.table).arg(value);
     return faults;
 }
 
@@ -233,19 +312,34 @@ QSet<QString> overpaid(Connection& store) {
     return {names.begin(), names.end()};
 }
 
-// With stations killed, a save may be there that nobody was told of, and a deletion as well.
-QStringList faultsOf(Connection& store, const Record& record, const QSet<QString>& overpaidBefore,
-                     const Hazards& hazards) {
+// What was told to stand is there, and what was told to be gone is not.
+QStringList tellingFaults(const QSet<QString>& found, const Record& record) {
+    QStringList faults;
+    for (const auto& [name, history] : record.numbers.asKeyValueRange()) {
+        if (history.isTwice()) faults += name + " was given out twice";
+        if (history.mayBeGone) continue;
+        if (history.stands() && !found.contains(name)) faults += name + " is lost";
+        if (!history.stands() && found.contains(name)) faults += name + " was deleted, and is there";
+    }
+    return faults;
+}
+
+QSet<QString> untoldOf(QSet<QString> found, const Record& record) {
+    for (const QString& name : record.numbers.keys()) found.remove(name);
+    return found;
+}
+
+// A station that is killed, or that loses the server in the midst of a commit, may leave one save that nobody
+// was told of.
+QStringList faultsOf(Connection& store, const Record& record, const QSet<QString>& before,
+                     const QSet<QString>& overpaidBefore, const Hazards& hazards) {
     QStringList faults = (hazards.stops ? QStringList() : record.errors) + balanceFaults(store);
-    const QSet<QString> found = stored(store);
-    for (const QString& name : record.twice - record.freed) faults += name + " was given out twice";
-    // A number that a deletion frees goes to whoever waited with it for his save, and takes the counter back
-    // with it. What was told first, the deletion or the second save, the lines of two stations do not say.
-    const QSet<QString> unclear = record.twice & record.freed;
-    if (unclear.isEmpty()) faults += counterFaults(store);
-    for (const QString& name : record.standing - found - unclear)
-        if ((!hazards.kills && !hazards.stops) || !name.startsWith("sale ")) faults += name + " is lost";
-    for (const QString& name : (record.gone & found) - unclear) faults += name + " was deleted, and is there";
+    const QSet<QString> found = stored(store) - before;
+    const QSet<QString> untold = untoldOf(found, record);
+    faults += tellingFaults(found, record);
+    for (const Counter& counter : counters) faults += counterFaults(store, counter, record, untold);
+    if (untold.size() > hazards.killed + (hazards.stops ? record.errors.size() : 0))
+        faults += QString("%1 were told to nobody").arg(untold.size());
     for (const QString& name : overpaid(store) - overpaidBefore) faults += name + " is overpaid";
     for (const char* statement :
          {"SELECT Reference FROM tblSalesDetails WHERE Reference NOT IN (SELECT RefNo FROM tblSalesMaster)",
@@ -265,19 +359,21 @@ QString waitsText(QList<double> waits) {
         .arg(at(0.5), at(0.95), at(1));
 }
 
-int runTrial(const QString& place, int count, int saves, const Hazards& hazards) {
+int runTrial(const QString& place, int count, int saves, Hazards hazards) {
     makeDemoStore(place);
     Connection store;
     store.open(place, passwordFor(place));
-    const QSet<QString> overpaidBefore = overpaid(store);
+    const QSet<QString> before = stored(store), overpaidBefore = overpaid(store);
     Trial trial(place, count, saves, hazards.kills);
     const Record record = trial.run();
-    const QStringList faults = faultsOf(store, record, overpaidBefore, hazards);
+    hazards.killed = trial.killed();
+    const QStringList faults = faultsOf(store, record, before, overpaidBefore, hazards);
     say(waitsText(record.waits));
     say(QString("told to try again: %1 times; that it failed: %2 times; killed: %3 times")
             .arg(record.busy)
             .arg(record.errors.size())
             .arg(trial.killed()));
+    say(QString("numbers that were freed and given out again: %1").arg(record.givenAgain()));
     for (const QString& fault : faults.mid(0, 20)) say("WRONG: " + fault);
     return faults.isEmpty() ? 0 : 1;
 }
