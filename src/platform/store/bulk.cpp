@@ -69,7 +69,8 @@ QByteArrayView BulkReader::bytes(int column) const {
     return {text, text ? sqlite3_column_bytes(statement_, column) : 0};
 }
 
-BulkWriter::BulkWriter(Connection& store, const QString& statement) : store_(store), text_(statement) {
+BulkWriter::BulkWriter(Connection& store, const QString& statement, Refused refused)
+    : store_(store), text_(statement), refused_(refused) {
     if (!isOnServer(store_)) statement_ = store_.d_->openedFile().take(text_);
 }
 
@@ -90,13 +91,43 @@ void BulkWriter::bind(int position, const QString& value) {
     statement_ ? bindText(statement_, position, value) : keep(position, value);
 }
 
-void BulkWriter::step() {
-    store_.requireUnit();
-    if (!statement_) {
-        store_.d_->opened().run({text_, values_});
-        return;
+void BulkWriter::passOver(const std::function<void()>& write) {
+    try {
+        write();
+    } catch (const StoreError& error) {
+        if (error.number() == StoreError::busy) throw;
+        store_.requireUnit();
     }
-    tellStatement(text_);
-    stepped(statement_);
-    sqlite3_reset(statement_);
+}
+
+void BulkWriter::step() {
+    constexpr size_t rowsAtOnce = 64;
+    store_.requireUnit();
+    if (statement_) {
+        tellStatement(text_);
+        const auto write = [this] {
+            stepped(statement_);
+            sqlite3_reset(statement_);
+        };
+        refused_ == PassedOver ? passOver(write) : write();
+    } else if (refused_ == Thrown) {
+        store_.d_->opened().runLater({text_, values_});
+    } else {
+        rows_.push_back(values_);
+        if (rows_.size() == rowsAtOnce) flush();
+    }
+}
+
+// Where one of many is refused, each is tried by itself.
+void BulkWriter::flush() {
+    const std::vector<QVariantList> rows = std::exchange(rows_, {});
+    if (rows.empty()) return;
+    Engine& engine = store_.d_->opened();
+    try {
+        engine.runMany(text_, rows);
+    } catch (const StoreError& error) {
+        if (error.number() == StoreError::busy) throw;
+        store_.requireUnit();
+        for (const QVariantList& row : rows) passOver([&] { engine.run({text_, row}); });
+    }
 }

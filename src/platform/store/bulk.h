@@ -3,7 +3,9 @@
 #include "platform/store/sql.h"
 
 #include <QString>
+#include <functional>
 #include <memory>
+#include <vector>
 
 class BulkRows;
 class Engine;
@@ -38,9 +40,15 @@ class BulkReader {
 };
 
 // The same write for many rows: bind by position, step, again.
+//
+// What becomes of a row that the store refuses is said when the writer is made. Thrown: as
+// Connection::runLater throws it. PassedOver: it stays as it is, and the others are written; only a busy
+// store and a lost unit are thrown. Such a writer has to be flushed in the end, for a server is told of many
+// rows at once.
 class BulkWriter {
   public:
-    BulkWriter(Connection& store, const QString& statement);
+    enum Refused { Thrown, PassedOver };
+    BulkWriter(Connection& store, const QString& statement, Refused refused = Thrown);
     ~BulkWriter();
     BulkWriter(const BulkWriter&) = delete;
     BulkWriter& operator=(const BulkWriter&) = delete;
@@ -50,12 +58,16 @@ class BulkWriter {
     void bind(int position, Currency value) { bind(position, value.tenThousandths()); }
     void bind(int position, const QString& value);
     void step();
+    void flush();
 
   private:
     void keep(int position, const QVariant& value);
+    void passOver(const std::function<void()>& write);
 
     Connection& store_;
     QString text_;
+    Refused refused_;
     sqlite3_stmt* statement_ = nullptr;  // of a file
     QVariantList values_;                // for a server
+    std::vector<QVariantList> rows_;
 };

@@ -158,9 +158,14 @@ qint64 Connection::run(const Sql& statement) {
     return d_->opened().run(statement);
 }
 
+void Connection::runLater(const Sql& statement) {
+    requireUnit();
+    d_->opened().runLater(statement);
+}
+
 void Connection::runMany(const QString& statement, const std::vector<QVariantList>& rows) {
     Transaction unit(*this);
-    for (const QVariantList& row : rows) run({statement, row});
+    d_->opened().runMany(statement, rows);
     unit.commit();
 }
 

@@ -48,7 +48,10 @@ class Connection {
     Recordset openTable(const QString& table, const Sql& where = {});
     // Any other statement; returns the number of rows it changed.
     qint64 run(const Sql& statement);
-    // The same statement for many rows of values, prepared once.
+    // A write of a unit, of which nobody asks how many rows it changed. A server is told of it with the next
+    // statement or the commit, which throws its failure and loses the unit.
+    void runLater(const Sql& statement);
+    // The same statement for many rows of values, prepared once: all of them or none.
     void runMany(const QString& statement, const std::vector<QVariantList>& rows);
 
     bool inTransaction() const { return depth_ > 0; }

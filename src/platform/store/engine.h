@@ -1,6 +1,7 @@
 #pragma once
 #include "platform/store/connection.h"
 #include "platform/store/place.h"
+#include "platform/store/read_ahead.h"
 #include "platform/store/transaction.h"
 
 // The rows of a statement, read to their end.
@@ -34,6 +35,16 @@ class Engine {
 
     virtual ReadRows execute(const Sql& statement) = 0;
     virtual qint64 run(const Sql& statement) = 0;
+    // As Connection::runLater.
+    virtual void runLater(const Sql& statement) { run(statement); }
+    // The same write for each of these rows; where one is refused, none of them is written, and it is thrown.
+    // Within a unit.
+    virtual void runMany(const QString& statement, const std::vector<QVariantList>& rows) {
+        for (const QVariantList& row : rows) run({statement, row});
+    }
+    // As class ReadAhead.
+    virtual void readAhead(const std::vector<Sql>&, ReadAhead::Until) {}
+    virtual void forgetAhead() {}
     // Runs an INSERT of one row and returns its number in the table's key column.
     virtual qint64 insert(const Sql& statement, const QString& key) = 0;
     virtual std::unique_ptr<BulkRows> read(const Sql& statement) = 0;

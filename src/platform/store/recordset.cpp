@@ -205,6 +205,12 @@ void Recordset::update() {
     changes_.clear();
 }
 
+void Recordset::addLater() {
+    connection_->runLater(insertStatement());
+    adding_ = false;
+    changes_.clear();
+}
+
 void Recordset::insertRow() {
     QVariantList row(columnCount_);
     connection_->requireUnit();

@@ -58,6 +58,8 @@ class Recordset {
     void set(const QString& column, Currency value) { set(column, QVariant::fromValue(value)); }
     void set(const QString& column, const char* value) { set(column, QString::fromUtf8(value)); }
     void update();
+    // As update, for a new row that nobody asks for again: the set does not keep it (Connection::runLater).
+    void addLater();
 
   private:
     friend class Connection;

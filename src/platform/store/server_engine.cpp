@@ -7,11 +7,14 @@
 #include <QRegularExpression>
 
 #include <libpq-fe.h>
+#include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace {
-constexpr int rowsOfFetch = 500;
+constexpr int firstFetch = 500, laterFetch = 4000;  // rows
 // The types of the server's own that are not read as texts.
 enum : unsigned {
     boolType = 16,
@@ -146,25 +149,32 @@ class ServerRows : public BulkRows {
 
     bool next() override {
         if (++row_ < PQntuples(rows_.get())) return true;
-        if (cursor_.isEmpty() || PQntuples(rows_.get()) < rowsOfFetch) return false;
-        rows_ = std::move(engine_.guarded({{ServerCommand::Plain, fetch(cursor_), {}}}).front());
+        if (cursor_.isEmpty() || PQntuples(rows_.get()) < asked_) return false;
+        asked_ = laterFetch;
+        rows_ = std::move(engine_.guarded({{ServerCommand::Plain, fetch(cursor_, asked_), {}}}).front());
         row_ = 0;
         return PQntuples(rows_.get()) > 0;
     }
-    qint64 integer(int column) const override { return QByteArrayView(bytes(column)).toLongLong(); }
+    qint64 integer(int column) const override {
+        const QByteArrayView digits = bytes(column);
+        qint64 number = 0;
+        std::from_chars(digits.begin(), digits.end(), number);
+        return number;
+    }
     bool isNull(int column) const override { return PQgetisnull(rows_.get(), row_, column) != 0; }
     QByteArrayView bytes(int column) const override {
         return {PQgetvalue(rows_.get(), row_, column), PQgetlength(rows_.get(), row_, column)};
     }
 
-    static QByteArray fetch(const QByteArray& cursor) {
-        return "FETCH " + QByteArray::number(rowsOfFetch) + " FROM " + cursor;
+    static QByteArray fetch(const QByteArray& cursor, int rows = firstFetch) {
+        return "FETCH " + QByteArray::number(rows) + " FROM " + cursor;
     }
 
   private:
     ServerEngine& engine_;
     ServerResult rows_;
     QByteArray cursor_;
+    int asked_ = firstFetch;
     int row_ = -1;
 };
 
@@ -177,37 +187,78 @@ ServerStatement& ServerEngine::known(const QString& text) {
     statement->text = serverStatement(text).toUtf8();
     statement->values = marksOf(text);
     statement->changesTables = startsWith(text, {"CREATE", "DROP", "ALTER"});
+    statement->isPlannedAnew = QString::fromUtf8(statement->text).contains("LIMIT $");
     statement->writes = statement->changesTables || startsWith(text, {"INSERT", "UPDATE", "DELETE"});
     statement->compared = firstCompared(text, statement->writes);
     statement->rows = rowsWrittenBy(text);
     return *statement;
 }
 
+// Parses what was never parsed, along with its first use. A statement whose limit is bound is planned for
+// each use: a plan for any limit would sort the whole table.
+void ServerEngine::add(std::vector<ServerCommand>& commands, ServerStatement& statement,
+                       const QVariantList& values) {
+    if (statement.isPlannedAnew) {
+        commands.push_back({ServerCommand::Plain, statement.text, {}, values});
+        return;
+    }
+    if (statement.name.isEmpty()) {
+        statement.name = "s" + QByteArray::number(++parsed_);
+        commands.push_back({ServerCommand::Parse, statement.text, statement.name});
+    }
+    commands.push_back({ServerCommand::Prepared, statement.name, {}, values});
+}
+
+// Leaves these out, from this one on; what was not sent is not parsed either.
+void ServerEngine::drop(std::vector<ServerCommand>& commands, size_t from) {
+    for (size_t at = from; at < commands.size(); ++at)
+        if (commands[at].kind == ServerCommand::Parse)
+            for (const auto& statement : std::as_const(statements_))
+                if (statement->name == commands[at].name) statement->name.clear();
+    commands.resize(std::min(from, commands.size()));
+}
+
+// Behind what was put off: where that fails, the server takes nothing of the unit any more.
+std::vector<ServerResult> ServerEngine::sendWithLater(std::vector<ServerCommand> commands) {
+    const auto before = static_cast<std::ptrdiff_t>(later_.size());
+    commands.insert(commands.begin(), std::make_move_iterator(later_.begin()),
+                    std::make_move_iterator(later_.end()));
+    later_.clear();
+    try {
+        std::vector<ServerResult> answers = link_.send(commands);
+        answers.erase(answers.begin(), answers.begin() + before);
+        return answers;
+    } catch (const StoreError&) {
+        drop(commands, link_.carriedOut());
+        throw;
+    }
+}
+
+void ServerEngine::sendLater() {
+    if (!later_.empty()) sendWithLater({});
+}
+
 // A statement of a unit stands behind a savepoint: where it fails, the unit goes on without it.
 std::vector<ServerResult> ServerEngine::guarded(std::vector<ServerCommand> commands) {
-    if (!inUnit_) return link_.send(commands);
+    if (!inUnit_) return sendWithLater(std::move(commands));
+    const size_t before = later_.size();
     commands.insert(commands.begin(), {ServerCommand::Plain, guard, {}});
     commands.push_back({ServerCommand::Plain, keepGuarded, {}});
     try {
-        std::vector<ServerResult> answers = link_.send(commands);
+        std::vector<ServerResult> answers = sendWithLater(std::move(commands));
         answers.erase(answers.begin());
         answers.pop_back();
         return answers;
     } catch (const StoreError&) {
-        if (!link_.isLost()) link_.simple(undoGuarded);
+        if (!link_.isLost() && link_.carriedOut() > before) link_.simple(undoGuarded);
         throw;
     }
 }
 
 ServerResult ServerEngine::answerOnce(ServerStatement& statement, const QVariantList& values) {
     std::vector<ServerCommand> commands;
-    const bool parses = statement.name.isEmpty();
-    const QByteArray name = parses ? "s" + QByteArray::number(++parsed_) : statement.name;
-    if (parses) commands.push_back({ServerCommand::Parse, statement.text, name});
-    commands.push_back({ServerCommand::Prepared, name, {}, values});
-    ServerResult result = std::move(guarded(std::move(commands)).back());
-    statement.name = name;
-    return result;
+    add(commands, statement, values);
+    return std::move(guarded(std::move(commands)).back());
 }
 
 // The server refuses a text where a number stands, and a number too long for one: whoever looks for it finds
@@ -259,6 +310,7 @@ ServerResult ServerEngine::answer(ServerStatement& statement, const QVariantList
 ServerResult ServerEngine::changeTables(const ServerStatement& statement) {
     catalogue_.clear();
     forgetTables();
+    sendLater();
     link_.simple(guard);
     try {
         ServerResult result = link_.simple(statement.text);
@@ -344,9 +396,47 @@ void ServerEngine::learnColumns(ServerStatement& statement, const PGresult* resu
     statement.columns = columnsOf(names, kinds);
 }
 
+static QString aheadKey(const Sql& sql) {
+    QString key = sql.text;
+    for (const QVariant& value : sql.values) key += QChar(0) + storedValue(value).toString();
+    return key;
+}
+
+void ServerEngine::readAhead(const std::vector<Sql>& statements, ReadAhead::Until until) {
+    forgetAhead();
+    outlivesWrites_ = until == ReadAhead::End;
+    std::vector<ServerCommand> commands;
+    std::vector<size_t> places;
+    for (const Sql& sql : statements) {
+        ServerStatement& statement = known(sql.text);
+        requireValues(statement.values, sql.values);
+        add(commands, statement, sql.values);
+        places.push_back(commands.size() - 1);
+    }
+    if (commands.empty()) return;
+    try {
+        std::vector<ServerResult> answers = guarded(std::move(commands));
+        for (size_t at = 0; at < places.size(); ++at)
+            ahead_[aheadKey(statements[at])] = std::move(answers[places[at]]);
+    } catch (const StoreError&) {
+        if (link_.isLost() || (inUnit_ && hasUndoneUnit())) throw;
+    }
+}
+
+void ServerEngine::aheadIsStale() {
+    if (!outlivesWrites_) ahead_.clear();
+}
+
+// None: it was not read ahead.
+ServerResult ServerEngine::takeAhead(const Sql& sql) {
+    const auto held = ahead_.empty() ? ahead_.end() : ahead_.find(aheadKey(sql));
+    return held == ahead_.end() ? nullptr : std::move(ahead_.extract(held).mapped());
+}
+
 ReadRows ServerEngine::execute(const Sql& sql) {
     ServerStatement& statement = known(sql.text);
-    const ServerResult result = answer(statement, sql.values);
+    ServerResult result = takeAhead(sql);
+    if (!result) result = answer(statement, sql.values);
     learnColumns(statement, result.get(), sql.text);
     return {statement.columns, statement.columnCount, rowsOf(result.get(), statement.types)};
 }
@@ -368,6 +458,7 @@ void ServerEngine::tell(const WrittenRows& rows, const PGresult* keys) const {
 qint64 ServerEngine::run(const Sql& sql) {
     ServerStatement& statement = heard(sql.text);
     const bool alone = statement.writes && !inUnit_;
+    aheadIsStale();
     requireValues(statement.values, sql.values);
     if (alone) begin(Turn::Any);
     try {
@@ -382,9 +473,34 @@ qint64 ServerEngine::run(const Sql& sql) {
     }
 }
 
+void ServerEngine::runLater(const Sql& sql) {
+    constexpr size_t mostLater = 256;
+    ServerStatement& statement = known(sql.text);
+    if (!inUnit_ || RowWatch::isHeard(this, statement.rows.table)) return void(run(sql));
+    requireValues(statement.values, sql.values);
+    tellStatement(sql.text);
+    aheadIsStale();
+    add(later_, statement, sql.values);
+    if (later_.size() >= mostLater) sendLater();
+}
+
+void ServerEngine::runMany(const QString& text, const std::vector<QVariantList>& rows) {
+    ServerStatement& statement = known(text);
+    if (RowWatch::isHeard(this, statement.rows.table)) return Engine::runMany(text, rows);
+    for (const QVariantList& row : rows) {
+        requireValues(statement.values, row);
+        tellStatement(text);
+    }
+    aheadIsStale();
+    std::vector<ServerCommand> commands;
+    for (const QVariantList& row : rows) add(commands, statement, row);
+    guarded(std::move(commands));
+}
+
 qint64 ServerEngine::insert(const Sql& sql, const QString& key) {
     const Sql returning(sql.text + " RETURNING " + key, sql.values);
     const bool alone = !inUnit_;
+    aheadIsStale();
     if (alone) begin(Turn::Any);
     try {
         tellStatement(sql.text);
@@ -401,6 +517,8 @@ qint64 ServerEngine::insert(const Sql& sql, const QString& key) {
 std::unique_ptr<BulkRows> ServerEngine::read(const Sql& sql) {
     ServerStatement& statement = known(sql.text);
     requireValues(statement.values, sql.values);
+    if (ServerResult ahead = takeAhead(sql))
+        return std::make_unique<ServerRows>(*this, std::move(ahead), QByteArray());
     if (!inUnit_) return std::make_unique<ServerRows>(*this, answer(statement, sql.values), QByteArray());
     const QByteArray cursor = "c" + QByteArray::number(++cursors_);
     const auto open = [&](const QVariantList& given) {
@@ -422,6 +540,7 @@ bool ServerEngine::tryBegin() {
 }
 
 void ServerEngine::begin(Turn turn) {
+    forgetAhead();
     if (link_.isLost()) connectAnew();
     for (BusyWait wait(turn);;) {
         try {
@@ -438,7 +557,7 @@ void ServerEngine::begin(Turn turn) {
 // Whether a commit whose answer is lost was carried out, the server alone knows.
 void ServerEngine::commit() {
     try {
-        link_.simple("COMMIT");
+        sendWithLater({{ServerCommand::Plain, "COMMIT", {}}});
     } catch (const StoreError&) {
         if (!link_.isLost()) throw;
         throw StoreError(StoreError::general,
@@ -450,6 +569,8 @@ void ServerEngine::commit() {
 
 void ServerEngine::undo() {
     inUnit_ = false;
+    forgetAhead();
+    drop(later_, 0);
     if (link_.isLost()) return;
     try {
         link_.simple("ROLLBACK");
@@ -457,11 +578,26 @@ void ServerEngine::undo() {
     }
 }
 
-void ServerEngine::setPoint(int level) { link_.simple("SAVEPOINT " + savepoint(level)); }
+// A point costs no round trip of its own.
+void ServerEngine::setPoint(int level) {
+    later_.push_back({ServerCommand::Plain, "SAVEPOINT " + savepoint(level), {}});
+}
 
-void ServerEngine::keepPoint(int level) { link_.simple("RELEASE " + savepoint(level)); }
+// What was put off within it fails here, and not behind it.
+void ServerEngine::keepPoint(int level) {
+    const bool writes = std::ranges::any_of(
+        later_, [](const ServerCommand& command) { return command.kind != ServerCommand::Plain; });
+    later_.push_back({ServerCommand::Plain, "RELEASE " + savepoint(level), {}});
+    if (writes) sendLater();
+}
 
 void ServerEngine::undoToPoint(int level) {
+    forgetAhead();
+    const QByteArray point = "SAVEPOINT " + savepoint(level);
+    size_t at = later_.size();
+    while (at > 0 && later_[at - 1].text != point) --at;
+    drop(later_, at > 0 ? at - 1 : 0);
+    if (at > 0) return;  // it was not even sent
     if (link_.isLost()) return;
     try {
         link_.simple("ROLLBACK TO " + savepoint(level) + "; RELEASE " + savepoint(level));
@@ -483,5 +619,6 @@ qint64 ServerEngine::version() {
 }
 
 void ServerEngine::setVersion(qint64 version) {
+    sendLater();
     link_.simple("UPDATE StoreVersion SET Version = " + QByteArray::number(version));
 }

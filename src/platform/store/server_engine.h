@@ -3,6 +3,8 @@
 #include "platform/store/row_watch.h"
 #include "platform/store/server_link.h"
 
+#include <map>
+
 // The table that a statement writes, and what becomes of its rows; no name: it writes none.
 struct WrittenRows {
     QString table;
@@ -17,6 +19,7 @@ struct ServerStatement {
     qsizetype compared = 0;  // from this one on the values are only compared with columns
     bool writes = false;
     bool changesTables = false;
+    bool isPlannedAnew = false;
     WrittenRows rows;
     std::shared_ptr<const RecordsetColumns> columns;
     int columnCount = 0;
@@ -30,6 +33,10 @@ class ServerEngine : public Engine {
 
     ReadRows execute(const Sql& statement) override;
     qint64 run(const Sql& statement) override;
+    void runLater(const Sql& statement) override;
+    void runMany(const QString& statement, const std::vector<QVariantList>& rows) override;
+    void readAhead(const std::vector<Sql>& statements, ReadAhead::Until until) override;
+    void forgetAhead() override { ahead_.clear(); }
     qint64 insert(const Sql& statement, const QString& key) override;
     std::unique_ptr<BulkRows> read(const Sql& statement) override;
     QStringList tables() override;
@@ -69,17 +76,25 @@ class ServerEngine : public Engine {
     template <class Ask>
     auto asked(const ServerStatement& statement, const QVariantList& values, const Ask& ask);
     ServerResult answerOnce(ServerStatement& statement, const QVariantList& values);
-    ServerResult inUnit(ServerStatement& statement, const QVariantList& values);
     ServerResult changeTables(const ServerStatement& statement);
     std::vector<ServerResult> guarded(std::vector<ServerCommand> commands);
+    void add(std::vector<ServerCommand>& commands, ServerStatement& statement, const QVariantList& values);
+    std::vector<ServerResult> sendWithLater(std::vector<ServerCommand> commands);
+    void sendLater();
+    void drop(std::vector<ServerCommand>& commands, size_t from);
     void learnColumns(ServerStatement& statement, const pg_result* result, const QString& text);
     ColumnKind kindOf(unsigned table, int place);
     const std::vector<Table>& catalogue();
+    void aheadIsStale();
+    ServerResult takeAhead(const Sql& sql);
     bool tryBegin();
     void connectAnew();
 
     ServerLink link_;
     bool inUnit_ = false;
+    std::map<QString, ServerResult> ahead_;  // by statement and values
+    bool outlivesWrites_ = false;
+    std::vector<ServerCommand> later_;  // of the unit, not sent yet: writes and points
     int cursors_ = 0;
     int parsed_ = 0;
     QHash<QString, std::shared_ptr<ServerStatement>> statements_;

@@ -236,6 +236,7 @@ std::vector<ServerResult> ServerLink::send(const std::vector<ServerCommand>& com
     underWay = underWay && PQpipelineSync(connection) != 0;
     std::vector<ServerResult> answers;
     std::optional<StoreError> failure;
+    carriedOut_ = 0;
     for (size_t at = 0; underWay && at < commands.size(); ++at) {
         ServerResult answer(PQgetResult(connection));
         if (brokenOff(answer.get())) break;
@@ -243,6 +244,7 @@ std::vector<ServerResult> ServerLink::send(const std::vector<ServerCommand>& com
             failure = serverError(answer.get());
             failedState_ = PQresultErrorField(answer.get(), PG_DIAG_SQLSTATE);
         }
+        carriedOut_ += !failure;
         while (const ServerResult rest{PQgetResult(connection)}) continue;
         answers.push_back(std::move(answer));
     }

@@ -36,6 +36,8 @@ class ServerLink {
     // The answers of these commands, one each. Behind one that fails none is carried out, and it is thrown
     // when all are answered.
     std::vector<ServerResult> send(const std::vector<ServerCommand>& commands);
+    // How many of those that were sent last were carried out.
+    size_t carriedOut() const { return carriedOut_; }
     // Statements without values, one answer: that of the last.
     ServerResult simple(const QByteArray& statements);
 
@@ -58,6 +60,7 @@ class ServerLink {
     QSqlDatabase database_;
     QByteArray failedState_;
     bool lost_ = false;
+    size_t carriedOut_ = 0;
 };
 
 StoreError serverError(const pg_result* result);

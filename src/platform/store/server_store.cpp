@@ -40,6 +40,7 @@ void requireEmptyDatabase(Engine& engine, const QString& place) {
 }
 
 void ServerEngine::prepare() {
+    sendLater();
     for (const QString& statement : serverGround()) link_.simple(statement.toUtf8());
     link_.simple("INSERT INTO StoreVersion VALUES (" + QByteArray::number(applicationId) + ", 0)");
     catalogue_.clear();
@@ -49,6 +50,7 @@ void ServerEngine::prepare() {
 void ServerEngine::refuseWrites() { link_.simple("SET default_transaction_read_only = on"); }
 
 void ServerEngine::rowsAreCopied() {
+    sendLater();
     for (const Table& table : catalogue())
         for (const TableColumn& column : table.columns)
             if (column.isKey)
