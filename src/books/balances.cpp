@@ -5,169 +5,157 @@
 #include "books/passed_over.h"
 #include "foundation/shared_routines.h"
 
-#include <array>
-
 static Term termOf(const Recordset& row, const char* alias) {
     return row.isNull(alias) ? Term() : Term(row.currency(alias));
 }
 
-// The one value of a summing query.
-static Term sumOf(Connection& store, const Sql& query, const char* alias) {
-    Term sum;
-    passOverRead([&] { sum = termOf(store.execute(query), alias); });
-    return sum;
+// The values of summing queries, as one statement: Sum0, Sum1, ...
+static Sql joined(const std::vector<Sql>& sums) {
+    Sql all("SELECT ");
+    for (size_t at = 0; at < sums.size(); ++at)
+        all += Sql(at > 0 ? ", (" : "(") + sums[at] + Sql(QString(") AS Sum%1").arg(at));
+    return all;
 }
 
-// The terms of a figure in one statement, for every line of a save asks for them. Nothing where it fails:
-// then each sum counts by itself.
-template <size_t count>
-static std::optional<std::array<Term, count>> termsOf(Connection& store, const Sql& query,
-                                                      const char* const (&aliases)[count]) {
-    std::array<Term, count> terms;
-    const bool together = passOverRead([&] {
-        const Recordset row = store.execute(query);
-        for (size_t i = 0; i < count; ++i) terms[i] = termOf(row, aliases[i]);
-    });
-    return together ? std::optional(terms) : std::nullopt;
+static std::vector<Term> together(Connection& store, const std::vector<Sql>& sums) {
+    const Recordset row = store.execute(joined(sums));
+    std::vector<Term> terms;
+    for (size_t at = 0; at < sums.size(); ++at)
+        terms.push_back(termOf(row, qPrintable(QString("Sum%1").arg(at))));
+    return terms;
 }
 
-namespace {
-struct Payment {
-    Term paid;
-    Term granted;
-};
-}  // namespace
-
-// Both sums come from one query: where one fails, neither counts.
-static Payment paymentOf(Connection& store, const Sql& query) {
-    Payment payment;
-    passOverRead([&] {
-        const Recordset row = store.execute(query);
-        payment = {termOf(row, "Bayad"), termOf(row, "Palugit")};
-    });
-    return payment;
+// Nothing where they fail.
+static std::vector<Term> sumsOrNothing(Connection& store, const std::vector<Sql>& sums) {
+    std::vector<Term> terms(sums.size());
+    passOverRead([&] { terms = together(store, sums); });
+    return terms;
 }
 
-static Currency receivable(Connection& store, const Sql& sales, const Sql& receipts) {
-    const Term sold = sumOf(store, sales, "Halin");
-    const auto [paid, granted] = paymentOf(store, receipts);
-    return receivableFigure(sold, paid, granted);
+// In one statement, for every line of a save asks for them; where that fails, each by itself.
+static std::vector<Term> sumsOf(Connection& store, const std::vector<Sql>& sums) {
+    std::vector<Term> terms;
+    if (passOverRead([&] { terms = together(store, sums); })) return terms;
+    for (const Sql& sum : sums) terms.push_back(sumsOrNothing(store, {sum})[0]);
+    return terms;
 }
 
-static const QString termsOfSale =
-    "(SELECT SUM(TotalAmount) AS Halin FROM tblSalesMaster WHERE RefNo = ?) AS Halin,"
-    " SUM(Amount) AS Bayad, SUM(DiscountAmount) AS Palugit FROM tblReceiptDetails WHERE Reference = ?";
+// What was sold, paid and granted. Where one of the two sums of what was received fails, neither counts.
+static Currency receivable(Connection& store, const std::vector<Sql>& sums) {
+    std::vector<Term> terms;
+    if (!passOverRead([&] { terms = together(store, sums); })) {
+        const std::vector<Term> received = sumsOrNothing(store, {sums[1], sums[2]});
+        terms = {sumsOrNothing(store, {sums[0]})[0], received[0], received[1]};
+    }
+    return receivableFigure(terms[0], terms[1], terms[2]);
+}
+
+static Currency difference(Connection& store, const std::vector<Sql>& sums) {
+    const std::vector<Term> terms = sumsOf(store, sums);
+    return differenceFigure(terms[0], terms[1]);
+}
+
+static std::vector<Sql> sumsOfSale(const QString& refNo) {
+    return {{"SELECT SUM(TotalAmount) FROM tblSalesMaster WHERE RefNo = ?", {refNo}},
+            {"SELECT SUM(Amount) FROM tblReceiptDetails WHERE Reference = ?", {refNo}},
+            {"SELECT SUM(DiscountAmount) FROM tblReceiptDetails WHERE Reference = ?", {refNo}}};
+}
+
+static std::vector<Sql> sumsOfPurchase(const QString& purchaseNo) {
+    return {{"SELECT SUM(PurchaseAmount) FROM tblPurchaseMaster WHERE PurchaseNo = ?", {purchaseNo}},
+            {"SELECT SUM(PayAmount) FROM tblDisbursementDetails WHERE PuchaseID = ? AND DirectPayment = 0",
+             {purchaseNo}}};
+}
+
+static std::vector<Sql> sumsOfItem(const QString& itemCode) {
+    return {{"SELECT SUM(Delivered) FROM tblPurchaseDetails WHERE ItemID = ?", {itemCode}},
+            {"SELECT SUM(Served) FROM tblSalesDetails WHERE ItemID = ?", {itemCode}}};
+}
 
 Currency SalesBalance(Connection& store, const QString& refNo) {
-    static const QString together = "SELECT " + termsOfSale;
-    if (const auto terms = termsOf(store, {together, {refNo, refNo}}, {"Halin", "Bayad", "Palugit"}))
-        return receivableFigure((*terms)[0], (*terms)[1], (*terms)[2]);
-    return receivable(store,
-                      {"SELECT SUM(TotalAmount) AS Halin FROM tblSalesMaster WHERE RefNo = ?", {refNo}},
-                      {"SELECT SUM(Amount) AS Bayad, SUM(DiscountAmount) AS Palugit FROM tblReceiptDetails "
-                       "WHERE Reference = ?",
-                       {refNo}});
+    return receivable(store, sumsOfSale(refNo));
+}
+
+Currency PurchaseBalance(Connection& store, const QString& purchaseNo) {
+    return difference(store, sumsOfPurchase(purchaseNo));
+}
+
+Currency ItemBalance(Connection& store, const QString& itemCode) {
+    return difference(store, sumsOfItem(itemCode));
+}
+
+Sql SalesBalanceSums(const QString& refNo) { return joined(sumsOfSale(refNo)); }
+
+Sql PostedOnSaleQuery(const QString& refNo) {
+    std::vector<Sql> sums = sumsOfSale(refNo);
+    sums.push_back({"SELECT MAX(RefNo) FROM tblSalesMaster WHERE RefNo = ?", {refNo}});
+    return joined(sums);
 }
 
 std::optional<PostedOnSale> postedOnSale(Connection& store, const QString& refNo) {
-    static const QString together =
-        "SELECT (SELECT MAX(RefNo) FROM tblSalesMaster WHERE RefNo = ?) AS Found, " + termsOfSale;
     std::optional<PostedOnSale> posted;
     passOverRead([&] {
-        const Recordset row = store.execute({together, {refNo, refNo, refNo}});
-        if (row.isNull("Found")) return;
-        const Term granted = termOf(row, "Palugit");
-        posted = {receivableFigure(termOf(row, "Halin"), termOf(row, "Bayad"), granted),
+        const Recordset row = store.execute(PostedOnSaleQuery(refNo));
+        if (row.isNull("Sum3")) return;
+        const Term granted = termOf(row, "Sum2");
+        posted = {receivableFigure(termOf(row, "Sum0"), termOf(row, "Sum1"), granted),
                   granted.value_or(Currency())};
     });
     return posted;
 }
 
+Sql PurchaseBalanceSums(const QString& purchaseNo) { return joined(sumsOfPurchase(purchaseNo)); }
+
+Sql ItemBalanceSums(const QString& itemCode) { return joined(sumsOfItem(itemCode)); }
+
 Currency CustomerBalance(Connection& store, const QString& contactId) {
     return receivable(
-        store, {"SELECT SUM(TotalAmount) AS Halin FROM tblSalesMaster WHERE ContactNo = ?", {contactId}},
-        {"SELECT SUM(PaymentAmount) AS Bayad, SUM(TotalDiscAmount) AS Palugit FROM "
-         "tblReceiptMaster WHERE CustomerNo = ?",
-         {contactId}});
-}
-
-static constexpr const char* purchasedOnOrder =
-    "SELECT SUM(PurchaseAmount) AS Gipalit FROM tblPurchaseMaster WHERE PurchaseNo = ?";
-static constexpr const char* paidOnOrder =
-    "SELECT SUM(PayAmount) AS Bayad FROM tblDisbursementDetails WHERE PuchaseID = ? AND DirectPayment = 0";
-
-Currency PurchaseBalance(Connection& store, const QString& purchaseNo) {
-    static const QString together =
-        QString("SELECT (%1) AS Gipalit, (%2) AS Bayad").arg(purchasedOnOrder, paidOnOrder);
-    if (const auto terms = termsOf(store, {together, {purchaseNo, purchaseNo}}, {"Gipalit", "Bayad"}))
-        return differenceFigure((*terms)[0], (*terms)[1]);
-    const Term purchased = sumOf(store, {purchasedOnOrder, {purchaseNo}}, "Gipalit");
-    return differenceFigure(purchased, sumOf(store, {paidOnOrder, {purchaseNo}}, "Bayad"));
+        store, {{"SELECT SUM(TotalAmount) FROM tblSalesMaster WHERE ContactNo = ?", {contactId}},
+                {"SELECT SUM(PaymentAmount) FROM tblReceiptMaster WHERE CustomerNo = ?", {contactId}},
+                {"SELECT SUM(TotalDiscAmount) FROM tblReceiptMaster WHERE CustomerNo = ?", {contactId}}});
 }
 
 Currency SupplierBalance(Connection& store, const QString& contactId) {
-    const Term purchased = sumOf(
+    return difference(
         store,
-        {"SELECT SUM(PurchaseAmount) AS Gipamalit FROM tblPurchaseMaster WHERE ContactNo = ?", {contactId}},
-        "Gipamalit");
-    const Term paid = sumOf(store,
-                            {"SELECT SUM(tblDisbursementDetails.PayAmount) AS Gipangbayran"
-                             " FROM tblDisbursementMaster INNER JOIN"
-                             " tblDisbursementDetails ON tblDisbursementMaster.VoucherNo ="
-                             " tblDisbursementDetails.VoucherID"
-                             " WHERE tblDisbursementMaster.ContactNo = ?"
-                             " AND tblDisbursementDetails.DirectPayment = 0",
-                             {contactId}},
-                            "Gipangbayran");
-    return differenceFigure(purchased, paid);
+        {{"SELECT SUM(PurchaseAmount) FROM tblPurchaseMaster WHERE ContactNo = ?", {contactId}},
+         {"SELECT SUM(tblDisbursementDetails.PayAmount) FROM tblDisbursementMaster INNER JOIN"
+          " tblDisbursementDetails ON tblDisbursementMaster.VoucherNo = tblDisbursementDetails.VoucherID"
+          " WHERE tblDisbursementMaster.ContactNo = ? AND tblDisbursementDetails.DirectPayment = 0",
+          {contactId}}});
 }
 
-static constexpr const char* deliveredOfItem =
-    "SELECT SUM(Delivered) As TotalDelivery FROM tblPurchaseDetails WHERE ItemID = ?";
-static constexpr const char* servedOfItem =
-    "SELECT SUM(Served) As TotalSales FROM tblSalesDetails WHERE ItemID = ?";
-
-Currency ItemBalance(Connection& store, const QString& itemCode) {
-    static const QString together =
-        QString("SELECT (%1) AS TotalDelivery, (%2) AS TotalSales").arg(deliveredOfItem, servedOfItem);
-    if (const auto terms = termsOf(store, {together, {itemCode, itemCode}}, {"TotalDelivery", "TotalSales"}))
-        return differenceFigure((*terms)[0], (*terms)[1]);
-    const Term delivered = sumOf(store, {deliveredOfItem, {itemCode}}, "TotalDelivery");
-    return differenceFigure(delivered, sumOf(store, {servedOfItem, {itemCode}}, "TotalSales"));
-}
-
-static QDate firstDocumentDate(Connection& store) {
-    QDate first;
-    passOverRead([&] { first = std::min(GetFirstPurchaseDate(store), GetFirstSalesDate(store)); });
-    return first;
+// On hand as of the date, and what an order serves already.
+static std::vector<Sql> sumsOfStock(const QString& itemCode, const QDate& date, const QString& reference) {
+    return {{"SELECT SUM(tblPurchaseDetails.Delivered) FROM tblPurchaseDetails INNER JOIN tblPurchaseMaster"
+             " ON tblPurchaseDetails.Reference = tblPurchaseMaster.PurchaseNo"
+             " WHERE ItemID = ? AND tblPurchaseMaster.PurchaseDate <= ?",
+             {itemCode, date}},
+            {"SELECT SUM(tblSalesDetails.Served) FROM tblSalesDetails INNER JOIN tblSalesMaster"
+             " ON tblSalesDetails.Reference = tblSalesMaster.RefNo"
+             " WHERE ItemID = ? AND tblSalesMaster.RefDate <= ?",
+             {itemCode, date}},
+            {"SELECT SUM(Served) FROM tblSalesDetails WHERE ItemID = ? AND Reference = ?",
+             {itemCode, reference}}};
 }
 
 Currency ItemBalanceBetween(Connection& store, const QString& itemCode, const QDate& date) {
-    const QVariantList period{itemCode, firstDocumentDate(store), date};
-    const Term delivered = sumOf(store,
-                                 {"SELECT SUM(tblPurchaseDetails.Delivered) AS TotalDelivery"
-                                  " FROM tblPurchaseDetails INNER JOIN tblPurchaseMaster ON"
-                                  " tblPurchaseDetails.Reference = tblPurchaseMaster.PurchaseNo"
-                                  " WHERE ItemID = ? AND tblPurchaseMaster.PurchaseDate BETWEEN ? AND ?",
-                                  period},
-                                 "TotalDelivery");
-    const Term served = sumOf(store,
-                              {"SELECT SUM(tblSalesDetails.Served) AS TotalSales"
-                               " FROM tblSalesDetails INNER JOIN tblSalesMaster ON"
-                               " tblSalesDetails.Reference = tblSalesMaster.RefNo"
-                               " WHERE ItemID = ? AND tblSalesMaster.RefDate BETWEEN ? AND ?",
-                               period},
-                              "TotalSales");
-    return differenceFigure(delivered, served);
+    const std::vector<Sql> sums = sumsOfStock(itemCode, date, {});
+    return difference(store, {sums[0], sums[1]});
 }
 
 Currency ServedOnOrder(Connection& store, const QString& itemCode, const QString& reference) {
-    return sumOf(store,
-                 {"SELECT SUM(Served) As TotalSales FROM tblSalesDetails"
-                  " WHERE ItemID = ? AND Reference = ?",
-                  {itemCode, reference}},
-                 "TotalSales")
-        .value_or(Currency());
+    return sumsOf(store, {sumsOfStock(itemCode, {}, reference)[2]})[0].value_or(Currency());
+}
+
+Currency StockForOrder(Connection& store, const QString& itemCode, const QDate& date,
+                       const QString& reference) {
+    const std::vector<Term> terms = sumsOf(store, sumsOfStock(itemCode, date, reference));
+    return differenceFigure(terms[0], terms[1]) + terms[2].value_or(Currency());
+}
+
+Sql StockForOrderSums(const QString& itemCode, const QDate& date, const QString& reference) {
+    return joined(sumsOfStock(itemCode, date, reference));
 }
 
 void StoreSalesBalance(Connection& store, const QString& refNo, Boxes& boxes) {
@@ -183,15 +171,27 @@ void StoreItemBalance(Connection& store, const QString& itemCode, Boxes& boxes) 
 }
 
 void UpdateSalesBalance(Connection& store, const QString& refNo, Boxes&) {
-    updateBalance(store, receivableBalance, refNo);
+    UpdateSalesBalances(store, {refNo});
 }
 
 void UpdatePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes&) {
-    updateBalance(store, payableBalance, purchaseNo);
+    UpdatePurchaseBalances(store, {purchaseNo});
 }
 
 void UpdateItemBalance(Connection& store, const QString& itemCode, Boxes&) {
-    updateBalance(store, inventoryBalance, itemCode);
+    UpdateItemBalances(store, {itemCode});
+}
+
+void UpdateSalesBalances(Connection& store, const QStringList& refNos) {
+    updateBalances(store, receivableBalance, refNos);
+}
+
+void UpdatePurchaseBalances(Connection& store, const QStringList& purchaseNos) {
+    updateBalances(store, payableBalance, purchaseNos);
+}
+
+void UpdateItemBalances(Connection& store, const QStringList& itemCodes) {
+    updateBalances(store, inventoryBalance, itemCodes);
 }
 
 void RecomputeReceivableBalances(Connection& store, Progress& progress) {

@@ -19,6 +19,16 @@ Currency ItemBalance(Connection& store, const QString& itemCode);        // Tota
 // On hand as of the date: from the earliest document to the date, both inside.
 Currency ItemBalanceBetween(Connection& store, const QString& itemCode, const QDate& date);
 Currency ServedOnOrder(Connection& store, const QString& itemCode, const QString& reference);
+// Both together: what an order of that date can serve of the item.
+Currency StockForOrder(Connection& store, const QString& itemCode, const QDate& date,
+                       const QString& reference);
+
+// What these routines ask of the store, to be read ahead.
+Sql SalesBalanceSums(const QString& refNo);
+Sql PostedOnSaleQuery(const QString& refNo);
+Sql PurchaseBalanceSums(const QString& purchaseNo);
+Sql ItemBalanceSums(const QString& itemCode);
+Sql StockForOrderSums(const QString& itemCode, const QDate& date, const QString& reference);
 
 // What stands against a sales order, by one statement. Nothing: no order of this number, or a sum of it
 // leaves its range.
@@ -35,6 +45,10 @@ void StoreItemBalance(Connection& store, const QString& itemCode, Boxes& boxes);
 void UpdateSalesBalance(Connection& store, const QString& refNo, Boxes& boxes);
 void UpdatePurchaseBalance(Connection& store, const QString& purchaseNo, Boxes& boxes);
 void UpdateItemBalance(Connection& store, const QString& itemCode, Boxes& boxes);
+// The same for several.
+void UpdateSalesBalances(Connection& store, const QStringList& refNos);
+void UpdatePurchaseBalances(Connection& store, const QStringList& purchaseNos);
+void UpdateItemBalances(Connection& store, const QStringList& itemCodes);
 
 // All keys at once: set-based, writing only what changed, with the figures of the routines above. A sum that
 // overflows counts 0 for its key, as there, and stops no other. In units of at most a quarter of a second of

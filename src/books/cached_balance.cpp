@@ -6,6 +6,7 @@
 #include "books/passed_over.h"
 #include "foundation/shared_routines.h"
 #include "platform/store/bulk.h"
+#include "platform/store/read_ahead.h"
 
 #include <algorithm>
 #include <memory>
@@ -21,6 +22,7 @@ static Currency inventoryOf(const std::vector<Term>& terms) { return differenceF
 const CachedBalance receivableBalance{"tblSalesMaster",
                                       "RefNo",
                                       SalesBalance,
+                                      SalesBalanceSums,
                                       "Book Balance could not be Updated! Book Not Found!",
                                       "Please Wait While System Computes for Receivable Balances...",
                                       "TotalAmount",
@@ -31,6 +33,7 @@ const CachedBalance payableBalance{
     "tblPurchaseMaster",
     "PurchaseNo",
     PurchaseBalance,
+    PurchaseBalanceSums,
     "Book Balance could not be Updated! Book Not Found!",
     "Please Wait While System Computes for Payable Balances...",
     "PurchaseAmount",
@@ -41,6 +44,7 @@ const CachedBalance inventoryBalance{
     "tblItemMaster",
     "ItemCode",
     ItemBalance,
+    ItemBalanceSums,
     "Inventory Balance could not be Updated! Item Not Found!",
     "Please Wait While System Computes for Inventory Balances...",
     "NULL",
@@ -51,18 +55,19 @@ static QString writeStatement(const CachedBalance& cached) {
     return QString("UPDATE %1 SET Balance = ? WHERE %2 = ?").arg(cached.table, cached.key);
 }
 
-// The rows that were written, or nothing after a failure.
-static std::optional<qint64> writeBalance(Connection& store, const CachedBalance& cached,
-                                          const QString& key) {
-    return passOverStatement(store, {writeStatement(cached), {bound(cached.compute(store, key)), key}});
-}
-
 void storeBalance(Connection& store, const CachedBalance& cached, const QString& key, Boxes& boxes) {
-    if (writeBalance(store, cached, key) == 0) boxes += exclamation("Error!", cached.missing);
+    const Sql write{writeStatement(cached), {bound(cached.compute(store, key)), key}};
+    if (passOverStatement(store, write) == 0) boxes += exclamation("Error!", cached.missing);
 }
 
-void updateBalance(Connection& store, const CachedBalance& cached, const QString& key) {
-    writeBalance(store, cached, key);
+void updateBalances(Connection& store, const CachedBalance& cached, const QStringList& keys) {
+    std::vector<Sql> sums;
+    for (const QString& key : keys) sums.push_back(cached.sums(key));
+    const ReadAhead ahead(store, sums);
+    QList<Currency> figures;
+    for (const QString& key : keys) figures += cached.compute(store, key);
+    for (qsizetype at = 0; at < keys.size(); ++at)
+        passOverRead([&] { store.runLater({writeStatement(cached), {bound(figures[at]), keys[at]}}); });
 }
 
 namespace {
@@ -186,14 +191,18 @@ bool BalancePass::collect(const UnitClock& clock, std::vector<Stale>& stale) {
 // store refuses stays as it is.
 bool BalancePass::write(const UnitClock& clock, std::vector<Stale>& stale) {
     std::ranges::sort(stale, {}, &Stale::row);
-    BulkWriter balance(store_, QString("UPDATE %1 SET Balance = ? WHERE RowNo = ?").arg(cached_.table));
+    BulkWriter balance(store_, QString("UPDATE %1 SET Balance = ? WHERE RowNo = ?").arg(cached_.table),
+                       BulkWriter::PassedOver);
+    bool inTime = true;
     for (const auto& [row, figure] : stale) {
-        if (clock.isOver()) return false;
+        inTime = !clock.isOver();
+        if (!inTime) break;
         balance.bind(1, figure);
         balance.bind(2, row);
-        if (!passOverRead([&] { balance.step(); })) store_.requireUnit();
+        balance.step();
     }
-    return true;
+    balance.flush();
+    return inTime;
 }
 
 // Figures that there was no time to write are stale with the end of the unit: their keys come again.

@@ -20,8 +20,9 @@ struct CachedBalance {
     const char* table;
     const char* key;
     Currency (*compute)(Connection& store, const QString& key);
-    const char* missing;   // the text of the box for a key that is not there
-    const char* waitText;  // of the progress box
+    Sql (*sums)(const QString& key);  // what compute asks
+    const char* missing;              // the text of the box for a key that is not there
+    const char* waitText;             // of the progress box
     // The terms for all keys at once: a column of the table itself, then the sums; and the figure they make.
     const char* ownTerm;
     std::vector<SumSource> sources;
@@ -33,5 +34,5 @@ extern const CachedBalance payableBalance;
 extern const CachedBalance inventoryBalance;
 
 void storeBalance(Connection& store, const CachedBalance& cached, const QString& key, Boxes& boxes);
-void updateBalance(Connection& store, const CachedBalance& cached, const QString& key);
+void updateBalances(Connection& store, const CachedBalance& cached, const QStringList& keys);
 void recomputeBalances(Connection& store, const CachedBalance& cached, Progress& progress);

@@ -7,6 +7,9 @@
 #include "books/stock_rows.h"
 #include "books/stock_valuation.h"
 #include "foundation/shared_routines.h"
+#include "platform/store/read_ahead.h"
+
+#include <span>
 
 static constexpr const char* postingText = "Please Wait While System is Posting Stock Valuation...";
 
@@ -63,42 +66,88 @@ static const Book& bookOf(const QString& bookId) {
     return bookId == purchases.bookId ? purchases : sales;
 }
 
-static Recordset linesOf(Connection& store, const Book& book, const QString& reference) {
-    return store.execute(
-        {QString(
-             "SELECT ItemID, %1 AS Quantity, UnitPrice, Discount FROM %2 WHERE Reference = ? ORDER BY RowNo")
-             .arg(book.quantity, book.details),
-         {reference}});
+static Sql linesQuery(const QueuedDocument& document) {
+    const Book& book = bookOf(document.bookId);
+    return {
+        QString(
+            "SELECT ItemID, %1 AS Quantity, UnitPrice, Discount FROM %2 WHERE Reference = ? ORDER BY RowNo")
+            .arg(book.quantity, book.details),
+        {document.reference}};
 }
 
-static void addLines(Connection& store, const Book& book, const QueuedDocument& document) {
-    const QString contact = LookupField(store, "ContactID", "tblContactMaster", "ContactName",
-                                        document.contactName, LookupMode::PrimaryKey);
-    auto lines = linesOf(store, book, document.reference);
-    if (lines.eof()) return;
-    qint64 key = numbering::takeKeys(store, numbering::stock, lines.rowCount());
-    for (; !lines.eof(); lines.moveNext(), ++key)
+static Sql contactQuery(const QueuedDocument& document) {
+    return lookupQuery("ContactID", "tblContactMaster", "ContactName", document.contactName,
+                       LookupMode::PrimaryKey);
+}
+
+namespace {
+// A queued document with what it posts.
+struct Posting {
+    const QueuedDocument& document;
+    QString contact;
+    Recordset lines;
+};
+}  // namespace
+
+static std::vector<Posting> readPostings(Connection& store, std::span<const QueuedDocument> documents) {
+    std::vector<Sql> reads;
+    for (const QueuedDocument& document : documents) {
+        reads.push_back(contactQuery(document));
+        reads.push_back(linesQuery(document));
+    }
+    const ReadAhead ahead(store, reads);
+    std::vector<Posting> postings;
+    for (const QueuedDocument& document : documents) {
+        const Recordset contact = store.execute(contactQuery(document));
+        postings.push_back(
+            {document, contact.eof() ? QString() : contact.textAt(0), store.execute(linesQuery(document))});
+    }
+    return postings;
+}
+
+static void addLines(Connection& store, Posting& posting, qint64 key) {
+    const QueuedDocument& document = posting.document;
+    for (Recordset& lines = posting.lines; !lines.eof(); lines.moveNext(), ++key)
         addStockRow(store, key,
-                    {book.bookId, document.reference, contact, lines.text("ItemID"), document.date,
-                     lines.currency("Quantity"),
+                    {bookOf(document.bookId).bookId, document.reference, posting.contact,
+                     lines.text("ItemID"), document.date, lines.currency("Quantity"),
                      NetOfPercent(lines.currency("Discount"), lines.currency("UnitPrice"))});
 }
 
-static void postDocument(Connection& store, const QueuedDocument& document) {
-    const Book& book = bookOf(document.bookId);
+static void postDocuments(Connection& store, std::span<const QueuedDocument> documents) {
     Transaction unit(store);
-    RemoveStockValuation(store, book.bookId, document.reference);
-    addLines(store, book, document);
-    RemoveForPosting(store, document.bookId, document.reference);
+    std::vector<Posting> postings = readPostings(store, documents);
+    qint64 count = 0;
+    for (const Posting& posting : postings) count += posting.lines.rowCount();
+    qint64 key = count > 0 ? numbering::takeKeys(store, numbering::stock, count) : 0;
+    for (Posting& posting : postings) {
+        const QueuedDocument& document = posting.document;
+        RemoveStockValuation(store, bookOf(document.bookId).bookId, document.reference);
+        addLines(store, posting, key);
+        key += posting.lines.rowCount();
+        RemoveForPosting(store, document.bookId, document.reference);
+    }
     unit.commit();
 }
 
-static void costItem(Connection& store, const QueuedItem& item, Progress& progress, Boxes& boxes) {
+static void costItems(Connection& store, std::span<const QueuedItem> items, Progress& progress,
+                      Boxes& boxes) {
     Transaction unit(store);
-    ComputeItemCosts(
-        store, item.itemCode, [&](const char* text) { progress.setText(text + item.description); }, boxes);
-    StoreCostPrice(store, item.itemCode, boxes);
-    RemoveItemForPosting(store, item.itemCode);
+    QStringList codes;
+    std::vector<Sql> reads;
+    for (const QueuedItem& item : items) {
+        codes += item.itemCode;
+        reads.push_back(itemLedgerQuery(item.itemCode));
+    }
+    {
+        const ReadAhead ahead(store, reads, ReadAhead::End);
+        for (const QueuedItem& item : items)
+            ComputeItemCosts(
+                store, item.itemCode, [&](const char* text) { progress.setText(text + item.description); },
+                boxes);
+    }
+    StoreCostPrices(store, codes, boxes);
+    for (const QString& code : codes) RemoveItemForPosting(store, code);
     unit.commit();
 }
 
@@ -106,7 +155,7 @@ static void costItem(Connection& store, const QueuedItem& item, Progress& progre
 static bool costItemOrPass(Connection& store, const QueuedItem& item, Progress& progress, Boxes& boxes) {
     Boxes told;
     try {
-        costItem(store, item, progress, told);
+        costItems(store, {&item, 1}, progress, told);
     } catch (const OverflowError& error) {
         boxes +=
             exclamation("Error...", QString("%1 %2: %3").arg(item.itemCode, item.description, error.what()));
@@ -131,26 +180,28 @@ static bool succeeds(Boxes& boxes, Step step) {
 }
 
 // The walk of both passes. Its entries are dealt with in units of a quarter of a second at most, for a commit
-// costs more than most entries do; each is told to the view when its unit is safely in the store. A failing
-// entry is undone alone and ends the walk: those before it stay done.
+// costs more than most entries do, and several at once, as a server likes them; each is told to the view when
+// its unit is safely in the store. Where one of several fails, each is dealt with by itself: a failing entry
+// is undone alone and ends the walk, and those before it stay done.
 template <class Entry>
 class Walk {
   public:
     // False for an entry that is passed over.
     using Step = std::function<bool(const Entry&, Boxes&)>;
+    using Several = std::function<void(std::span<const Entry>, Boxes&)>;
     using Tell = std::function<void(qsizetype)>;
 
     Walk(Connection& store, const QList<Entry>& list, EndOfDayView& view, Boxes& boxes)
         : store_(store), list_(list), view_(view), boxes_(boxes) {}
 
     // True when every entry is done.
-    bool run(const char* stepText, const Step& step, const Tell& tell) {
+    bool run(const char* stepText, const Several& several, const Step& step, const Tell& tell) {
         if (list_.isEmpty()) return false;
         view_.status(postingText);
         view_.start(list_.size());
         while (next_ < list_.size()) {
             Unit unit;
-            const bool sound = succeeds(boxes_, [&] { runUnit(unit, stepText, step); });
+            const bool sound = succeeds(boxes_, [&] { runUnit(unit, stepText, several, step); });
             for (const qsizetype index : unit.done) tell(index);
             if (!sound || unit.failed) return false;
             if (next_ < list_.size()) letOthersIn(store_);
@@ -166,29 +217,75 @@ class Walk {
         bool failed = false;
     };
 
-    void runUnit(Unit& unit, const char* stepText, const Step& step) {
-        const UnitClock clock;
-        Transaction transaction(store_, Turn::Last);
-        Boxes told, failure;
-        QList<qsizetype> done;
-        qsizetype index = next_;
-        for (; index < list_.size() && !clock.isOver(); ++index) {
-            view_.status(QString("%1 %2 of %3").arg(stepText).arg(index + 1).arg(list_.size()));
+    static constexpr qsizetype entriesAtOnce = 32;
+
+    void tellStatus(const char* stepText, qsizetype index) {
+        view_.status(QString("%1 %2 of %3").arg(stepText).arg(index + 1).arg(list_.size()));
+    }
+
+    bool isUndone() const {
+        try {
+            store_.requireUnit();
+            return false;
+        } catch (const StoreError&) {
+            return true;
+        }
+    }
+
+    // False when one of them fails: none is done then. Throws what has undone the whole unit.
+    bool doSeveral(qsizetype first, qsizetype count, const char* stepText, const Several& several,
+                   Boxes& told) {
+        Boxes boxes;
+        for (qsizetype index = first; index < first + count; ++index) tellStatus(stepText, index);
+        try {
+            several({&list_[first], static_cast<size_t>(count)}, boxes);
+        } catch (const StoreError&) {
+            if (isUndone()) throw;
+            return false;
+        } catch (const OverflowError&) {
+            return false;
+        }
+        told += boxes;
+        return true;
+    }
+
+    // The first that fails ends it.
+    qsizetype doEach(Unit& unit, qsizetype index, qsizetype end, const char* stepText, const Step& step,
+                     Boxes& told, Boxes& failure) {
+        for (; index < end; ++index) {
+            tellStatus(stepText, index);
             bool whole = false;
             unit.failed = !succeeds(failure, [&] { whole = step(list_[index], told); });
             if (unit.failed) break;
             if (whole)
-                done += index;
+                unit.done += index;
             else
                 passOver(index);
         }
+        return index;
+    }
+
+    void runUnit(Unit& unit, const char* stepText, const Several& several, const Step& step) {
+        const UnitClock clock;
+        Transaction transaction(store_, Turn::Last);
+        Unit work;
+        Boxes told, failure;
+        qsizetype index = next_;
+        while (index < list_.size() && !work.failed && !clock.isOver()) {
+            const qsizetype end = std::min(index + entriesAtOnce, list_.size());
+            if (doSeveral(index, end - index, stepText, several, told))
+                for (; index < end; ++index) work.done += index;
+            else
+                index = doEach(work, index, end, stepText, step, told, failure);
+        }
+        unit.failed = work.failed;
         // What a full disk has undone as a whole is told once.
         if (!unit.failed)
             transaction.commit();
         else if (Boxes unseen; !succeeds(unseen, [&] { transaction.commit(); }))
             return boxes_.append(failure);
         boxes_ += told + failure;
-        unit.done = done;
+        unit.done = work.done;
         next_ = index;
     }
 
@@ -210,8 +307,9 @@ bool PostStockValuation(Connection& store, const QList<QueuedDocument>& document
     return Walk(store, documents, view, boxes)
         .run(
             "Posting Stock Valuation",
+            [&](std::span<const QueuedDocument> several, Boxes&) { postDocuments(store, several); },
             [&](const QueuedDocument& document, Boxes&) {
-                postDocument(store, document);
+                postDocuments(store, {&document, 1});
                 return true;
             },
             [&](qsizetype index) { view.documentPosted(index); });
@@ -224,6 +322,9 @@ bool InitializeStockValuation(Connection& store, const QList<QueuedItem>& items,
     return Walk(store, items, view, boxes)
         .run(
             "Initializing Stock Valuation",
+            [&](std::span<const QueuedItem> several, Boxes& told) {
+                costItems(store, several, progress, told);
+            },
             [&](const QueuedItem& item, Boxes& told) { return costItemOrPass(store, item, progress, told); },
             [&](qsizetype index) {
                 view.itemCosted(index);

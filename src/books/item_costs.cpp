@@ -7,10 +7,14 @@
 
 #include <optional>
 
+Sql itemLedgerQuery(const QString& itemCode) {
+    return {QString("SELECT %1 FROM tblStockValuation v WHERE v.ItemCode = ? ORDER BY %2")
+                .arg(ledger::columns, ledger::order),
+            {itemCode}};
+}
+
 static ItemCosting readItem(Connection& store, const QString& itemCode) {
-    BulkReader reader(store, {QString("SELECT %1 FROM tblStockValuation v WHERE v.ItemCode = ? ORDER BY %2")
-                                  .arg(ledger::columns, ledger::order),
-                              {itemCode}});
+    BulkReader reader(store, itemLedgerQuery(itemCode));
     ItemCosting item;
     while (reader.next()) item.add(ledger::readRow(reader));
     return item;
@@ -50,16 +54,16 @@ void ComputeSalesCost(Connection& store, const QString& itemCode, Progress& prog
 
 void ComputeItemCosts(Connection& store, const QString& itemCode,
                       const std::function<void(const char* text)>& tell, Boxes& boxes) {
-    recompute(store, itemCode, [&](ItemCosting& item) {
-        tell(balanceText);
-        item.computeBalances();
-        tell(salesCostText);
-        try {
-            item.computeSalesCost();
-        } catch (const OverflowError& error) {
-            boxes += exclamation("Error!", error.what());
-        }
-    });
+    ItemCosting item = readItem(store, itemCode);
+    tell(balanceText);
+    item.computeBalances();
+    tell(salesCostText);
+    try {
+        item.computeSalesCost();
+    } catch (const OverflowError& error) {
+        boxes += exclamation("Error!", error.what());
+    }
+    ledger::Writer(store).write(item);
 }
 
 static void passOverOverflow(auto step) {

@@ -11,7 +11,9 @@ inline constexpr const char* salesCostText = "System is Computing Sales Cost for
 
 // Running balances and sales cost of one item in one scan, as the end of day wants them; tell is called with
 // the text of each. A sales cost beyond the range adds its box, and the sales from there on keep theirs.
-// Throws StoreError, and OverflowError for a balance beyond the range.
+// Throws StoreError, and OverflowError for a balance beyond the range: within a unit of its caller, which is
+// given up then. What it asks of the store can be read ahead.
+Sql itemLedgerQuery(const QString& itemCode);
 void ComputeItemCosts(Connection& store, const QString& itemCode,
                       const std::function<void(const char* text)>& tell, Boxes& boxes);
 

@@ -23,8 +23,8 @@ StockRow readRow(const BulkReader& reader, Movement movement) {
     return row;
 }
 
-Writer::Writer(Connection& store)
-    : figures_(store, "UPDATE tblStockValuation SET Balance = ?, SalesCost = ? WHERE ZevRef = ?") {}
+Writer::Writer(Connection& store, BulkWriter::Refused refused)
+    : figures_(store, "UPDATE tblStockValuation SET Balance = ?, SalesCost = ? WHERE ZevRef = ?", refused) {}
 
 void Writer::write(qint64 zevRef, const StockFigures& figures) {
     figures_.bind(1, figures.balance);

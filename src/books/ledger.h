@@ -19,9 +19,10 @@ StockRow readRow(const BulkReader& reader, Movement movement);
 // Writes the rows that changed.
 class Writer {
   public:
-    explicit Writer(Connection& store);
+    explicit Writer(Connection& store, BulkWriter::Refused refused = BulkWriter::Thrown);
     void write(const ItemCosting& item);
     void write(qint64 zevRef, const StockFigures& figures);
+    void flush() { figures_.flush(); }
 
   private:
     BulkWriter figures_;

@@ -22,9 +22,10 @@ static CounterState readCounter(Connection& store, const char* table) {
 }
 
 static void writeCounter(Connection& store, const char* table, const QString& number) {
-    const QVariantList value{number};
-    if (store.run({QString("UPDATE %1 SET Server = ?").arg(table), value}) == 0)
-        store.run({QString("INSERT INTO %1 (Server) VALUES (?)").arg(table), value});
+    store.runLater({QString("UPDATE %1 SET Server = ?").arg(table), {number}});
+    store.runLater(
+        {QString("INSERT INTO %1 (Server) SELECT ? WHERE NOT EXISTS (SELECT 1 FROM %1)").arg(table),
+         {number}});
 }
 
 static qint64 wholeNumber(Currency number) { return number.tenThousandths() / 10000; }

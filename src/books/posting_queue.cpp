@@ -4,23 +4,23 @@
 
 void QueueBookForPosting(Connection& store, const QString& bookId, const QString& reference,
                          const QString& contact, const QDate& date) {
-    store.run({"INSERT INTO tblForPosting (BookID, Reference, Contact, TransDate) VALUES (?, ?, ?, ?)",
-               {bookId, reference, contact, date}});
+    store.runLater({"INSERT INTO tblForPosting (BookID, Reference, Contact, TransDate) VALUES (?, ?, ?, ?)",
+                    {bookId, reference, contact, date}});
 }
 
 void QueueItemForPosting(Connection& store, const QString& itemCode) {
-    store.run(
+    store.runLater(
         {"INSERT INTO tblForPostingItem (ItemID) SELECT ? WHERE NOT EXISTS"
          " (SELECT 1 FROM tblForPostingItem WHERE ItemID = ?)",
          {itemCode, itemCode}});
 }
 
 void RemoveForPosting(Connection& store, const QString& bookId, const QString& reference) {
-    store.run({"DELETE FROM tblForPosting WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
+    store.runLater({"DELETE FROM tblForPosting WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
 }
 
 void RemoveItemForPosting(Connection& store, const QString& itemCode) {
-    store.run(
+    store.runLater(
         {"DELETE FROM tblForPostingItem WHERE ItemID = ? AND NOT EXISTS (SELECT 1 FROM tblForPosting q WHERE"
          " CASE WHEN q.BookID = 'P' THEN EXISTS (SELECT 1 FROM tblPurchaseDetails d WHERE d.ItemID = ?"
          " AND d.Reference = q.Reference) ELSE EXISTS (SELECT 1 FROM tblSalesDetails d WHERE d.ItemID = ?"

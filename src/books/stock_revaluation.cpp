@@ -20,7 +20,6 @@ class Revaluation {
     bool writeOn(const UnitClock& clock);
     bool costTouchedOn(const UnitClock& clock);
     std::vector<bool> touchedItems();
-    void writeRow(ledger::Writer& writer, const WholeLedger::Change& change);
     void tellWritten();
 
     Connection& store_;
@@ -63,21 +62,18 @@ std::vector<bool> Revaluation::touchedItems() {
 }
 
 // A row that the store refuses keeps what it has; what has undone the whole unit ends the pass.
-void Revaluation::writeRow(ledger::Writer& writer, const WholeLedger::Change& change) {
-    if (!passOverRead([&] { writer.write(change.zevRef, change.figures); })) store_.requireUnit();
-}
-
 bool Revaluation::writeOn(const UnitClock& clock) {
     constexpr size_t rowsBetweenLooks = 64;
     const std::vector<bool> touched = touchedItems();
     const auto& changes = ledger_.changes();
-    ledger::Writer writer(store_);
+    ledger::Writer writer(store_, BulkWriter::PassedOver);
     for (; written_ < changes.size(); ++written_) {
-        if (written_ % rowsBetweenLooks == 0 && clock.isOver()) return true;
+        if (written_ % rowsBetweenLooks == 0 && clock.isOver()) break;
         const WholeLedger::Change& change = changes[written_];
-        if (!touched[static_cast<size_t>(change.item)]) writeRow(writer, change);
+        if (!touched[static_cast<size_t>(change.item)]) writer.write(change.zevRef, change.figures);
     }
-    return false;
+    writer.flush();
+    return written_ < changes.size();
 }
 
 bool Revaluation::costTouchedOn(const UnitClock& clock) {

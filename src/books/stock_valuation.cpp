@@ -8,6 +8,7 @@
 #include "books/stock_rows.h"
 #include "foundation/shared_routines.h"
 #include "platform/store/bulk.h"
+#include "platform/store/read_ahead.h"
 
 #include <algorithm>
 #include <tuple>
@@ -44,7 +45,8 @@ void AddStockValuation(Connection& store, const QString& bookId, const QString& 
 }
 
 void RemoveStockValuation(Connection& store, const QString& bookId, const QString& reference) {
-    store.run({"DELETE FROM tblStockValuation WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
+    store.runLater(
+        {"DELETE FROM tblStockValuation WHERE (BookID = ?) AND (Reference = ?)", {bookId, reference}});
 }
 
 namespace {
@@ -69,11 +71,16 @@ class LayersOnHand {
 };
 }  // namespace
 
+static Sql layersQuery(const QDate& from, const QDate& to, const QString& itemCode) {
+    return {
+        "SELECT v.StockIn, v.InPrice, v.Balance FROM tblStockValuation v"
+        " WHERE (v.ItemCode = ?) AND (v.TransDate BETWEEN ? AND ?)"
+        " ORDER BY v.TransDate DESC, v.BookID DESC, v.ZevRef DESC",
+        {itemCode, from, to}};
+}
+
 static Currency layersValue(Connection& store, const QDate& from, const QDate& to, const QString& itemCode) {
-    BulkReader row(store, {"SELECT v.StockIn, v.InPrice, v.Balance FROM tblStockValuation v"
-                           " WHERE (v.ItemCode = ?) AND (v.TransDate BETWEEN ? AND ?)"
-                           " ORDER BY v.TransDate DESC, v.BookID DESC, v.ZevRef DESC",
-                           {itemCode, from, to}});
+    BulkReader row(store, layersQuery(from, to, itemCode));
     if (!row.next()) return {};
     LayersOnHand layers(row.currency(2));
     for (bool more = true; more && !layers.isCovered(); more = row.next())
@@ -206,12 +213,27 @@ static Currency averageCost(Currency value, Currency quantity) {
     }
 }
 
-void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes) {
-    const Currency value = StockValue(store, itemCode, boxes);
-    const Currency cost = averageCost(value, ItemBalance(store, itemCode));
-    if (passOverStatement(store, {"UPDATE tblItemMaster SET CostPrice = ? WHERE ItemCode = ?",
-                                  {bound(cost), itemCode}}) == 0)
-        boxes += exclamation("Error!", "Inventory Balance could not be Updated! Item Not Found!");
+static Sql itemQuery(const QString& itemCode) {
+    return {"SELECT 1 FROM tblItemMaster WHERE ItemCode = ?", {itemCode}};
+}
+
+void StoreCostPrices(Connection& store, const QStringList& itemCodes, Boxes& boxes) {
+    const auto [from, to] = allDays(store);
+    std::vector<Sql> reads;
+    for (const QString& code : itemCodes)
+        for (const Sql& read : {layersQuery(from, to, code), ItemBalanceSums(code), itemQuery(code)})
+            reads.push_back(read);
+    const ReadAhead ahead(store, reads, ReadAhead::End);
+    for (const QString& code : itemCodes) {
+        const Currency value = ValuationCost(store, from, to, code, boxes);
+        const Currency cost = averageCost(value, ItemBalance(store, code));
+        if (store.execute(itemQuery(code)).eof())
+            boxes += exclamation("Error!", "Inventory Balance could not be Updated! Item Not Found!");
+        passOverRead([&] {
+            store.runLater(
+                {"UPDATE tblItemMaster SET CostPrice = ? WHERE ItemCode = ?", {bound(cost), code}});
+        });
+    }
 }
 
 const char* priceColumn(PriceKind kind) {
@@ -227,8 +249,8 @@ const char* priceColumn(PriceKind kind) {
 }
 
 void UpdateItemPrice(Connection& store, const QString& itemCode, PriceKind kind, Currency price) {
-    passOverStatement(
-        store,
-        {QString("UPDATE tblItemMaster SET %1 = ? WHERE ItemCode = ? AND %1 <> ?").arg(priceColumn(kind)),
-         {bound(price), itemCode, bound(price)}});
+    const QString update = QString("UPDATE tblItemMaster SET %1 = ? WHERE ItemCode = ? AND %1 <> ?");
+    passOverRead([&] {
+        store.runLater({update.arg(priceColumn(kind)), {bound(price), itemCode, bound(price)}});
+    });
 }

@@ -37,9 +37,9 @@ Currency StockValueAt(Connection& store, const QDate& day, const QString& itemCo
 // The cost of the sales of the period. Failures as above; a period without rows sums to null, which is one.
 Currency PeriodSalesCost(Connection& store, const QDate& from, const QDate& to, const QString& itemCode,
                          Boxes& boxes);
-// The value of all stock on hand over its quantity, into CostPrice; 0 with no stock. A missing item adds a
-// box, and so does a value beyond the range, which counts 0.
-void StoreCostPrice(Connection& store, const QString& itemCode, Boxes& boxes);
+// The value of all stock on hand of each of these items over its quantity, into CostPrice; 0 with no stock. A
+// missing item adds a box, and so does a value beyond the range, which counts 0.
+void StoreCostPrices(Connection& store, const QStringList& itemCodes, Boxes& boxes);
 
 // Every item: the figures of ComputeStockBalances and ComputeSalesCost in one ordered scan of the ledger,
 // writing only rows that change, in units of at most a quarter of a second. A figure beyond the range is

@@ -24,6 +24,15 @@ QString contactIdOf(Connection& store, const QString& contactName) {
                        LookupMode::PrimaryKey);
 }
 
+Sql contactExistsQuery(const QString& contactName) {
+    return recordFoundQuery("tblContactMaster", "ContactName", trim(contactName));
+}
+
+Sql contactIdQuery(const QString& contactName) {
+    return lookupQuery("ContactID", "tblContactMaster", "ContactName", trim(contactName),
+                       LookupMode::PrimaryKey);
+}
+
 QString contactNameOf(Connection& store, const QString& contactId) {
     return LookupField(store, "ContactID", "tblContactMaster", "ContactName", contactId,
                        LookupMode::DisplayText);

@@ -15,5 +15,8 @@ ContactFigures contactFigures(Connection& store, ContactBalance balance, const Q
 bool contactExists(Connection& store, const QString& contactName);
 // Empty for an unknown name.
 QString contactIdOf(Connection& store, const QString& contactName);
+// What the two ask of the store, to be read ahead.
+Sql contactExistsQuery(const QString& contactName);
+Sql contactIdQuery(const QString& contactName);
 // And back; empty for an unknown id.
 QString contactNameOf(Connection& store, const QString& contactId);

@@ -9,6 +9,7 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/progress_scope.h"
+#include "platform/store/read_ahead.h"
 #include "platform/store/transaction.h"
 
 namespace {
@@ -52,6 +53,7 @@ class OrderSave {
     Outcome run() {
         try {
             Transaction unit(store_);
+            const ReadAhead ahead(store_, reads());
             if (auto fault = overtakenDocument(store_, document_)) return *fault;
             if (auto fault = overtaken()) return *fault;
             writeMaster();
@@ -69,6 +71,12 @@ class OrderSave {
     Box failureBox(const StoreError& failure) const {
         if (duplicateText_.isEmpty()) return exclamation("Error...", failure.text());
         return saveErrorBox(failure, duplicateText_);
+    }
+
+    std::vector<Sql> reads() const {
+        std::vector<Sql> reads = overtakenReads(lineOrder(document_), document_.lines);
+        reads.push_back(contactIdQuery(document_.contactName));
+        return reads;
     }
 
     // With the write lock held, before the order's own lines go: nobody overtakes what is tested here.
@@ -89,8 +97,8 @@ class OrderSave {
     }
 
     void writeMaster() {
-        RemoveForPosting(store_, book_.bookId, code_);
         const QString contactId = contactIdOf(store_, document_.contactName);
+        RemoveForPosting(store_, book_.bookId, code_);
         Recordset row = masterRow();
         row.set(book_.dateColumn, date_);
         row.set(book_.amountColumn, orderTotal(document_.lines));
@@ -111,10 +119,13 @@ class OrderSave {
         progress_.begin("Please Wait While System is Posting Inventory Balances...", document_.lines.size());
         Recordset details = store_.openTable(book_.detailTable);
         qint64 written = 0;
+        QStringList items;
         for (const OrderLine& line : document_.lines) {
             writeLine(details, line);
+            items += line.itemCode;
             progress_.setValue(++written);
         }
+        UpdateItemBalances(store_, items);
     }
 
     void writeLine(Recordset& details, const OrderLine& line) {
@@ -127,10 +138,9 @@ class OrderSave {
         details.set("UnitPrice", line.unitPrice);
         details.set("Discount", line.discount);
         details.set("Total", line.total);
-        details.update();
+        details.addLater();
         QueueItemForPosting(store_, line.itemCode);
         UpdateItemPrice(store_, line.itemCode, book_.priceKind(document_.wholesale), line.unitPrice);
-        UpdateItemBalance(store_, line.itemCode, boxes_);
     }
 
     Connection& store_;
@@ -211,6 +221,8 @@ QList<OrderLine> loadOrderLines(Connection& store, const OrderBook& book, const 
 }
 
 std::optional<Fault> checkOrder(Connection& store, const OrderBook& book, const OrderDocument& document) {
+    const ReadAhead ahead(store, {recordFoundQuery(book.master.table, book.master.key, trim(document.code)),
+                                  contactExistsQuery(document.contactName)});
     if (auto fault = numberFault(store, book, document)) return fault;
     if (trim(document.contactName).isEmpty())
         return Fault{exclamation("No Customer!", "Please Select Customer!"), "cboCustomer"};

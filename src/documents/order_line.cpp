@@ -40,8 +40,7 @@ Currency contactDiscount(Connection& store, const QString& name) {
 // covers no documents.
 Currency availableStock(Connection& store, const LineOrder& order, const QString& code) {
     const auto date = parseDate(order.date);
-    const Currency onHand = date ? ItemBalanceBetween(store, code, *date) : Currency();
-    return onHand + ServedOnOrder(store, code, order.code);
+    return date ? StockForOrder(store, code, *date, order.code) : ServedOnOrder(store, code, order.code);
 }
 
 // Steps of checkLine
@@ -275,6 +274,14 @@ std::optional<Fault> overtakenLine(Connection& store, const LineOrder& order, co
     const Currency available = availableStock(store, order, line.itemCode);
     if (available >= std::min(*line.tested, line.served)) return std::nullopt;
     return purchaseFirst("lvwItems");
+}
+
+std::vector<Sql> overtakenReads(const LineOrder& order, const QList<OrderLine>& lines) {
+    std::vector<Sql> reads;
+    const auto date = parseDate(order.date);
+    for (const OrderLine& line : lines)
+        if (date && line.tested) reads.push_back(StockForOrderSums(line.itemCode, *date, order.code));
+    return reads;
 }
 
 Outcome changeServed(Connection& store, const OrderBook& book, const LineOrder& order, OrderLine& line,

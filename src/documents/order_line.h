@@ -89,6 +89,8 @@ LineCheck checkLine(Connection& store, const OrderBook& book, const LineOrder& o
 // What another clerk, or another date, may have overtaken since: a line whose stock is less than it was
 // tested against, and less than it serves.
 std::optional<Fault> overtakenLine(Connection& store, const LineOrder& order, const OrderLine& line);
+// What it asks of the store for these lines, to be read ahead.
+std::vector<Sql> overtakenReads(const LineOrder& order, const QList<OrderLine>& lines);
 
 // The quick change of one quantity: the value as typed goes into the line's served quantity and total. A
 // question's key is "quantity".

@@ -19,7 +19,7 @@ QVariant bareValue(const QString& column, const QString& value) {
 }
 
 void deleteRows(Connection& store, const QString& table, const QString& column, const QVariant& value) {
-    store.run({QString("DELETE FROM %1 WHERE %2 = ?").arg(trim(table), column), {value}});
+    store.runLater({QString("DELETE FROM %1 WHERE %2 = ?").arg(trim(table), column), {value}});
 }
 
 Sql byKey(const QString& columns, const QString& table, const QString& column, const QVariant& key) {
@@ -50,10 +50,14 @@ void DeleteWhereValue(Connection& store, const QString& value, const QString& ta
 
 QString LookupField(Connection& store, const QString& primary, const QString& table, const QString& display,
                     const QString& value, LookupMode mode) {
-    const bool showsDisplay = mode == LookupMode::DisplayText;
-    const QString& wanted = showsDisplay ? display : primary;
-    const Recordset row = store.execute(byKey(wanted, table, showsDisplay ? primary : display, value));
+    const Recordset row = store.execute(lookupQuery(primary, table, display, value, mode));
     return row.eof() ? QString() : row.textAt(0);
+}
+
+Sql lookupQuery(const QString& primary, const QString& table, const QString& display, const QString& value,
+                LookupMode mode) {
+    const bool showsDisplay = mode == LookupMode::DisplayText;
+    return byKey(showsDisplay ? display : primary, table, showsDisplay ? primary : display, value);
 }
 
 qint64 CountRecords(Connection& store, const QString& table) {
@@ -61,7 +65,11 @@ qint64 CountRecords(Connection& store, const QString& table) {
 }
 
 bool RecordFound(Connection& store, const QString& table, const QString& column, const QVariant& key) {
-    return !store.execute(byKey("1", table, column, key) + " LIMIT 1").eof();
+    return !store.execute(recordFoundQuery(table, column, key)).eof();
+}
+
+Sql recordFoundQuery(const QString& table, const QString& column, const QVariant& key) {
+    return byKey("1", table, column, key) + " LIMIT 1";
 }
 
 void SetFlagField(Connection& store, const QString& table, const QString& keyColumn, const QVariant& key,

@@ -27,6 +27,10 @@ void DeleteWhereValue(Connection& store, const QString& value, const QString& ta
 enum class LookupMode { DisplayText, PrimaryKey };
 QString LookupField(Connection& store, const QString& primary, const QString& table, const QString& display,
                     const QString& value, LookupMode mode);
+// What it asks of the store, to be read ahead; and RecordFound.
+Sql lookupQuery(const QString& primary, const QString& table, const QString& display, const QString& value,
+                LookupMode mode);
+Sql recordFoundQuery(const QString& table, const QString& column, const QVariant& key);
 
 qint64 CountRecords(Connection& store, const QString& table);
 bool RecordFound(Connection& store, const QString& table, const QString& column, const QVariant& key);

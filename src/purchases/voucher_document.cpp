@@ -10,6 +10,7 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/store/place.h"
+#include "platform/store/read_ahead.h"
 #include "platform/store/transaction.h"
 
 namespace {
@@ -101,10 +102,12 @@ class VoucherSave {
     void writeDetails() {
         DeleteWhereValue(store_, code_, "tblDisbursementDetails", "VoucherID");
         Recordset details = store_.openTable("tblDisbursementDetails");
+        QStringList orders;
         for (const PaymentLine& payment : voucher_.payments) {
             writePayment(details, payment);
-            UpdatePurchaseBalance(store_, trim(payment.reference), boxes_);
+            orders += trim(payment.reference);
         }
+        UpdatePurchaseBalances(store_, orders);
     }
 
     void writePayment(Recordset& details, const PaymentLine& payment) {
@@ -115,7 +118,7 @@ class VoucherSave {
         details.set("PayAmount", figure(payment.amount));
         details.set("Particulars", trim(payment.particulars));
         details.set("DirectPayment", payment.kind() == PaymentKind::Direct);
-        details.update();
+        details.addLater();
     }
 
     void writeChecks() {
@@ -148,7 +151,7 @@ class VoucherSave {
         rows.set("CheckStatus", number.isEmpty() ? cashWord : "Pending");
         rows.set("Negotiated", number.isEmpty());
         rows.set("CrossCheck", check.isCrossed());
-        rows.update();
+        rows.addLater();
     }
 
     void writeCash(Recordset& rows, qint64 key) {
@@ -158,7 +161,7 @@ class VoucherSave {
         rows.set("CheckStatus", cashWord);
         rows.set("Negotiated", true);
         rows.set("CrossCheck", false);
-        rows.update();
+        rows.addLater();
     }
 
     Connection& store_;
@@ -254,6 +257,9 @@ Outcome saveVoucher(Connection& store, const VoucherDocument& voucher) {
     try {
         // Checked with the write lock held: of two clerks with one number the second is told so.
         Transaction unit(store);
+        const ReadAhead ahead(
+            store, {recordFoundQuery(disbursementBook.table, disbursementBook.key, trim(voucher.code)),
+                    contactExistsQuery(voucher.contactName), contactIdQuery(voucher.contactName)});
         if (auto fault = checkVoucher(store, voucher)) return *fault;
         if (auto fault = overtakenDocument(store, voucher)) return *fault;
         const Boxes boxes = VoucherSave(store, voucher).run();

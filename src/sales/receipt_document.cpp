@@ -11,6 +11,7 @@
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/progress_scope.h"
+#include "platform/store/read_ahead.h"
 #include "platform/store/transaction.h"
 
 namespace {
@@ -82,22 +83,39 @@ class ReceiptSave {
         return std::nullopt;
     }
 
+    std::optional<Fault> overtaken(const ReceiptLine& line) {
+        auto fault = overtakenLine(store_, line);
+        if (fault) fault->focus = "lvwItems";
+        return fault;
+    }
+
+    // Of all lines, before one is written.
+    std::optional<Fault> overtaken() {
+        const ReadAhead ahead(store_, overtakenReads(receipt_.lines));
+        for (const ReceiptLine& line : receipt_.lines)
+            if (auto fault = overtaken(line)) return fault;
+        return std::nullopt;
+    }
+
     std::optional<Fault> writeDetails() {
         if (!receipt_.addMode)
             DeleteWhereValue(store_, receipt_.code, "tblReceiptDetails", "PayCode", "number");
         progress_.begin("Please Wait While System Computes is Posting Receivable Balances...",
                         receipt_.lines.size());
+        if (auto fault = overtaken()) return fault;
         qint64 key = numbering::takeKeys(store_, numbering::receipt, receipt_.lines.size());
         Recordset details = store_.openTable("tblReceiptDetails");
+        QStringList orders;
         qint64 written = 0;
         for (const ReceiptLine& line : receipt_.lines) {
-            if (auto overtaken = overtakenLine(store_, line)) {
-                overtaken->focus = "lvwItems";
-                return overtaken;
-            }
+            // Of two lines of one order the second counts on what the first one leaves.
+            if (orders.contains(trim(line.reference), Qt::CaseInsensitive))
+                if (auto fault = overtaken(line)) return fault;
             writeLine(details, line, key++);
+            orders += trim(line.reference);
             progress_.setValue(++written);
         }
+        UpdateSalesBalances(store_, orders);
         return std::nullopt;
     }
 
@@ -116,8 +134,7 @@ class ReceiptSave {
         }
         details.set("CheckStatus", byCheck ? check::pending : check::cash);
         details.set("Negotiated", !byCheck);
-        details.update();
-        UpdateSalesBalance(store_, trim(line.reference), boxes_);
+        details.addLater();
     }
 
     Connection& store_;

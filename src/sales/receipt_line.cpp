@@ -231,6 +231,12 @@ std::optional<Fault> ValidateLine(Connection& store, const QString& customerName
     return std::nullopt;
 }
 
+std::vector<Sql> overtakenReads(const QList<ReceiptLine>& lines) {
+    std::vector<Sql> reads;
+    for (const ReceiptLine& line : lines) reads.push_back(PostedOnSaleQuery(line.reference));
+    return reads;
+}
+
 std::optional<Fault> overtakenLine(Connection& store, const ReceiptLine& line) {
     const auto posted = postedOnSale(store, line.reference);
     if (!posted)

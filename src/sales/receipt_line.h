@@ -83,3 +83,5 @@ std::optional<Fault> ValidateLine(Connection& store, const QString& customerName
 // What of these checks another clerk may have overtaken since: the order has gone, is paid, has less to pay,
 // or has a discount posted.
 std::optional<Fault> overtakenLine(Connection& store, const ReceiptLine& line);
+// What it asks of the store for these lines, to be read ahead.
+std::vector<Sql> overtakenReads(const QList<ReceiptLine>& lines);
