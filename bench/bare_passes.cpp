@@ -1,17 +1,17 @@
 #include "bench/bare_passes.h"
 
+#include "bench/bare_costing.h"
 #include "bench/bare_statement.h"
 
 #include <algorithm>
 #include <chrono>
 #include <cstring>
-#include <span>
 #include <string>
 #include <string_view>
-#include <tuple>
 #include <unordered_map>
 #include <vector>
 
+using bare::costLedger, bare::costRows, bare::dayOf, bare::Row;
 using bare::Count, bare::fromDouble, bare::product, bare::Statement, bare::toDouble;
 
 namespace {
@@ -39,14 +39,6 @@ class Units {
     std::chrono::steady_clock::time_point started_;
 };
 
-struct Row {
-    Count key;
-    bool purchase;
-    Count in, price, out, balance, cost, newBalance, newCost;
-    int item = 0;
-    int date = 0;
-};
-
 constexpr const char* rowColumns = "ZevRef, BookID, StockIn, InPrice, StockOut, Balance, SalesCost";
 
 Row readRow(const Statement& rows) {
@@ -59,25 +51,6 @@ Row readRow(const Statement& rows) {
             rows.number(6),
             0,
             0};
-}
-
-void costRows(std::span<Row> rows) {
-    Count balance = 0;
-    std::vector<std::pair<Count, Count>> layers;
-    for (Row& row : rows) {
-        row.newBalance = balance += row.purchase ? row.in : -std::abs(row.out);
-        if (row.purchase) layers.emplace_back(row.in, row.price);
-    }
-    size_t oldest = 0;
-    for (Row& row : rows) {
-        row.newCost = row.purchase ? row.cost : 0;
-        for (Count left = row.purchase ? 0 : row.out; left > 0 && oldest < layers.size();) {
-            const Count taken = std::min(left, layers[oldest].first);
-            row.newCost += product(taken, layers[oldest].second);
-            left -= taken;
-            if ((layers[oldest].first -= taken) <= 0) ++oldest;
-        }
-    }
 }
 
 void writeRow(Statement& write, const Row& row) {
@@ -109,14 +82,6 @@ void storeBalances(sqlite3* engine, const char* query, const char* update, const
     for (const auto& [row, balance] : stale) write.bind(1, balance).bind(2, row).run();
 }
 
-// "2026-01-31" as 20260131.
-int dayOf(std::string_view date) {
-    int day = 0;
-    for (const char letter : date)
-        if (letter != '-') day = day * 10 + (letter - '0');
-    return day;
-}
-
 std::vector<Row> readLedger(sqlite3* engine) {
     const std::string query =
         std::string("SELECT ") + rowColumns + ", ItemCode, TransDate FROM tblStockValuation ORDER BY ZevRef";
@@ -132,17 +97,6 @@ std::vector<Row> readLedger(sqlite3* engine) {
     return rows;
 }
 
-void costLedger(std::vector<Row>& rows) {
-    std::ranges::sort(rows, {},
-                      [](const Row& row) { return std::tuple(row.item, row.date, !row.purchase, row.key); });
-    for (auto first = rows.begin(); first != rows.end();) {
-        const auto last =
-            std::find_if(first, rows.end(), [&](const Row& row) { return row.item != first->item; });
-        costRows({first, last});
-        first = last;
-    }
-    std::ranges::sort(rows, {}, &Row::key);
-}
 }  // namespace
 
 void bareRead(sqlite3* engine) {
