@@ -91,6 +91,7 @@ void measure(benchmark::State& state, const QString& bareBooks, const Pass& bare
     state.counters["ms"] = own.seconds * 1000 / turns;
     state.counters["bare_ms"] = bareCost.seconds * 1000 / turns;
     state.counters["ratio"] = own.seconds / bareCost.seconds;
+    state.counters["cpu_ms"] = own.ofProcessor * 1000 / turns;
     state.counters["cpu_ratio"] = own.ofProcessor / bareCost.ofProcessor;
     state.counters["MB"] = static_cast<double>(own.bytes) / 1e6 / turns;
     state.counters["bare_MB"] = static_cast<double>(bareCost.bytes) / 1e6 / turns;
