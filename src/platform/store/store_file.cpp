@@ -108,5 +108,7 @@ void setWorkingMode(Connection& store) {
     store.execute("PRAGMA journal_mode = TRUNCATE");
     store.run("PRAGMA synchronous = FULL");
     store.run("PRAGMA temp_store = MEMORY");
-    store.run("PRAGMA cache_size = -32000");
+    // Pages in memory, as far as they are read: a third of the books of 200,000 documents. A twelfth of the
+    // books costs the end of day a fifth more of the processor and a tenth more of the disk.
+    store.run("PRAGMA cache_size = -128000");
 }
