@@ -28,7 +28,7 @@ std::optional<QString> neighbour(Connection& store, const MasterTable& master, c
 
 Outcome deletionFailure(const StoreError& error, const char* refusedText) {
     if (error.number() == StoreError::noCurrentRow) throw error;
-    if (error.number() == StoreError::refused) return errorFault(refusedText);
+    if (error.number() == StoreError::refused && refusedText) return errorFault(refusedText);
     return Fault{exclamation("Error...", error.text()), {}};
 }
 
@@ -93,8 +93,10 @@ std::optional<Fault> writeRecord(Connection& store, const MasterTable& master, b
         return fault;
     for (const auto& [column, value] : values)
         if (addMode || edit.changed.contains(column)) row.set(column, value);
-    row.set("UpdatedBy", trim(session().CurrentUserCode));
-    row.set("DateUpdate", Clock::today());
+    if (store.columnTypes(master.table).contains("updatedby")) {
+        row.set("UpdatedBy", trim(session().CurrentUserCode));
+        row.set("DateUpdate", Clock::today());
+    }
     row.update();
     return std::nullopt;
 }

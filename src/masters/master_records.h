@@ -29,8 +29,9 @@ struct MasterEdit {
 };
 
 // Writes a record: a new one whole, an old one in the columns that a person changed, and then who did it and
-// when. So what the program keeps by itself stays as it is by then, and nothing changed is nothing written.
-// An old one that someone else has changed meanwhile is refused. StoreError noCurrentRow when it has gone.
+// when, where the table keeps that. So what the program keeps by itself stays as it is by then, and nothing
+// changed is nothing written. An old one that someone else has changed meanwhile is refused. StoreError
+// noCurrentRow when it has gone.
 using ColumnValues = QList<std::pair<const char*, QVariant>>;
 std::optional<Fault> writeRecord(Connection& store, const MasterTable& master, bool addMode,
                                  const QString& key, const ColumnValues& values, const MasterEdit& edit,
@@ -44,9 +45,10 @@ struct DeleteGuard {
 };
 
 // Deletes the record unless a guard, in their order, finds it in use. An empty key is StoreError
-// noCurrentRow; a refusal of the store's own (said with refusedText) and any other failure is a Fault.
+// noCurrentRow; a refusal of the store's own (said with refusedText, if any) and any other failure is a
+// Fault.
 Outcome deleteRecord(Connection& store, const MasterTable& master, const QList<DeleteGuard>& guards,
-                     const QString& key, const char* refusedText);
+                     const QString& key, const char* refusedText = nullptr);
 
 // The condition for what was typed, or the box that refuses it. Empty values list all, but two words must
 // have one. A number that does not convert is StoreError typeMismatch.

@@ -3,10 +3,12 @@
 #include "foundation/session.h"
 #include "foundation/shared_routines.h"
 #include "masters/field_widths.h"
+#include "platform/clock.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/ui/boxes.h"
 #include "platform/ui/combo_box.h"
+#include "platform/ui/field_width.h"
 #include "platform/ui/form.h"
 #include "platform/ui/hourglass.h"
 #include "platform/ui/list_look.h"
@@ -38,7 +40,7 @@ MasterScreen::MasterScreen(const MasterDescriptor& descriptor)
     connectControls();
     if (const int column = dbgMyGrid->keptColumn(); column >= 0)
         keptOrder_ = descriptor_.columns.at(column).order;
-    guarded([this] { UpdateRecordCount(); });
+    guarded([this] { descriptor_.listsAtOnce ? listAll() : UpdateRecordCount(); });
 }
 
 QSize MasterScreen::sizeHint() const {
@@ -98,7 +100,8 @@ void MasterScreen::EditRecord() {
     DisplayRecord(keyToEdit());
     mblnUpdated = !descriptor_.editShowsLast;
     UnlockFields();
-    namedControl<QWidget>(this, descriptor_.firstField)->setFocus();
+    const QString& first = descriptor_.editField.isEmpty() ? descriptor_.firstField : descriptor_.editField;
+    namedControl<QWidget>(this, first)->setFocus();
 }
 
 void MasterScreen::SaveRecord() {
@@ -117,9 +120,8 @@ void MasterScreen::SaveRecord() {
 // Shows what was stored: the figures typed are not always the ones that stay.
 void MasterScreen::finishSave(const QString& key) {
     DisplayRecord(key);
-    if (descriptor_.listsAfterSave) listAll();
+    descriptor_.listsAfterSave ? listAll() : UpdateRecordCount();
     LockFields();
-    UpdateRecordCount();
     markSaved(key);
 }
 
@@ -132,7 +134,9 @@ void MasterScreen::markSaved(const QString& key) {
 QString MasterScreen::keyToEdit() const { return savedKey_.isEmpty() ? gridKey() : savedKey_; }
 
 void MasterScreen::DeleteRecord() {
-    if (!askYes(confirmDeleteBox())) return;
+    Box deletion = confirmDeleteBox();
+    if (!descriptor_.deletion.isEmpty()) deletion.text = descriptor_.deletion;
+    if (!askYes(deletion)) return;
     guarded([this] {
         try {
             const Outcome outcome = remove(gridKey());
@@ -148,6 +152,7 @@ void MasterScreen::DeleteRecord() {
 
 void MasterScreen::RefreshRecord() {
     guarded([this] {
+        ofDate_ = {};
         listAll();
         dbgMyGrid->selectKey(descriptor_.master.key, currentKey_);
         ClearRecord();
@@ -210,7 +215,7 @@ void MasterScreen::LoadGrid(const Sql& where, const QString& order) {
     setCount(dbgMyGrid->recordCount(), descriptor_.listedNone, descriptor_.listed);
 }
 
-void MasterScreen::listAll(const QString& order) { LoadGrid({}, order); }
+void MasterScreen::listAll(const QString& order) { LoadGrid(ofDate_, order); }
 
 void MasterScreen::UpdateRecordCount() {
     setCount(CountRecords(StoreConnection(), descriptor_.master.table), descriptor_.countedNone,
@@ -223,6 +228,8 @@ void MasterScreen::setCount(qint64 count, const QString& none, const QString& so
 }
 
 void MasterScreen::reloadAll() {
+    ofDate_ = {};
+    sayWhatFills();
     guarded([this] { listAll(); });
 }
 
@@ -253,6 +260,7 @@ void MasterScreen::search() {
 
 // In an empty grid: what fills it, or what a search has not found.
 void MasterScreen::sayWhatFills() {
+    if (!descriptor_.fills.isEmpty()) return list_look::sayWhenEmpty(dbgMyGrid, descriptor_.fills);
     const QString all = QString(descriptor_.allCaption).remove(u'&');
     list_look::sayWhenEmpty(dbgMyGrid, QString("Search, or press %1, to list records here.").arg(all));
 }
@@ -270,6 +278,15 @@ void MasterScreen::searchType() {
     guarded([this] { listCondition(typeCondition(cboType->text())); });
 }
 
+// A date that is not whole yet changes nothing.
+void MasterScreen::searchDate() {
+    const auto date = parseDate(txtDate->text());
+    if (!date) return;
+    ofDate_ = {QString(" WHERE %1 = ?").arg(descriptor_.dateColumn), {*date}};
+    list_look::sayWhenEmpty(dbgMyGrid, list_look::nothingFound(formatDate(*date)));
+    guarded([this] { listAll(); });
+}
+
 void MasterScreen::listCondition(const SearchCondition& condition) {
     if (const Box* refusal = std::get_if<Box>(&condition)) {
         showBox(*refusal);
@@ -284,6 +301,11 @@ void MasterScreen::listCondition(const SearchCondition& condition) {
 
 void MasterScreen::buildLayout() {
     auto* halves = new QVBoxLayout(this);
+    if (!descriptor_.heading.isEmpty()) {
+        QLabel* heading = form::label(descriptor_.heading);
+        form::setFont(heading, 1.3, true);
+        halves->addWidget(heading);
+    }
     halves->addWidget(recordHalf());
     if (QWidget* line = commandLine()) halves->addWidget(line);
     halves->addWidget(gridHalf(), 1);
@@ -305,10 +327,23 @@ QWidget* MasterScreen::commandLine() {
     auto* row = new QHBoxLayout(line.get());
     row->setContentsMargins({});
     if (!descriptor_.searchFields.isEmpty()) addSearch(row);
+    if (!descriptor_.dateColumn.isEmpty()) addDateSearch(row);
     if (!descriptor_.allCaption.isEmpty())
         row->addWidget(form::button("cmdAll", descriptor_.allCaption, "refresh"));
     if (descriptor_.duplicates) row->addWidget(form::button("cmdNewDuplicate", "Add New &Duplicate", "new"));
+    if (txtDate) row->addStretch();
     return row->isEmpty() ? nullptr : line.release();
+}
+
+void MasterScreen::addDateSearch(QHBoxLayout* row) {
+    txtDate = new TextBox("txtDate");
+    txtDate->setKeyFilter(keys::date());
+    txtDate->setCapacity(width::date);
+    txtDate->setText(formatDate(Clock::today()));
+    field_width::fix(txtDate, field_width::date);
+    row->addWidget(form::label("Search Date :", txtDate));
+    row->addWidget(txtDate);
+    connect(txtDate, &TextBox::textChanged, this, &MasterScreen::searchDate);
 }
 
 void MasterScreen::addSearch(QHBoxLayout* row) {
@@ -363,6 +398,10 @@ void MasterScreen::connectControls() {
     onClick("cmdAll", &MasterScreen::reloadAll);
     onClick("cmdNewDuplicate", &MasterScreen::duplicateRecord);
     connect(dbgMyGrid, &DataGrid::picked, this, &MasterScreen::pickFromGrid);
+    if (descriptor_.listsAtOnce)
+        connect(dbgMyGrid, &QTableView::clicked, this, [this] {
+            if (!mblnAddmode) pickFromGrid();
+        });
     connect(dbgMyGrid->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { savedKey_.clear(); });
     connect(dbgMyGrid, &DataGrid::headerClicked, this, [this](int column) {

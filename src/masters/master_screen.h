@@ -15,7 +15,9 @@ struct MasterDescriptor {
     QString caption = {};
     MasterTable master = {};
     QList<MasterField> fields = {};
+    QString heading = {};     // above the record; empty: none
     QString firstField = {};  // the focus of a record under change
+    QString editField = {};   // of an edit, where that is another one
 
     QList<GridColumn> columns = {};
     QString defaultOrder = {};  // also of a column without an order
@@ -24,10 +26,13 @@ struct MasterDescriptor {
     QString countedNone = {};   // the same for the count of the whole table
     QString counted = {};
     QString allCaption = {};  // of cmdAll; empty: the screen has none
+    QString fills = {};       // what an empty list says; empty: how to fill it
+    QString deletion = {};    // the question of a deletion, where that is not the usual one
 
     QList<SearchField> searchFields = {};  // none: the screen has no search
     QString initialField = {};
-    QStringList types = {};  // of the field that is a choice
+    QStringList types = {};   // of the field that is a choice
+    QString dateColumn = {};  // searched by a date; empty: the screen has no such search
 
     QString notLoaded = {};      // what a move from no record says; empty: the store's own words
     bool duplicates = true;      // a record may be taken as the start of a new one
@@ -35,6 +40,7 @@ struct MasterDescriptor {
     bool locksOnShow = true;     // showing a record locks the fields
     bool editShowsLast = false;  // an edit shows its record after raising the flags, and so clears them
     bool listsAfterSave = false;
+    bool listsAtOnce = false;  // lists when it opens, and shows a row at one click
 };
 
 // The pattern of the item and the contact master: the record on show in the top half, its fields locked until
@@ -76,6 +82,7 @@ class MasterScreen : public RecordScreen {
     QWidget* recordHalf();
     QWidget* commandLine();
     void addSearch(QHBoxLayout* row);
+    void addDateSearch(QHBoxLayout* row);
     void addSecondBox(QHBoxLayout* row);
     void addTypeList(QHBoxLayout* row);
     QGroupBox* gridHalf();
@@ -104,6 +111,7 @@ class MasterScreen : public RecordScreen {
     void fieldChosen();
     void search();
     void searchType();
+    void searchDate();
     void sayWhatFills();
     void sayWhatWasSought();
     void listCondition(const SearchCondition& condition);
@@ -116,6 +124,7 @@ class MasterScreen : public RecordScreen {
     StoredState loaded_;  // of the record on show
     QString keptOrder_;   // of the last time that the screen was open, until a heading is clicked
     QString savedKey_;    // of the last save, until a person moves in the grid or lists anew
+    Sql ofDate_;          // the condition of the search by a date, which lasts until all are listed
 
     DataGrid* dbgMyGrid;
     QGroupBox* fraCount;
@@ -123,6 +132,7 @@ class MasterScreen : public RecordScreen {
     ComboBox* cboType = nullptr;
     TextBox* txtSearch = nullptr;
     TextBox* txtSecondSearch = nullptr;
+    TextBox* txtDate = nullptr;
     QLabel* lblSearch = nullptr;
     QLabel* lblDash = nullptr;
 };

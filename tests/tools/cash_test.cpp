@@ -49,8 +49,9 @@ class CashTest : public SessionTest {
         auto answer = auditCash(store(), {cashier, "3/2/26"});
         return std::get<CashAudit>(answer);
     }
-    QString refusal(const CashEntry& entry, std::optional<qint64> key = {}) {
-        const Outcome outcome = saveCash(store(), entry, key);
+    QString refusal(const CashEntry& entry) {
+        QString key;
+        const Outcome outcome = SaveCash(store(), entry, true, key);
         const auto* fault = std::get_if<Fault>(&outcome);
         return fault ? fault->box.text : QString();
     }
@@ -97,6 +98,15 @@ TEST_F(CashTest, ADayAtTheScreen) {
     person::fill(screen, "txtCash", "1600");
     person::press(Qt::Key_Return);
     EXPECT_EQ(person::find<DataGrid>(screen, "dbgMyGrid")->currentText("PettyCash"), "1,600.00");
+    // What another station stores meanwhile is not saved over.
+    QMetaObject::invokeMethod(screen, "EditRecord");
+    store().run("UPDATE tblPOS SET PettyCash = 17000000");
+    person::fill(screen, "txtCash", "1650");
+    boxes.expect("Record Changed!");
+    person::press(Qt::Key_Return);
+    EXPECT_EQ(person::read(screen, "txtCash"), "1,650.00") << "what was typed stays";
+    QMetaObject::invokeMethod(screen, "RefreshRecord");
+    EXPECT_EQ(person::read(screen, "txtCash"), "1,700.00");
     person::fill(screen, "txtDate", "3/1/2026");
     EXPECT_EQ(person::find<QGroupBox>(screen, "fraCount")->title(), "System Found No Sales Transaction");
     person::click(screen, "cmdAll");

@@ -2,7 +2,6 @@
 
 #include "books/numbering.h"
 #include "foundation/shared_routines.h"
-#include "masters/master_records.h"
 #include "platform/masks.h"
 #include "platform/parsing.h"
 #include "platform/store/transaction.h"
@@ -39,29 +38,27 @@ bool isSet(Connection& store, const QString& user, const QDate& date) {
     return !store.execute({"SELECT 1 FROM tblPOS WHERE Cashier = ? AND SalesDate = ?", {user, date}}).eof();
 }
 
-// The test and the row are one unit, and the store keeps a cashier's day once: no other station comes
-// between.
-Outcome addCash(Connection& store, const CashEntry& entry) {
-    const QString user = userOf(store, trim(entry.cashier));
-    const QDate date = *parseDate(entry.saleDate);
-    Transaction unit(store);
-    if (isSet(store, user, date)) return alreadySet(entry);
-    Recordset row = store.openTable("tblPOS");
-    row.addNew();
-    row.set("ZevRef", numbering::lastKey(store, cashKey));
-    row.set("PettyCash", *parseNumber(entry.cash));
-    row.set("SalesDate", date);
-    row.set("Cashier", user);
-    row.update();
-    unit.commit();
-    return Done{};
+// The row of a new day, or the cash alone of an old one: two users may have one full name.
+ColumnValues columnsOf(const CashEntry& entry, const QString& key, const QString& user) {
+    ColumnValues values{{"PettyCash", bound(*parseNumber(entry.cash))}};
+    if (!user.isEmpty())
+        values << ColumnValues{
+            {"ZevRef", key.toLongLong()}, {"SalesDate", *parseDate(entry.saleDate)}, {"Cashier", user}};
+    return values;
 }
 
-Outcome changeCash(Connection& store, const CashEntry& entry, qint64 key) {
+// The test and the row are one unit, and the store keeps a cashier's day once: no other station comes
+// between.
+Outcome writeCash(Connection& store, const CashEntry& entry, bool addMode, QString& key) {
+    const QString user = addMode ? userOf(store, trim(entry.cashier)) : QString();
     Transaction unit(store);
-    Recordset row = store.openTable("tblPOS", {"WHERE ZevRef = ?", {key}});
-    row.set("PettyCash", *parseNumber(entry.cash));
-    row.update();
+    if (addMode) {
+        if (isSet(store, user, *parseDate(entry.saleDate))) return alreadySet(entry);
+        key = QString::number(numbering::lastKey(store, cashKey));
+    }
+    if (const Check fault =
+            writeRecord(store, cashMaster, addMode, key, columnsOf(entry, key, user), entry.edit))
+        return *fault;
     unit.commit();
     return Done{};
 }
@@ -77,17 +74,17 @@ Sql ofUser(const char* column, const QString& user) {
 }
 }  // namespace
 
-Outcome saveCash(Connection& store, const CashEntry& entry, std::optional<qint64> key) {
+Outcome SaveCash(Connection& store, const CashEntry& entry, bool addMode, QString& key) {
     if (const Check fault = entryFault(store, entry)) return *fault;
     try {
-        return key ? changeCash(store, entry, *key) : addCash(store, entry);
+        return writeCash(store, entry, addMode, key);
     } catch (const StoreError& error) {
         if (error.number() != StoreError::refused) throw;
         return alreadySet(entry);
     }
 }
 
-void deleteCash(Connection& store, qint64 key) { store.run({"DELETE FROM tblPOS WHERE ZevRef = ?", {key}}); }
+Outcome DeleteCash(Connection& store, const QString& key) { return deleteRecord(store, cashMaster, {}, key); }
 
 Fault invalidAuditDate() { return errorFault("Invalid Transaction Date Value!", "txtDate"); }
 

@@ -1,23 +1,28 @@
 #pragma once
-#include "platform/outcome.h"
+#include "masters/master_records.h"
 #include "platform/store/connection.h"
 
 #include <QDate>
 #include <optional>
+#include <variant>
 
 // The cash of the counter: what a cashier begins a day with, and the audit of what the day collected. Without
 // a window; failures are StoreError.
+
+inline constexpr MasterTable cashMaster{"tblPOS", "ZevRef"};
 
 // As typed.
 struct CashEntry {
     QString cashier;  // the full name
     QString saleDate;
     QString cash;
+    MasterEdit edit = {};
 };
 
-// Adds the beginning cash of a cashier's day (key: none), or changes that of a row: the cash alone.
-Outcome saveCash(Connection& store, const CashEntry& entry, std::optional<qint64> key);
-void deleteCash(Connection& store, qint64 key);
+// Adds the beginning cash of a cashier's day, whose key is then set, or changes that of the row with the key:
+// the cash alone.
+Outcome SaveCash(Connection& store, const CashEntry& entry, bool addMode, QString& key);
+Outcome DeleteCash(Connection& store, const QString& key);
 
 // The cashier of the audit that means all of them.
 inline constexpr const char* wholeDay = "Total Collection for the Day";
