@@ -55,7 +55,7 @@ MasterDescriptor contactDescriptor() {
 }
 }  // namespace
 
-frmContacts::frmContacts() : MasterScreen(contactDescriptor()) {
+frmContacts::frmContacts() : WalkingMaster(contactDescriptor()) {
     connect(fields().box("txtRemarks"), &TextBox::entered, this, [this] { SaveRecord(); });
 }
 

@@ -3,7 +3,7 @@
 #include "masters/master_screen.h"
 
 // The contact master: customers and suppliers.
-class frmContacts : public MasterScreen {
+class frmContacts : public WalkingMaster {
     Q_OBJECT
   public:
     frmContacts();

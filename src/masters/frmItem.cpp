@@ -85,7 +85,7 @@ MasterDescriptor itemDescriptor() {
 }
 }  // namespace
 
-frmItem::frmItem() : MasterScreen(itemDescriptor()) {
+frmItem::frmItem() : WalkingMaster(itemDescriptor()) {
     connect(fields().combo("txtSupplierCode"), &ComboBox::entered, this, [this] { findSupplier(); });
 }
 

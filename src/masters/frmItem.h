@@ -3,7 +3,7 @@
 #include "masters/master_screen.h"
 
 // The item master.
-class frmItem : public MasterScreen {
+class frmItem : public WalkingMaster {
     Q_OBJECT
   public:
     frmItem();

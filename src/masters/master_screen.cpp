@@ -160,41 +160,6 @@ void MasterScreen::RefreshRecord() {
     });
 }
 
-// ---- moving through the table
-
-template <typename Step>
-void MasterScreen::move(Step step, const Box& atTheEnd) {
-    if (!descriptor_.walks) return;
-    try {
-        const auto key = step(StoreConnection(), descriptor_.master, currentKey_);
-        if (key)
-            DisplayRecord(*key);
-        else
-            showBox(atTheEnd);
-    } catch (const StoreError& error) {
-        const bool lost = error.number() == StoreError::noCurrentRow && !descriptor_.notLoaded.isEmpty();
-        showBox(lost ? exclamation("Error!", descriptor_.notLoaded) : exclamation("Error...", error.text()));
-    }
-}
-
-void MasterScreen::NextRecord() { move(nextRecord, information("EOF", "End of File Encountered...")); }
-
-void MasterScreen::PrevRecord() {
-    move(previousRecord, information("BOF", "Beginning of File Encountered..."));
-}
-
-void MasterScreen::showFromEnd(QString (*end)(Connection&, const MasterTable&)) {
-    if (!descriptor_.walks) return;
-    guarded([&] {
-        const QString key = end(StoreConnection(), descriptor_.master);
-        if (!key.isEmpty()) DisplayRecord(key);
-    });
-}
-
-void MasterScreen::FirstRecord() { showFromEnd(firstRecord); }
-
-void MasterScreen::LastRecord() { showFromEnd(lastRecord); }
-
 // ---- the grid
 
 QString MasterScreen::gridKey() const {
@@ -434,3 +399,36 @@ void MasterScreen::connectSearch() {
     cboSearchBy->setText(descriptor_.initialField);
     fieldChosen();
 }
+
+// ---- moving through the table
+
+template <typename Step>
+void WalkingMaster::move(Step step, const Box& atTheEnd) {
+    try {
+        const auto key = step(StoreConnection(), descriptor().master, currentKey());
+        if (key)
+            DisplayRecord(*key);
+        else
+            showBox(atTheEnd);
+    } catch (const StoreError& error) {
+        const bool lost = error.number() == StoreError::noCurrentRow && !descriptor().notLoaded.isEmpty();
+        showBox(lost ? exclamation("Error!", descriptor().notLoaded) : exclamation("Error...", error.text()));
+    }
+}
+
+void WalkingMaster::NextRecord() { move(nextRecord, information("EOF", "End of File Encountered...")); }
+
+void WalkingMaster::PrevRecord() {
+    move(previousRecord, information("BOF", "Beginning of File Encountered..."));
+}
+
+void WalkingMaster::showFromEnd(QString (*end)(Connection&, const MasterTable&)) {
+    guarded([&] {
+        const QString key = end(StoreConnection(), descriptor().master);
+        if (!key.isEmpty()) DisplayRecord(key);
+    });
+}
+
+void WalkingMaster::FirstRecord() { showFromEnd(firstRecord); }
+
+void WalkingMaster::LastRecord() { showFromEnd(lastRecord); }

@@ -36,7 +36,6 @@ struct MasterDescriptor {
 
     QString notLoaded = {};      // what a move from no record says; empty: the store's own words
     bool duplicates = true;      // a record may be taken as the start of a new one
-    bool walks = true;           // First, Previous, Next and Last go through the table
     bool locksOnShow = true;     // showing a record locks the fields
     bool editShowsLast = false;  // an edit shows its record after raising the flags, and so clears them
     bool listsAfterSave = false;
@@ -45,7 +44,7 @@ struct MasterDescriptor {
 
 // The pattern of the item and the contact master: the record on show in the top half, its fields locked until
 // a command opens them; in the bottom half the grid that a search narrows and a pick shows from. The search,
-// the duplicate and the walk are there for the masters that ask for them.
+// and the duplicate are there for the masters that ask for them, the walk for a WalkingMaster.
 class MasterScreen : public RecordScreen {
     Q_OBJECT
   public:
@@ -53,10 +52,6 @@ class MasterScreen : public RecordScreen {
     QSize sizeHint() const override;
 
   public slots:
-    void NextRecord();
-    void PrevRecord();
-    void FirstRecord();
-    void LastRecord();
     void NewRecord();
     void EditRecord();
     void SaveRecord();
@@ -77,6 +72,10 @@ class MasterScreen : public RecordScreen {
     virtual Outcome remove(const QString& key) = 0;
     virtual SearchCondition typeCondition(const QString& type);
 
+    const MasterDescriptor& descriptor() const { return descriptor_; }
+    const QString& currentKey() const { return currentKey_; }
+    void DisplayRecord(const QString& key);
+
   private:
     void buildLayout();
     QWidget* recordHalf();
@@ -89,7 +88,6 @@ class MasterScreen : public RecordScreen {
     void connectControls();
     void connectSearch();
 
-    void DisplayRecord(const QString& key);
     void LoadGrid(const Sql& where, const QString& order);
     void UpdateRecordCount();
     void LockFields() { fields_->lock(); }
@@ -102,10 +100,6 @@ class MasterScreen : public RecordScreen {
     QString keyToEdit() const;
     void markSaved(const QString& key);
     void setCount(qint64 count, const QString& none, const QString& some);
-
-    template <typename Step>
-    void move(Step step, const Box& atTheEnd);
-    void showFromEnd(QString (*end)(Connection&, const MasterTable&));
 
     void onClick(const char* name, void (MasterScreen::*act)());
     void fieldChosen();
@@ -135,4 +129,22 @@ class MasterScreen : public RecordScreen {
     TextBox* txtDate = nullptr;
     QLabel* lblSearch = nullptr;
     QLabel* lblDash = nullptr;
+};
+
+// A master whose commands First, Previous, Next and Last go through the whole table.
+class WalkingMaster : public MasterScreen {
+    Q_OBJECT
+  public:
+    using MasterScreen::MasterScreen;
+
+  public slots:
+    void NextRecord();
+    void PrevRecord();
+    void FirstRecord();
+    void LastRecord();
+
+  private:
+    template <typename Step>
+    void move(Step step, const Box& atTheEnd);
+    void showFromEnd(QString (*end)(Connection&, const MasterTable&));
 };

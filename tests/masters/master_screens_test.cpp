@@ -1,4 +1,3 @@
-#include "masters/master_screen.h"
 #include "masters_screen_fixture.h"
 #include "platform/ui/combo_box.h"
 #include "platform/ui/data_grid.h"
@@ -348,42 +347,5 @@ TEST_F(ContactScreen, TheTypeIsPickedFromItsOwnList) {
 TEST_F(ContactScreen, AMoveFromNoRecordIsTheStoresError) {
     boxes.expect("Error...", "There is no current record.");
     command("PrevRecord");
-}
-// A master of the cash of a day: no search, no duplicate and no walk, and a cashier shown by name.
-class CashMaster : public MasterScreen {
-  public:
-    CashMaster()
-        : MasterScreen({.name = "CashMaster",
-                        .master = {"tblPOS", "ZevRef"},
-                        .fields = {{.control = "txtCashier",
-                                    .label = "Cashier :",
-                                    .column = "Cashier",
-                                    .kind = MasterField::Lookup,
-                                    .lookup = {"tblUserMaster", "UserCode", "FullName", ""}}},
-                        .firstField = "txtCashier",
-                        .columns = {{"Cashier", "Cashier"}},
-                        .listed = "%1",
-                        .counted = "%1",
-                        .duplicates = false,
-                        .walks = false}) {}
-    QString drawKey(bool /*duplicate*/) override { return {}; }
-    Outcome save(QString& /*key*/) override { return Done{}; }
-    Outcome remove(const QString& /*key*/) override { return Done{}; }
-};
-
-TEST_F(ScreenTest, AMasterDoesWithoutSearchDuplicateAndWalk) {
-    store().run("UPDATE tblUserMaster SET FullName = 'Nena Cruz' WHERE UserCode = 'ADMIN'");
-    store().run("INSERT INTO tblPOS (ZevRef, Cashier) VALUES (1, 'ADMIN')");
-    CashMaster master;
-    screen = &master;
-    for (const char* walk : {"FirstRecord", "NextRecord", "PrevRecord", "LastRecord"}) command(walk);
-    EXPECT_EQ(text("txtCashier"), "");
-    command("RefreshRecord");
-    EXPECT_EQ(text("txtCashier"), "Nena Cruz");
-    auto* cashier = master.findChild<ComboBox*>("txtCashier");
-    cashier->showPopup();
-    cashier->hidePopup();
-    EXPECT_GE(cashier->findText("Nena Cruz"), 0);
-    EXPECT_FALSE(master.findChild<QPushButton*>());
 }
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/clock.h"
 #include "platform/store/store_error.h"
+#include "platform/ui/combo_box.h"
 #include "platform/ui/data_grid.h"
 #include "platform/ui/file_dialogs.h"
 #include "platform/ui/screen_registry.h"
@@ -86,6 +87,7 @@ TEST_F(CashTest, ADayOfACashierIsOpenedOnce) {
 
 TEST_F(CashTest, ADayAtTheScreen) {
     ChildScreen* screen = open("frmPOSCash");
+    EXPECT_EQ(person::read(screen, "txtCashier"), "");
     QMetaObject::invokeMethod(screen, "NewRecord");
     person::fill(screen, "txtCashier", "ana Santos");
     person::fill(screen, "txtCash", "1500");
@@ -113,6 +115,11 @@ TEST_F(CashTest, ADayAtTheScreen) {
     boxes.expect("Confirm Delete", "Confirm Deletion of this Record. Delete Record Now?", BoxAnswer::Yes);
     QMetaObject::invokeMethod(screen, "DeleteRecord");
     EXPECT_EQ(valueOf(store(), "SELECT COUNT(*) FROM tblPOS"), "0");
+    addUser(store(), "cid", "abc");
+    auto* cashiers = person::find<ComboBox>(screen, "txtCashier");
+    cashiers->showPopup();
+    cashiers->hidePopup();
+    EXPECT_GE(cashiers->findText("cid Santos"), 0) << "filled anew when it drops down";
     screen->unload();
 }
 

@@ -49,7 +49,6 @@ MasterDescriptor cashDescriptor() {
         .deletion = "Confirm Deletion of this Record. Delete Record Now?",
         .dateColumn = "SalesDate",
         .duplicates = false,
-        .walks = false,
         .listsAfterSave = true,
         .listsAtOnce = true,
     };
@@ -58,6 +57,7 @@ MasterDescriptor cashDescriptor() {
 
 frmPOSCash::frmPOSCash() : MasterScreen(cashDescriptor()) {
     LoadComboBox("FullName", "tblUserMaster", fields().combo("txtCashier"), false);
+    fields().clear();
     connect(fields().box("txtCash"), &TextBox::entered, this, [this] { SaveRecord(); });
 }
 
