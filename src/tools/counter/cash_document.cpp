@@ -20,7 +20,7 @@ Check entryFault(Connection& store, const CashEntry& entry) {
     if (trim(entry.cashier).isEmpty()) return errorFault("Please Select a Cashier!", "txtCashier");
     if (!RecordFound(store, "tblUserMaster", "FullName", trim(entry.cashier)))
         return errorFault("Cashier Does Not Exist! Please Add this to System User Profile!", "txtCashier");
-    if (!isDate(entry.saleDate)) return errorFault("Invalid Sale Date Format!", "txtSaleDate");
+    if (!isDate(entry.saleDate)) return errorFault(invalidSaleDate, "txtSaleDate");
     const auto cash = parseNumber(entry.cash);
     if (!cash) return errorFault("Invalid Beginning Cash Format!", "txtCash");
     if (*cash <= Currency()) return errorFault("Cash must not be less than or Equal to Zero!", "txtCash");

@@ -19,6 +19,8 @@ struct CashEntry {
     MasterEdit edit = {};
 };
 
+inline constexpr const char* invalidSaleDate = "Invalid Sale Date Format!";
+
 // Adds the beginning cash of a cashier's day, whose key is then set, or changes that of the row with the key:
 // the cash alone.
 Outcome SaveCash(Connection& store, const CashEntry& entry, bool addMode, QString& key);

@@ -15,12 +15,25 @@ using F = MasterField;
 
 constexpr MasterLookup cashiers{"tblUserMaster", "UserCode", "FullName", ""};
 
-// control, label, column, kind, capacity, access, blank, survives a clear, line, pair, pairs
+// control, label, column, kind, capacity, access, blank, survives a clear, line, pair, pairs,
+// lookup, what is said of no date
 QList<MasterField> cashFields() {
     return {
         {"txtCashier", "Cashier :", "Cashier", F::Lookup, width::contactName, F::NewOnly, "", false, 0, 0, 2,
          cashiers},
-        {"txtSaleDate", "Sales Date :", "SalesDate", F::Date, width::date, F::NewOnly, "", false, 1, 0},
+        {"txtSaleDate",
+         "Sales Date :",
+         "SalesDate",
+         F::Date,
+         width::date,
+         F::NewOnly,
+         "",
+         false,
+         1,
+         0,
+         1,
+         {},
+         invalidSaleDate},
         {"txtCash", "Beginning Cash :", "PettyCash", F::Amount, width::number, F::Open, "0.00", false, 2, 0},
     };
 }
