@@ -127,23 +127,4 @@ TEST_F(UiLooks, APopupHasItsTitleOnEveryDesktop) {
     EXPECT_FALSE(popup.isVisible());
 }
 
-TEST_F(UiLooks, EveryTextOfThePaletteCanBeRead) {
-    using P = QPalette;
-    const std::pair<P::ColorRole, P::ColorRole> pairs[] = {
-        {P::WindowText, P::Window},        {P::Text, P::Base},   {P::Text, P::AlternateBase},
-        {P::ButtonText, P::Button},        {P::Link, P::Window}, {P::LinkVisited, P::Window},
-        {P::PlaceholderText, P::Base},     {P::Text, P::Window}, {P::ToolTipText, P::ToolTipBase},
-        {P::HighlightedText, P::Highlight}};
-    for (const auto use : {useLightDesk, useDarkDesk}) {
-        use();
-        for (const auto group : {P::Active, P::Inactive, P::Disabled})
-            for (const auto& [text, ground] : pairs)
-                EXPECT_GE(contrastOf(QApplication::palette().color(group, text),
-                                     QApplication::palette().color(group, ground)),
-                          readableContrast)
-                    << group << ' ' << text << " on " << ground;
-    }
-    useLightDesk();
-}
-
 }  // namespace
