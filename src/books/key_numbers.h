@@ -1,6 +1,7 @@
 #pragma once
 #include "books/key_order.h"
 
+#include <QByteArray>
 #include <unordered_map>
 #include <vector>
 

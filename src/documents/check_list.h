@@ -3,6 +3,7 @@
 #include "platform/ui/child_screen.h"
 
 #include <QHash>
+#include <QLayout>
 
 class CheckDialog;
 class ComboBox;

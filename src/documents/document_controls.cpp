@@ -6,6 +6,8 @@
 #include "platform/ui/list_look.h"
 #include "platform/ui/total_strip.h"
 
+#include <QGuiApplication>
+
 DocumentControls::DocumentControls(const DocumentScreen& words) : words_(words) {
     makeHead();
     makeList();

@@ -3,6 +3,7 @@
 #include "platform/ui/combo_box.h"
 #include "platform/ui/date_box.h"
 
+#include <QLayout>
 #include <QPushButton>
 
 class QGridLayout;

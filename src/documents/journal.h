@@ -2,6 +2,8 @@
 #include "documents/journal_book.h"
 #include "platform/ui/child_screen.h"
 
+#include <QLayout>
+
 class ComboBox;
 class QAbstractButton;
 class QButtonGroup;

@@ -1,4 +1,5 @@
 #pragma once
+#include <QLayout>
 #include <QWidget>
 
 class ComboBox;

@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QResizeEvent>
+#include <QStyle>
 
 namespace {
 

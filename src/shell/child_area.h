@@ -2,6 +2,7 @@
 #include "platform/ui/child_screen.h"
 
 #include <QMdiArea>
+#include <QMdiSubWindow>
 
 // The part of the main window where the child screens live.
 class ChildArea : public QMdiArea {

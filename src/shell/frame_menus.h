@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QMultiHash>
 #include <QObject>
+#include <QWidget>
 
 class QAction;
 class QMenu;

@@ -2,6 +2,8 @@
 #include "platform/ui/child_screen.h"
 #include "shell/company_document.h"
 
+#include <QLayout>
+
 class QGridLayout;
 class QLabel;
 class TextBox;

@@ -10,6 +10,7 @@
 #include "platform/ui/list_look.h"
 #include "platform/ui/list_view.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <QLabel>
 #include <QProgressBar>

@@ -7,6 +7,7 @@
 #include "platform/ui/icons.h"
 #include "shell/user_menus.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
 #include <QListWidgetItem>

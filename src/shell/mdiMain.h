@@ -4,6 +4,8 @@
 #include "shell/menu_catalogue.h"
 
 #include <QMainWindow>
+#include <QStatusBar>
+#include <QToolBar>
 
 class ChildArea;
 class FrameMenus;

@@ -3,6 +3,8 @@
 #include "support/box_script.h"
 #include "support/screen_driver.h"
 
+#include <QComboBox>
+
 using person::press;
 using person::read;
 using ::testing::ElementsAre;

@@ -9,6 +9,8 @@
 #include "support/screen_driver.h"
 #include "support/test_store.h"
 
+#include <QAbstractButton>
+
 namespace {
 // A sale and a purchase of 50.00, each paid with 20.00 by a document that is numbered like another.
 class PaymentJournals : public SessionTest {

@@ -9,6 +9,7 @@
 #include "support/test_server.h"
 #include "support/test_store.h"
 
+#include <QCoreApplication>
 #include <QProcess>
 
 class DeliveredStore : public SessionTest {};

@@ -4,6 +4,7 @@
 #include "support/test_store.h"
 
 #include <QDate>
+#include <QWidget>
 
 // The whole program over a store of its own: a firm with the supplier "Rizal Mill", the customer "Cora Store"
 // and the item RICE (selling price 10.00, nothing in stock). Its clock stands on a day of the test's own.

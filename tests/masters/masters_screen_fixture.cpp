@@ -7,6 +7,8 @@
 #include "support/screen_tour.h"
 
 #include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
 
 void ScreenTest::SetUp() {
     MastersTest::SetUp();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QThread>
+
 TEST(Clock, RunsOnFromTheConfirmedMoment) {
     const QDateTime confirmed(QDate(2031, 5, 6), QTime(7, 8, 9));
     Clock::setNow(confirmed);

@@ -16,6 +16,7 @@
 #include <QSet>
 #include <QSignalSpy>
 #include <QStyleOptionViewItem>
+#include <QTest>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

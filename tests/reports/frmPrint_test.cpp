@@ -11,6 +11,7 @@
 #include "support/screen_tour.h"
 #include "support/test_store.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemModel>
 #include <QPrinter>
 #include <QTest>

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QStringList>
+
 static QString differences(const QStringList& wanted, const QStringList& got) {
     QString text;
     for (qsizetype i = 0; i < std::max(wanted.size(), got.size()); ++i)

@@ -11,8 +11,14 @@
 #include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
 #include <csignal>
 #include <optional>
+
+#include <gtest/gtest.h>
 
 namespace {
 // No file grows beyond a few bytes while this lives, as on a full disk.

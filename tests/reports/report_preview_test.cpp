@@ -13,9 +13,16 @@
 #include "support/screen_driver.h"
 #include "support/screen_tour.h"
 
+#include <QApplication>
 #include <QClipboard>
+#include <QCoreApplication>
+#include <QDir>
 #include <QPrinter>
 #include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
 
 namespace {
 // As many numbered lines as asked for.

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 #include <QImage>
+#include <QTemporaryDir>
 
 namespace {
 QStringList wordsOf(const QString& text) {

@@ -17,7 +17,9 @@
 
 #include <QCheckBox>
 #include <QDateEdit>
+#include <QDialog>
 #include <QLabel>
+#include <QLayout>
 #include <QListWidget>
 #include <QMenu>
 #include <QStatusBar>

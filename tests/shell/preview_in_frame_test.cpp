@@ -6,7 +6,9 @@
 #include "reports/sales_by_town.h"
 #include "support/screen_driver.h"
 
+#include <QApplication>
 #include <QClipboard>
+#include <QTest>
 
 namespace {
 ReportPreview* openPreview() {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+
 ModalWatch::ModalWatch() { startTimer(200); }
 
 void ModalWatch::timerEvent(QTimerEvent*) {

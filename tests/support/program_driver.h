@@ -2,6 +2,7 @@
 #include "support/screen_driver.h"
 
 #include <QPixmap>
+#include <QWidget>
 #include <functional>
 
 class DataGrid;

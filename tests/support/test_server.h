@@ -1,6 +1,8 @@
 #pragma once
 #include <QString>
 
+#include <gtest/gtest.h>
+
 class Connection;
 
 // The tests run on files, or on the PostgreSQL server whose URI is in ZEVRIN_TEST_SERVER: each test store is

@@ -10,6 +10,9 @@
 #include "support/test_store.h"
 #include "support/users.h"
 
+#include <QApplication>
+#include <QTest>
+
 namespace {
 
 class SearchScreenTest : public SessionTest {

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QString>
 #include <QVariant>
+#include <QVariantList>
 #include <memory>
 #include <vector>
 

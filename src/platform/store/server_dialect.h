@@ -1,5 +1,6 @@
 #pragma once
 #include <QString>
+#include <QStringList>
 
 // A statement of the house in the words of the server. Besides what engineStatement does: '?' becomes $1, $2,
 // ...; a sort puts nulls first, as the file does; LIKE folds all letters; a sum of whole numbers is one, or

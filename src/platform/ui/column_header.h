@@ -1,6 +1,7 @@
 #pragma once
 #include <QHeaderView>
 #include <QList>
+#include <QPainter>
 
 // The headings of a list. Each stands where the texts of its column stand, with room for the arrow of a sort
 // at its other end. The free width of the list goes to one column, that of the names, which also gives way

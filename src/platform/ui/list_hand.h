@@ -1,5 +1,6 @@
 #pragma once
 #include <QList>
+#include <QPoint>
 #include <QString>
 #include <Qt>
 

@@ -1,4 +1,5 @@
 #pragma once
+#include <QToolButton>
 #include <QWidget>
 
 // The frame and the title of a popup, drawn by the program, so that a popup has them on every desktop. The

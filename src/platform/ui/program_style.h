@@ -1,4 +1,5 @@
 #pragma once
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
 

@@ -2,6 +2,8 @@
 
 #include "platform/ui/boxes.h"
 
+#include <QWidget>
+
 bool settled(const Outcome& outcome, QWidget* screen) {
     if (const auto* fault = std::get_if<Fault>(&outcome)) {
         showFault(*fault, screen);

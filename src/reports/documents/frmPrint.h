@@ -1,6 +1,8 @@
 #pragma once
 #include "platform/ui/child_screen.h"
 
+#include <QLayout>
+
 class CheckChoice;
 class ListView;
 class PrintChoice;

@@ -9,6 +9,7 @@
 
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QWidget>
 
 const FileKind FileKind::richText{"Rich Text Format (*.rtf)", "rtf",
                                   [](const ReportJob& job, Progress& progress) {

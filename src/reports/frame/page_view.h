@@ -4,6 +4,7 @@
 #include <QAbstractScrollArea>
 #include <QCache>
 #include <QPaintEvent>
+#include <QPainter>
 #include <QPixmap>
 
 // The pages of a report on the screen, one under the other or one at a time. Paints what can be seen, and

@@ -2,6 +2,8 @@
 #include "reports/frame/export_file.h"
 #include "reports/frame/report_pages.h"
 
+#include <QWidget>
+
 // What a report is called as a file, without an ending: its title, and the number of a document behind it.
 QString proposedName(const ReportPages& pages);
 

@@ -9,6 +9,7 @@
 #include "tools/calculator/machine_buttons.h"
 #include "tools/calculator/prtTape.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QListWidget>

@@ -2,6 +2,9 @@
 #include "platform/ui/child_screen.h"
 #include "tools/calculator/adding_machine.h"
 
+#include <QLayout>
+#include <QPushButton>
+
 class QLabel;
 class QListWidget;
 struct MachineButton;

@@ -2,6 +2,7 @@
 #include "platform/ui/child_screen.h"
 #include "tools/search/search_query.h"
 
+#include <QLayout>
 #include <QTimer>
 
 class ComboBox;
