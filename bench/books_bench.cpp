@@ -1,6 +1,6 @@
 // Measures the long passes of the books, each beside a bare loop on the engine's handle in the same run: the
-// counter "ratio" is what the limit beside it speaks of, and "cpu_ratio" the same in processor time. By itself
-// it runs the smallest size; the others by hand:  books_bench --benchmark_filter=/20000/
+// counter "ratio" is what the limit beside it speaks of, and "cpu_ratio" the same in processor time. By
+// itself it runs the smallest size; the others by hand:  books_bench --benchmark_filter=/20000/
 #include "bench/bare_passes.h"
 #include "bench/books_generator.h"
 #include "bench/seconds_of.h"

@@ -32,8 +32,8 @@ const ReportLayout& prtItemList() {
     return layout;
 }
 
-// The stock is summed up and the ledger costed anew: what was dropped from a document since is neither on hand
-// nor worth anything here.
+// The stock is summed up and the ledger costed anew: what was dropped from a document since is neither on
+// hand nor worth anything here.
 static KeyedFigures stockValues(Connection& store) {
     frmStatus status;
     RecomputeInventoryBalances(store, status);
