@@ -5,6 +5,8 @@
 #include "platform/ui/combo_box.h"
 #include "platform/ui/date_box.h"
 #include "platform/ui/screen_registry.h"
+#include "reports/documents/print_kinds.h"
+#include "shell/menu_catalogue.h"
 #include "support/contrast_check.h"
 #include "support/dark_desk.h"
 #include "support/growth.h"
@@ -44,6 +46,20 @@ class EveryScreen : public Journey {
         Journey::TearDown();
     }
 };
+
+TEST_F(EveryScreen, IsThereForEveryItemOfTheMenus) {
+    std::vector<MenuItem> items = spareRows();
+    for (const MenuTable& menu : menuCatalogue())
+        items.insert(items.end(), menu.rows.begin(), menu.rows.end());
+    int screens = 0;
+    for (const MenuItem& item : items)
+        if (const auto* open = std::get_if<OpenScreen>(&item.action)) {
+            EXPECT_TRUE(ScreenRegistry::instance().knows(open->screen)) << item.caption;
+            EXPECT_TRUE(QString(open->screen) != "frmPrint" || findPrintKind(open->kind)) << item.caption;
+            ++screens;
+        }
+    EXPECT_GT(screens, 40);
+}
 
 // Runs once more at twice the scale (see tests/CMakeLists.txt).
 TEST_F(EveryScreen, IsReadableNamedAndWalkedAsTheEyeGoes) {
