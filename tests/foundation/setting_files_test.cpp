@@ -35,6 +35,9 @@ TEST_F(SettingFiles, TheCheckBookHasADefault) {
         ReadCheckIni();
         EXPECT_EQ(session().CheckBookFormat, format) << text;
     }
+    write("Check.ini", QByteArray(1'000'000, 'c'));
+    ReadCheckIni();
+    EXPECT_EQ(session().CheckBookFormat, QString(1000, 'C')) << "no more of it counts";
     QFile::remove(folder_.filePath("Check.ini"));
     session().CheckBookFormat = "C";
     ReadCheckIni();

@@ -292,6 +292,13 @@ TEST_F(FrameTest, ThePanelLiesOverTheEmptyFrameOnly) {
     ASSERT_TRUE(opened("frmSalesGrid"));
     EXPECT_FALSE(shortcuts->isVisible());
     EXPECT_TRUE(opened("frmSalesGrid")->isVisible());
+
+    store().run("UPDATE tblSystemProfile SET CompanyName = 'Tindahan'");
+    opened("frmSalesGrid")->unload();
+    waitForTimers();
+    EXPECT_TRUE(std::ranges::any_of(shortcuts->findChildren<QLabel*>(), [](const QLabel* label) {
+        return label->text() == "Tindahan";
+    })) << "the company's new name";
 }
 
 TEST_F(EmptyFrame, CloseAllClosesNoneWhileOneStays) {
